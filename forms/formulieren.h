@@ -1,0 +1,33 @@
+// The forms of the program and the shared values, each form created on first use and kept for the whole run.
+// It opens nothing by itself; the forms open one another through it.
+#pragma once
+
+#include "globals/globalen.h"
+#include "runtime/form.h"
+
+#include <memory>
+#include <typeindex>
+#include <unordered_map>
+
+namespace cijferwerf {
+
+class formulieren {
+public:
+    explicit formulieren(outside& with) : buiten(with) {}
+
+    // The program's one form of this class.
+    template<class Form>
+    Form& get() {
+        auto& kept = forms_[typeid(Form)];
+        if (!kept) kept = std::make_unique<Form>(buiten, *this);
+        return static_cast<Form&>(*kept);
+    }
+
+    outside& buiten;
+    GLOBALEN globalen;
+
+private:
+    std::unordered_map<std::type_index, std::unique_ptr<form>> forms_;
+};
+
+} // namespace cijferwerf

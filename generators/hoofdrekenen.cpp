@@ -1,0 +1,22 @@
+#include "generators/oefeningen.h"
+
+namespace cijferwerf {
+
+// Not written yet: each leaves the record blank.
+void oefeningen::B_tafels_09_02_click() {}
+void oefeningen::L_aftrekken_09_01_click() {}
+void oefeningen::L_delen_1_09_06_click() {}
+void oefeningen::L_keer_09_02_click() {}
+void oefeningen::M_delen_2_09_06_click() {}
+void oefeningen::M_nullen_09_06_click() {}
+void oefeningen::Z_komma_09_06_click() {}
+void oefeningen::B_gestreept_10_03_click() {}
+void oefeningen::B_schatten_1_10_09_click() {}
+void oefeningen::L_betegelen_10_12_click() {}
+void oefeningen::L_bezoekers_10_00_click() {}
+void oefeningen::L_schaal_10_16_click() {}
+void oefeningen::L_schatten_2_10_09_click() {}
+void oefeningen::M_erfenis_10_07_click() {}
+void oefeningen::M_seconden_10_06_click() {}
+
+} // namespace cijferwerf

@@ -1,0 +1,28 @@
+#include "globals/globalen.h"
+
+#include "runtime/checked_error.h"
+
+#include <algorithm>
+
+namespace cijferwerf {
+
+void GLOBALEN::wis_score() {
+    aantalvragengedaan = goed_poging_1 = goed_poging_2 = goed_poging_3 = goed_poging_4 = 0;
+    titellijst.fill({});
+    scoretabel = {};
+}
+
+void GLOBALEN::tel_uitslag(int poging) {
+    const auto slot = std::ranges::find_if(
+        titellijst, [this](const std::string& title) { return title == gekozen_oefening || title.empty(); });
+    if (slot == titellijst.end()) throw checked_error("De scorelijst is vol: er is geen plaats voor een nieuwe titel.");
+    if (poging < 1 || poging > attempts)
+        throw checked_error("De score kent geen poging nummer " + std::to_string(poging) + ".");
+
+    *slot = gekozen_oefening;
+    ++aantalvragengedaan;
+    ++(poging == 1 ? goed_poging_1 : poging == 2 ? goed_poging_2 : poging == 3 ? goed_poging_3 : goed_poging_4);
+    ++scoretabel[static_cast<std::size_t>(slot - titellijst.begin())][static_cast<std::size_t>(poging - 1)];
+}
+
+} // namespace cijferwerf

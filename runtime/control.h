@@ -1,0 +1,142 @@
+// The controls of a form as plain data: what a front end needs to make a widget of each, and the handlers to call.
+// They paint nothing and decide nothing; the form that owns them does.
+#pragma once
+
+#include "runtime/checked_error.h"
+#include "runtime/picture_box.h"
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace cijferwerf {
+
+enum class control_kind : std::uint8_t { label, button, option_button, list_box, frame, picture_box, timer };
+
+// What a control is for, so that a theme can dress it; the theme belongs to the front end.
+enum class theme_role : std::uint8_t {
+    body,            // plain text
+    title,           // the large words of a start screen
+    heading,         // text on the bar across the top
+    heading_bar,     // that bar itself (a frame)
+    panel,           // a white panel on the calm ground (a frame)
+    prompt,          // says what to do
+    hint,            // small text that comes and goes
+    question,        // a line of the question
+    answer,          // an answer text, clicked like its button
+    answer_button,   // A to D
+    message_heading, // the word above the messages
+    verdict,         // right or wrong, in a sentence
+    message,         // a line of tips, comments or explanation
+    action,          // a button that leads elsewhere
+    main_action,     // the button that goes on
+    choice,          // a large choice: an option button, or an entry of a menu
+    key,             // a digit key of the calculator
+    operator_key,    // its other keys
+    readout,         // its display
+    value,           // a number on the score sheet
+    list,            // a list box
+    picture,         // a picture box
+};
+
+struct control {
+    explicit control(control_kind of_kind) : kind(of_kind) {}
+    control(const control&) = delete;
+    control& operator=(const control&) = delete;
+
+    const control_kind kind;
+    std::string name;
+    std::optional<int> index; // the element of a control array that this is
+    int left = 0, top = 0;    // twips from the form's top-left corner
+    int width = 0, height = 0;
+    std::string caption; // UTF-8; a carriage return starts a second line
+    bool visible = true;
+    bool enabled = true;
+    std::optional<kleur> colour; // of the text, where the theme's own will not do
+    double font_size = 9.75;     // points
+    theme_role role = theme_role::body;
+    std::string accessible_name; // for a screen reader, where the caption does not say enough
+    std::string keys;            // each of these keys presses it, wherever the focus is (see form::press)
+    char mnemonic = 0;           // with Alt, presses it; a letter of the caption
+
+    std::function<void()> click;
+    std::function<void()> hover; // the pointer, or the keyboard focus, came upon it
+};
+
+struct label : control {
+    label() : control(control_kind::label) {}
+    bool right_aligned = false;
+};
+
+struct button : control {
+    button() : control(control_kind::button) {}
+    std::optional<drawing> mark; // a small drawing above the caption, of drawing::inner_width by drawing::inner_height
+};
+
+struct option_button : control {
+    option_button() : control(control_kind::option_button) {}
+    bool selected = false; // the front end keeps at most one of a form selected
+    std::optional<drawing> mark;
+};
+
+struct list_box : control {
+    list_box() : control(control_kind::list_box) {}
+    std::vector<std::string> items;
+    int selected = -1;                 // position in items, or -1; the front end sets it before it calls a handler
+    std::function<void(int)> keypress; // a key code: 13 is Enter
+
+    static constexpr int enter_key = 13;
+};
+
+struct frame : control {
+    frame() : control(control_kind::frame) {}
+};
+
+// The picture box is a control and a drawing at once.
+struct picture_box : control, drawing {
+    picture_box() : control(control_kind::picture_box) {
+        width = inner_width;
+        height = inner_height;
+    }
+};
+
+struct timer : control {
+    timer() : control(control_kind::timer) { enabled = false; }
+
+    int interval = 1000; // ms
+    std::function<void()> tick;
+
+    // The first tick comes one interval from now, also where the timer was running already.
+    void start() {
+        enabled = true;
+        started = true;
+    }
+    void stop() { enabled = false; }
+
+    bool started = false; // since the event gate looked last; the gate's own
+};
+
+// A control array with its own first and last index. An index outside ends the run with a message.
+template<class Control, int First, int Last>
+class control_array {
+public:
+    Control& operator[](int index) {
+        if (index < First || index > Last)
+            throw checked_error("control array index " + std::to_string(index) + " outside " + std::to_string(First) +
+                                " to " + std::to_string(Last));
+        return elements_[static_cast<std::size_t>(index - First)];
+    }
+    auto begin() { return elements_.begin(); }
+    auto end() { return elements_.end(); }
+
+    static constexpr int first = First;
+    static constexpr int last = Last;
+
+private:
+    std::array<Control, static_cast<std::size_t>(Last - First + 1)> elements_;
+};
+
+} // namespace cijferwerf

@@ -1,0 +1,64 @@
+// Lets events through to the forms one at a time, and keeps the timers: a tick that falls due while a handler runs
+// (or a message box that it opened is up) waits until the handler has returned, and none is lost.
+// Where events come from, and when to wake up for the next tick, is left to the front end.
+#pragma once
+
+#include "runtime/form.h"
+
+#include <algorithm>
+#include <chrono>
+#include <optional>
+#include <unordered_map>
+#include <unordered_set>
+
+namespace cijferwerf {
+
+class event_gate {
+public:
+    using milliseconds = std::chrono::milliseconds;
+
+    // A steady clock; it never goes back.
+    explicit event_gate(std::function<milliseconds()> clock) : clock_(std::move(clock)) {}
+
+    // Runs the handler of an event. False, and nothing is run, while another handler runs.
+    template<class Handler>
+    bool handle(Handler&& handler) {
+        if (busy_) return false;
+        {
+            const busy_guard guard(busy_);
+            handler();
+        }
+        look_at_timers();
+        return true;
+    }
+
+    // The timers of these forms tick from now on, or no longer. May be called by a handler.
+    void watch(form& loaded) { forms_.insert(&loaded); }
+    void forget(form& unloaded);
+
+    // Delivers every tick that is due, in the order in which they fell due. Nothing while a handler runs.
+    void deliver_ticks();
+    // How long until the next tick is due (0 when one is overdue); nothing when no timer runs.
+    std::optional<milliseconds> until_next_tick() const;
+
+private:
+    struct busy_guard {
+        explicit busy_guard(bool& flag) : busy(flag) { busy = true; }
+        ~busy_guard() { busy = false; }
+        busy_guard(const busy_guard&) = delete;
+        busy_guard& operator=(const busy_guard&) = delete;
+        bool& busy;
+    };
+
+    void look_at_timers();
+    auto next_timer() const {
+        return std::ranges::min_element(due_, {}, [](const auto& entry) { return entry.second; });
+    }
+
+    std::function<milliseconds()> clock_;
+    std::unordered_set<form*> forms_;
+    std::unordered_map<timer*, milliseconds> due_; // the running timers, each with the time of its next tick
+    bool busy_ = false;
+};
+
+} // namespace cijferwerf

@@ -1,0 +1,62 @@
+// A form: a screen of controls with its life from loading to unloading.
+// What its controls do is left to the form that derives from it, how they look to a front end.
+#pragma once
+
+#include "runtime/control.h"
+#include "runtime/outside.h"
+
+namespace cijferwerf {
+
+// Place and size in twips.
+struct place {
+    int left, top, width, height;
+};
+
+class form {
+public:
+    form(outside& with, std::string form_name) : caption(program_name), buiten(with), name_(std::move(form_name)) {}
+    form(const form&) = delete;
+    form& operator=(const form&) = delete;
+    virtual ~form() = default;
+
+    // Brings the form to the front, loading it first when it is not loaded.
+    void show();
+    // The same for a menu or the start: the form is then activated as well.
+    void open();
+    void unload();
+    bool loaded() const { return loaded_; }
+
+    // The window manager asks to close the form's window.
+    virtual void close_requested() { unload(); }
+
+    // Presses the first visible and enabled control that lists this key; false when none does. Keys are the
+    // characters that they type, upper case; Enter is "\r", Escape "\x1b" and Delete "\x7f".
+    bool press(char key);
+
+    const std::string& name() const { return name_; }
+    const std::vector<control*>& controls() const { return controls_; } // in tab order
+
+    std::string caption;      // the title bar's
+    int width = 12480;        // twips, as is the height
+    int height = 7800;        //
+    bool side_window = false; // true: a window of its own beside the main one, which stays usable
+    control* focus = nullptr; // where a handler wants the keyboard to go; the front end takes it and sets it back
+
+protected:
+    virtual void load() {}
+    virtual void activate() {}
+
+    // Takes up a control of this form. Tab order is the order of the calls.
+    void add(control& added, std::string control_name, place at, theme_role role, std::string control_caption = {});
+    // The same for a control without a place on the screen.
+    void add(timer& added, std::string control_name, int interval_ms);
+
+    outside& buiten;
+
+private:
+    std::string name_;
+    std::vector<control*> controls_;
+    bool loaded_ = false;
+};
+
+} // namespace cijferwerf

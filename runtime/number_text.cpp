@@ -1,0 +1,114 @@
+#include "runtime/number_text.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace cijferwerf {
+
+namespace {
+
+constexpr std::array<std::uint64_t, 10> powers_of_ten{1,       10,        100,        1'000,       10'000,
+                                                      100'000, 1'000'000, 10'000'000, 100'000'000, 1'000'000'000};
+
+std::uint64_t magnitude(long long number) {
+    const auto bits = static_cast<std::uint64_t>(number);
+    return number < 0 ? 0 - bits : bits;
+}
+
+// The digits of a number, at least so many of them.
+std::string_view digits(std::uint64_t number, std::array<char, 32>& buffer, int at_least = 1) {
+    char* const end = buffer.data() + buffer.size();
+    char* begin = end;
+    for (int n = 0; n < at_least || number > 0; ++n, number /= 10) *--begin = static_cast<char>('0' + number % 10);
+    return {begin, static_cast<std::size_t>(end - begin)};
+}
+
+number_text signed_blank(long long number) {
+    number_text text;
+    text.append(number < 0 ? "-" : " ");
+    return text;
+}
+
+void append_thousands(number_text& text, std::uint64_t number) {
+    std::array<char, 32> buffer{};
+    const std::string_view all = digits(number, buffer);
+    if (all.size() > 3) {
+        text.append(all.substr(0, all.size() - 3));
+        text.append(".");
+        text.append(all.substr(all.size() - 3));
+    } else
+        text.append(all);
+}
+
+number_text decimal(long long scaled, int decimals, std::string_view separator, bool shortest) {
+    const std::uint64_t one = powers_of_ten.at(static_cast<std::size_t>(decimals));
+    std::uint64_t fraction = magnitude(scaled) % one;
+    while (shortest && decimals > 0 && fraction % 10 == 0) {
+        fraction /= 10;
+        --decimals;
+    }
+    std::array<char, 32> buffer{};
+    number_text text = signed_blank(scaled);
+    text.append(digits(magnitude(scaled) / one, buffer));
+    if (decimals > 0) {
+        text.append(separator);
+        text.append(digits(fraction, buffer, decimals));
+    }
+    return text;
+}
+
+} // namespace
+
+number_text tekst(long long number) {
+    std::array<char, 32> buffer{};
+    number_text text = signed_blank(number);
+    text.append(digits(magnitude(number), buffer));
+    return text;
+}
+
+number_text duizend(long long number) {
+    number_text text = signed_blank(number);
+    append_thousands(text, magnitude(number));
+    return text;
+}
+
+number_text komma(long long scaled, int decimals) { return decimal(scaled, decimals, ",", false); }
+number_text komma_kort(long long scaled, int decimals) { return decimal(scaled, decimals, ",", true); }
+number_text punt(long long scaled, int decimals) { return decimal(scaled, decimals, ".", true); }
+
+number_text geld(long long cents) {
+    number_text text = signed_blank(cents);
+    append_thousands(text, magnitude(cents) / 100);
+    if (const std::uint64_t rest = magnitude(cents) % 100; rest != 0) {
+        std::array<char, 32> buffer{};
+        text.append(",");
+        text.append(digits(rest, buffer, 2));
+    }
+    return text;
+}
+
+long long afgerond(double value, int decimals) {
+    const double scaled = value * static_cast<double>(powers_of_ten.at(static_cast<std::size_t>(decimals)));
+    return std::abs(scaled) < 9e18 ? std::llround(scaled) : 0;
+}
+
+number_text kaal(const number_text& number) {
+    number_text text;
+    text.append(kaal(std::string_view(number)));
+    return text;
+}
+
+number_text kaal(long long number) { return kaal(tekst(number)); }
+
+double lees_getal(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+')) text.remove_prefix(1);
+    if (text.empty() || !(text.front() == '.' || (text.front() >= '0' && text.front() <= '9'))) return 0;
+    double value = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
+    if (read.ec != std::errc{}) return 0;
+    return negative ? -value : value;
+}
+
+} // namespace cijferwerf

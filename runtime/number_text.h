@@ -1,0 +1,104 @@
+// Every form in which a number enters a text, and the lenient reader that turns text back into a number.
+// It does not choose between the forms: the exercise or the screen that shows the number does.
+#pragma once
+
+#include <array>
+#include <concepts>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace cijferwerf {
+
+// The text of one number, at most 31 characters, without a heap allocation.
+class number_text {
+public:
+    constexpr number_text() = default;
+    constexpr operator std::string_view() const { return {characters_.data(), length_}; }
+
+    // Characters past the 31st are dropped.
+    constexpr void append(std::string_view text) {
+        for (const char c : text)
+            if (length_ < characters_.size()) characters_[length_++] = c;
+    }
+
+private:
+    std::array<char, 31> characters_{};
+    std::uint8_t length_ = 0;
+};
+
+// Whole numbers, but not bool and not characters.
+template<class T>
+concept whole_number =
+    std::integral<T> && !std::same_as<T, bool> && !std::same_as<T, char> && !std::same_as<T, wchar_t> &&
+    !std::same_as<T, char8_t> && !std::same_as<T, char16_t> && !std::same_as<T, char32_t>;
+
+// " 5" and "-5": a number that is not negative has a blank in front.
+number_text tekst(long long number);
+
+// " 999", " 1.000", " 315.810": "." before the last three digits from 1000 on, one separator only.
+number_text duizend(long long number);
+
+// A number with exactly so many decimals (0 to 9), given as that many tenths, hundredths, ...:
+// komma(1250, 2) is " 12,50", komma(-5, 1) is "-0,5".
+number_text komma(long long scaled, int decimals);
+
+// The same in its shortest form: komma_kort(1250, 2) is " 12,5", komma_kort(1200, 2) is " 12".
+number_text komma_kort(long long scaled, int decimals);
+
+// Euros from whole cents: " 12,50", " 1.234,05", and without decimals where no cents are left: " 1.234".
+number_text geld(long long cents);
+
+// A number for a drawing command: like komma_kort, with "." as decimal point.
+number_text punt(long long scaled, int decimals);
+
+// The value as so many tenths, hundredths, ... (halves away from zero), ready for komma and its kin.
+// Values that do not fit, and not-a-number, become 0.
+long long afgerond(double value, int decimals = 0);
+
+// The same text without blanks at its ends. The view form lives as long as the text that it is given.
+number_text kaal(long long number);
+number_text kaal(const number_text& number);
+constexpr std::string_view kaal(std::string_view text) {
+    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+    while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+    return text;
+}
+
+// Reads leading digits with an optional sign and an optional decimal point (blanks in front are skipped);
+// whatever follows is ignored, and text without a number is 0. Never an error, never a locale.
+double lees_getal(std::string_view text);
+
+// What regel() takes: texts, whole numbers and the number forms above. bool, char and floating point are refused.
+template<class T>
+concept line_part = std::convertible_to<const T&, std::string_view> || whole_number<T>;
+
+// Glues a line from its parts in the order in which they are read. A whole number gets the blank in front
+// that tekst() gives it; texts go in as they stand.
+template<line_part... Parts>
+std::string regel(const Parts&... parts) {
+    std::string line;
+    line.reserve(64);
+    const auto add = [&line](const auto& part) {
+        if constexpr (std::integral<std::remove_cvref_t<decltype(part)>>)
+            line += std::string_view(tekst(static_cast<long long>(part)));
+        else
+            line += std::string_view(part);
+    };
+    (add(parts), ...);
+    return line;
+}
+
+// The fields of a drawing command joined by "_", numbers without a blank: velden(1, 2, 3) is "1_2_3".
+template<line_part... Parts>
+std::string velden(const Parts&... parts) {
+    std::string fields;
+    const auto add = [&fields](const auto& part) {
+        if (!fields.empty()) fields += '_';
+        fields += regel(kaal(part));
+    };
+    (add(parts), ...);
+    return fields;
+}
+
+} // namespace cijferwerf

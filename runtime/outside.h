@@ -1,0 +1,54 @@
+// What the program needs from outside: windows, message boxes, a printer, the clock, an end.
+// A front end, a test and a tool each bring their own; no rule of the program lives behind it.
+#pragma once
+
+#include "runtime/report.h"
+
+#include <string>
+
+namespace cijferwerf {
+
+class form;
+
+struct local_time {
+    int year = 0;  // four digits
+    int month = 1; // 1 to 12
+    int day = 1;   // 1 to 31
+    int hour = 0;
+    int minute = 0;
+};
+
+enum class box_buttons { ok, yes_no };
+enum class box_answer { ok, yes, no };
+
+struct print_result {
+    enum class outcome { printed, no_printer, failed } what = outcome::printed;
+    std::string reason; // of a failure, as the system words it
+};
+
+class outside {
+public:
+    outside() = default;
+    outside(const outside&) = delete;
+    outside& operator=(const outside&) = delete;
+    virtual ~outside() = default;
+
+    // Brings a form to the front; it has been loaded.
+    virtual void show(form& shown) = 0;
+    // Takes a form off the screen; it lives on and may be shown again.
+    virtual void unload(form& gone) = 0;
+    // Opens a message box and waits for its answer.
+    virtual box_answer ask(const std::string& text, const std::string& title, box_buttons buttons) = 0;
+    // Prints on the default printer, without a dialogue.
+    virtual print_result print(const report& printed) = 0;
+    // Single precision, local time.
+    virtual float seconds_since_midnight() const = 0;
+    virtual local_time now() const = 0;
+    // Ends the program once the handler that runs has returned.
+    virtual void end() = 0;
+};
+
+// The program's name: the title of windows and boxes that have no other.
+inline const std::string program_name = "Cijferwerf";
+
+} // namespace cijferwerf
