@@ -314,9 +314,11 @@ void oefeningen::M_blessures_01_08_click() {
                   regel(kaal(duizend(rij.blessures())), " :", rij.een_procent, " =", rij.procent,
                         " %. Dat is niet het ", grootst ? "grootste." : "kleinste."));
     }
-    tip_1("Heb je wel alle percentages van de sporten", "berekend?");
-    tip_2("Heb je bij alle sporten wel alle percentages", "berekend en gekeken bij welke sport dat het",
-          grootst ? "hoogste is?" : "laagste is?");
+    if (variant % 2 == 1) {
+        tip_1("Heb je wel alle percentages van de sporten", "berekend?");
+        tip_2("Heb je bij alle sporten wel alle percentages", "berekend en gekeken bij welke sport dat het",
+              grootst ? "hoogste is?" : "laagste is?");
+    }
 
     const auto som = [](const sport& s) {
         return regel(s.naam, ":", duizend(s.blessures()), " :", s.een_procent, " =", s.procent, " %");
@@ -419,11 +421,7 @@ void oefeningen::M_rente_01_08_click() {
     // Four percentages in a row, upward or downward, none of them 0.
     const bool omhoog = p <= juist - 1 ? false : p <= 4 - juist ? true : munt();
     juist_op(juist);
-    for (int i = 1; i <= 4; ++i) {
-        const int ander = omhoog ? p + i - juist : p - i + juist;
-        op_plaats(i, procent(ander),
-                  regel("Reken maar na:", ander, " % van ", euro(oud), " is ", euro(ander * een_procent), "."));
-    }
+    for (int i = 1; i <= 4; ++i) op_plaats(i, procent(omhoog ? p + i - juist : p - i + juist));
     if (volwassen) {
         tip_1("Reken eerst eens het oude bedrag uit.");
         tip_2("Bereken eerst het oude bedrag en probeer dan", "uit te vinden hoeveel euro 1 % van het oude",
