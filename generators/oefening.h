@@ -164,7 +164,7 @@ public:
 private:
     template<class... Lines>
     static void schrijf(tekstregels& to, std::size_t first, Lines&&... lines) {
-        const auto put = [&](auto&& line) { to[first++] = std::forward<decltype(line)>(line); };
+        [[maybe_unused]] const auto put = [&](auto&& line) { to[first++] = std::forward<decltype(line)>(line); };
         (put(std::forward<Lines>(lines)), ...);
     }
 };

@@ -40,7 +40,7 @@ void append_thousands(number_text& text, std::uint64_t number) {
         text.append(all);
 }
 
-number_text decimal(long long scaled, int decimals, std::string_view separator, bool shortest) {
+number_text decimal(long long scaled, int decimals, std::string_view separator, bool shortest, bool thousands) {
     const std::uint64_t one = powers_of_ten.at(static_cast<std::size_t>(decimals));
     std::uint64_t fraction = magnitude(scaled) % one;
     while (shortest && decimals > 0 && fraction % 10 == 0) {
@@ -49,7 +49,10 @@ number_text decimal(long long scaled, int decimals, std::string_view separator, 
     }
     std::array<char, 32> buffer{};
     number_text text = signed_blank(scaled);
-    text.append(digits(magnitude(scaled) / one, buffer));
+    if (thousands)
+        append_thousands(text, magnitude(scaled) / one);
+    else
+        text.append(digits(magnitude(scaled) / one, buffer));
     if (decimals > 0) {
         text.append(separator);
         text.append(digits(fraction, buffer, decimals));
@@ -72,9 +75,9 @@ number_text duizend(long long number) {
     return text;
 }
 
-number_text komma(long long scaled, int decimals) { return decimal(scaled, decimals, ",", false); }
-number_text komma_kort(long long scaled, int decimals) { return decimal(scaled, decimals, ",", true); }
-number_text punt(long long scaled, int decimals) { return decimal(scaled, decimals, ".", true); }
+number_text komma(long long scaled, int decimals) { return decimal(scaled, decimals, ",", false, true); }
+number_text komma_kort(long long scaled, int decimals) { return decimal(scaled, decimals, ",", true, true); }
+number_text punt(long long scaled, int decimals) { return decimal(scaled, decimals, ".", true, false); }
 
 number_text geld(long long cents) {
     number_text text = signed_blank(cents);

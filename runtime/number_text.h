@@ -40,7 +40,7 @@ number_text tekst(long long number);
 number_text duizend(long long number);
 
 // A number with exactly so many decimals (0 to 9), given as that many tenths, hundredths, ...:
-// komma(1250, 2) is " 12,50", komma(-5, 1) is "-0,5".
+// komma(1250, 2) is " 12,50", komma(-5, 1) is "-0,5", komma(123450, 2) is " 1.234,50".
 number_text komma(long long scaled, int decimals);
 
 // The same in its shortest form: komma_kort(1250, 2) is " 12,5", komma_kort(1200, 2) is " 12".
@@ -49,7 +49,7 @@ number_text komma_kort(long long scaled, int decimals);
 // Euros from whole cents: " 12,50", " 1.234,05", and without decimals where no cents are left: " 1.234".
 number_text geld(long long cents);
 
-// A number for a drawing command: like komma_kort, with "." as decimal point.
+// A number for a drawing command: in its shortest form with "." as decimal point and no other.
 number_text punt(long long scaled, int decimals);
 
 // The value as so many tenths, hundredths, ... (halves away from zero), ready for komma and its kin.
