@@ -6,7 +6,7 @@
 
 namespace cijferwerf {
 
-menu::menu(outside& with, formulieren& forms, std::string form_name, std::string_view set, std::string question)
+menu::menu(outside& with, formulieren& forms, std::string form_name, std::string_view set, std::string opschrift)
     : form(with, std::move(form_name)),
       forms_(forms),
       set_(set) {
@@ -14,7 +14,7 @@ menu::menu(outside& with, formulieren& forms, std::string form_name, std::string
     caption = set;
     add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
     add(terug, "terug", {240, 150, 1260, 420}, action, "terug");
-    add(opschriftbalk, "opschriftbalk", {1740, 150, 6300, 420}, heading, std::move(question));
+    add(opschriftbalk, "opschriftbalk", {1740, 150, 6300, 420}, heading, std::move(opschrift));
     opschriftbalk.font_size = 15;
     add(stoppen, "stoppen", {10980, 150, 1260, 420}, action, "stoppen");
     terug.keys = "\x1b";

@@ -20,7 +20,7 @@ public:
     button terug, stoppen;
 
 protected:
-    menu(outside& with, formulieren& forms, std::string form_name, std::string_view set, std::string question);
+    menu(outside& with, formulieren& forms, std::string form_name, std::string_view set, std::string opschrift);
 
     // Makes a button the entry of a list: its heading and its mark.
     void leg_keuze_neer(button& entry, const std::string& array, int i, place at);
