@@ -7,7 +7,7 @@ namespace cijferwerf {
 achtergrond::achtergrond(outside& with, formulieren& forms) : form(with, "achtergrond"), forms_(forms) {
     add(naam, "naam", {1240, 2900, 10000, 1100}, theme_role::title, program_name);
     naam.font_size = 36;
-    add(ondertitel, "ondertitel", {1240, 4100, 10000, 500}, theme_role::prompt, "oefenen met rekenen");
+    add(ondertitel, "ondertitel", {1240, 4100, 10000, 500}, theme_role::title, "oefenen met rekenen");
     ondertitel.font_size = 15;
     add(Timer1, "Timer1", 1000);
     Timer1.tick = [this] { Timer1_tick(); };

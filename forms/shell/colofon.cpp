@@ -11,11 +11,12 @@ colofon::colofon(outside& with, formulieren& forms, std::string form_name, std::
     using enum theme_role;
     caption = set;
     add(klik, "klik", {0, 0, width, height}, body);
-    klik.keys = "\r \x1b";
+    klik.keys = "\r\x1b";
+    klik.accessible_name = "verder naar het menu";
     add(titel, "titel", {600, 1700, 11280, 900}, title, std::string(set));
     titel.font_size = 28;
     for (int i = 1; i <= lines; ++i) {
-        add(regels[i], "regels", {600, 2800 + (i - 1) * 450, 11280, 400}, prompt,
+        add(regels[i], "regels", {600, 2800 + (i - 1) * 450, 11280, 400}, title,
             std::string(credits[static_cast<std::size_t>(i - 1)]));
         regels[i].index = i;
         regels[i].font_size = 12;
@@ -23,9 +24,7 @@ colofon::colofon(outside& with, formulieren& forms, std::string form_name, std::
     add(verder, "verder", {5040, 5600, 2400, 600}, main_action, "verder");
     verder.font_size = 13;
     verder.mnemonic = 'v';
-    for (control* part :
-         std::initializer_list<control*>{&klik, &titel, &verder, &regels[1], &regels[2], &regels[3], &regels[4]})
-        part->click = [this] { klik_click(); };
+    klik.click = verder.click = [this] { klik_click(); };
 }
 
 colofoncl::colofoncl(outside& with, formulieren& forms)
