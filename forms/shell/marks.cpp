@@ -198,20 +198,17 @@ void energie(drawing& on) {
     on.filled_box(midden_x - 250, 1520, 500, 480, grijs);
 }
 
-// An arrow that goes round.
+// An arrow that goes round: a ring that is open at the top, and its head.
 void herhaling(drawing& on) {
-    constexpr int straal = 800;
-    constexpr int stappen = 28; // of ten degrees, from one o'clock on
-    on.line_width = 12;
-    point vorige{};
-    for (int i = 0; i <= stappen; ++i) {
-        const double angle = (40 + i * 10) * std::numbers::pi / 180;
-        const point next{midden_x + along(straal * std::sin(angle)), midden_y - along(straal * std::cos(angle))};
-        if (i > 0) on.line(vorige.x, vorige.y, next.x, next.y, groen);
-        vorige = next;
-    }
-    on.polygon({{vorige.x - 350, vorige.y - 280}, {vorige.x + 460, vorige.y - 100}, {vorige.x - 120, vorige.y + 420}},
-               groen, true);
+    const auto rim = [](int degrees, int radius) {
+        const double angle = degrees * std::numbers::pi / 180;
+        return point{midden_x + along(radius * std::sin(angle)), midden_y - along(radius * std::cos(angle))};
+    };
+    std::vector<point> ring;
+    for (int degrees = 40; degrees <= 320; degrees += 10) ring.push_back(rim(degrees, 900));
+    for (int degrees = 320; degrees >= 40; degrees -= 10) ring.push_back(rim(degrees, 680));
+    on.polygon(ring, groen, true);
+    on.polygon({rim(310, 1180), rim(312, 400), rim(2, 850)}, groen, true);
 }
 
 // Books on a shelf.

@@ -24,13 +24,14 @@ menu::menu(outside& with, formulieren& forms, std::string form_name, std::string
     stoppen.click = [this] { stoppen_click(); };
 }
 
-void menu::leg_keuze_neer(button& entry, const std::string& array, int i, place at) {
+void menu::leg_keuze_neer(button& entry, const std::string& array, int i, place at, double font_size) {
     const catalogue_list& shown = *lijst(i);
     const bool review = shown.drawn();
     std::string heading(shown.heading);
     entry.accessible_name = heading;
     if (const auto dash = heading.find(" - "); dash != std::string::npos) heading.replace(dash, 3, " -\r");
     add(entry, array, at, review ? theme_role::action : theme_role::choice, heading);
+    entry.font_size = font_size;
     entry.index = i;
     entry.mark = merkteken(shown.key);
     entry.click = [this, i] { kies(i); };
@@ -64,7 +65,7 @@ menucl::menucl(outside& with, formulieren& forms) : menu(with, forms, "menucl", 
     for (int i = 1; i <= 12; ++i) {
         const int row = (i - 1) / 3;
         const int column = (i - 1) % 3;
-        leg_keuze_neer(boekje[i], "boekje", i, {240 + column * 4050, 960 + row * 1680, 3900, 1560});
+        leg_keuze_neer(boekje[i], "boekje", i, {240 + column * 4050, 960 + row * 1680, 3900, 1560}, 10.5);
     }
 }
 
@@ -73,8 +74,8 @@ void menucl::bevestig_stoppen() { buiten.ask("Wil je echt stoppen?", program_nam
 // ---- the tasks ----
 
 menusw::menusw(outside& with, formulieren& forms) : menu(with, forms, "menusw", task_set, "Kies een taak") {
-    add(Frame1, "Frame1", {240, 870, 5940, 6780}, theme_role::panel, "DEEL 1");
-    add(Frame2, "Frame2", {6300, 870, 5940, 6780}, theme_role::panel, "DEEL 2");
+    add(Frame1, "Frame1", {120, 870, 6060, 6810}, theme_role::panel, "DEEL 1");
+    add(Frame2, "Frame2", {6300, 870, 6060, 6810}, theme_role::panel, "DEEL 2");
 
     // In a frame: four tasks, two by two, and the review task under them over the full width; then the same again.
     constexpr int rij = 1140;
@@ -85,10 +86,10 @@ menusw::menusw(outside& with, formulieren& forms) : menu(with, forms, "menusw", 
         const int left = (i <= 10 ? Frame1 : Frame2).left + 120;
         const int top = Frame1.top + 330 + in_frame / 5 * (blok + 60);
         if (in_block == 4)
-            leg_keuze_neer(plaatje[i], "plaatje", i, {left, top + 2 * rij, 5700, 840});
+            leg_keuze_neer(plaatje[i], "plaatje", i, {left, top + 2 * rij, 5820, 840}, 9.75);
         else
             leg_keuze_neer(plaatje[i], "plaatje", i,
-                           {left + in_block % 2 * 2880, top + in_block / 2 * rij, 2820, rij - 60});
+                           {left + in_block % 2 * 2940, top + in_block / 2 * rij, 2880, rij - 60}, 8.25);
     }
 }
 

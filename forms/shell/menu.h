@@ -23,7 +23,7 @@ protected:
     menu(outside& with, formulieren& forms, std::string form_name, std::string_view set, std::string opschrift);
 
     // Makes a button the entry of a list: its heading and its mark.
-    void leg_keuze_neer(button& entry, const std::string& array, int i, place at);
+    void leg_keuze_neer(button& entry, const std::string& array, int i, place at, double font_size);
     // The list of entry i, or none when there is no such entry.
     const catalogue_list* lijst(int i) const;
     // Opens the practice screen on entry i; an index outside sets nothing and opens nothing.
