@@ -191,7 +191,7 @@ struct form_page::placed_control {
 
 form_page::form_page(form& of, event_runner run, QWidget* window) : QWidget(window), form_(of), run_(std::move(run)) {
     setObjectName(QString::fromStdString(of.name()));
-    setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     for (control* shown : of.controls())
         if (shown->kind != control_kind::timer) make_widget(*shown);
 }
