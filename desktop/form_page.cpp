@@ -41,7 +41,10 @@ protected:
             now.pressed = this->isDown();
             now.selected = this->isChecked();
         }
-        if constexpr (requires { this->text(); }) caption = this->text();
+        if constexpr (requires { this->text(); })
+            caption = this->text();
+        else
+            caption = line_breaks(shown_.caption);
         QPainter on(this);
         theme::paint(on, shown_, caption, this->size(), page_.unit(), now);
     }

@@ -1,6 +1,6 @@
 // The desktop program.
 #include "desktop/desktop.h"
-#include "forms/practice/mama.h"
+#include "forms/shell/achtergrond.h"
 
 #include <QApplication>
 
@@ -13,12 +13,6 @@ int main(int argc, char** argv) {
 
     desktop outside;
     formulieren forms(outside);
-    outside.run([&forms] {
-        forms.globalen.gekozen_pakket = booklet_set;
-        forms.globalen.gekozen_onderdeel = "boekje01";
-        auto& m = forms.get<mama>();
-        m.kies("BOEKJE 1 - PROCENTEN", std::string(booklet_set), true);
-        m.open();
-    });
+    outside.run([&forms] { forms.get<achtergrond>().open(); });
     return QApplication::exec();
 }

@@ -159,10 +159,14 @@ const QImage& picture_cache::scaled(const std::string& file, QSize size) {
 }
 
 void paint_drawing(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures) {
+    on.fillRect(box, rgb(shown.ground));
+    paint_operations(on, shown, box, pictures);
+}
+
+void paint_operations(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures) {
     on.save();
     on.setClipRect(box, Qt::IntersectClip);
     on.setRenderHint(QPainter::Antialiasing);
-    on.fillRect(box, rgb(shown.ground));
     replay each(on, shown, box, pictures);
     for (const drawing_op& op : shown.operations()) std::visit(each, op);
     on.restore();

@@ -28,6 +28,8 @@ private:
 
 // Fills this box, whose coordinates are the painter's, with the drawing. Nothing is painted outside it.
 void paint_drawing(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures);
+// The same without the drawing's ground, on what is there.
+void paint_operations(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures);
 
 // What a drawing says, line by line, for who cannot see it.
 QString reading_of(const drawing& shown);

@@ -40,7 +40,7 @@ look at_rest(const control& shown) {
     case title: return {.text = accent};
     case heading: return {.text = paper};
     case heading_bar: return {.fill = accent, .radius = 0};
-    case panel: return {.fill = paper, .edge = edge, .radius = 120};
+    case panel: return {.text = accent, .fill = paper, .edge = edge, .radius = 120};
     case prompt:
     case message_heading: return {.text = accent};
     case hint: return {.text = soft_ink};
@@ -111,17 +111,16 @@ void paint_text(QPainter& on, const QRectF& box, double unit, int flags, const Q
 }
 
 // The drawing of a button: at the left of a wide one, above the caption of any other. Takes its room off the box.
-void paint_mark(QPainter& on, const drawing& mark, QRectF& box, double unit, bool captioned) {
+void paint_mark(QPainter& on, const drawing& mark, QRectF& box, double unit, double caption_height) {
     constexpr double shape = static_cast<double>(drawing::inner_width) / drawing::inner_height;
     const double gap = 90 * unit;
     QRectF room = box.adjusted(gap, gap, -gap, -gap);
-    const bool beside = captioned && box.width() > 5 * box.height();
-    const double lines = captioned && !beside ? 330 * unit : 0;
-    const double height = std::min(room.height() - lines, room.width() / shape);
+    const bool beside = caption_height > 0 && box.width() > 5 * box.height();
+    const double height = std::min(room.height() - (beside ? 0 : caption_height * unit + gap), room.width() / shape);
     const QRectF drawn(beside ? room.left() : room.center().x() - height * shape / 2,
                        beside ? room.center().y() - height / 2 : room.top(), height * shape, height);
     picture_cache none;
-    paint_drawing(on, mark, drawn, none);
+    paint_operations(on, mark, drawn, none);
     if (beside)
         box.setLeft(drawn.right());
     else
@@ -166,7 +165,10 @@ QColor text_colour(kleur colour) {
 }
 
 int padding(const control& shown) {
-    return is_button(shown) || shown.role == theme_role::readout || shown.kind == control_kind::list_box ? 105 : 0;
+    return is_button(shown) || shown.role == theme_role::readout || shown.kind == control_kind::list_box ||
+                   shown.kind == control_kind::frame
+               ? 105
+               : 0;
 }
 
 QFont font(const control& shown) {
@@ -175,6 +177,7 @@ QFont font(const control& shown) {
     case title:
     case heading:
     case prompt:
+    case panel:
     case message_heading:
     case verdict:
     case answer_button:
@@ -190,14 +193,18 @@ void paint(QPainter& on, const control& shown, const QString& caption, QSizeF si
     QRectF box(QPointF(0, 0), size);
     paint_box(on, box, drawn, unit, now.selected ? 30 : 15);
     if (now.focused) paint_focus(on, box, drawn, unit);
-    if (const drawing* mark = mark_of(shown)) paint_mark(on, *mark, box, unit, !caption.isEmpty());
+    if (const drawing* mark = mark_of(shown)) {
+        const auto lines = caption.isEmpty() ? 0 : 1 + caption.count('\n');
+        paint_mark(on, *mark, box, unit, static_cast<double>(lines) * text_height(shown.font_size));
+    }
     if (caption.isEmpty()) return;
 
     const double side = padding(shown) * unit;
+    const double top = shown.kind == control_kind::frame ? side / 2 : 0;
     int flags = alignment(shown);
     if (is_button(shown)) flags |= Qt::TextShowMnemonic;
     if (shown.height > 2.5 * text_height(shown.font_size)) flags |= Qt::TextWordWrap;
-    paint_text(on, box.adjusted(side, 0, -side, 0), unit, flags, caption, font(shown), drawn.text);
+    paint_text(on, box.adjusted(side, top, -side, 0), unit, flags, caption, font(shown), drawn.text);
 }
 
 void paint_entry(QPainter& on, const control& list, const QString& text, const QRectF& box, double unit, state now) {

@@ -1,6 +1,9 @@
 #include "forms/practice/mama.h"
 
+#include "forms/introduction/infoscherm.h"
 #include "forms/practice/explanation.h"
+#include "forms/practice/scoreblad.h"
+#include "forms/shell/menu.h"
 
 namespace cijferwerf {
 
@@ -351,9 +354,7 @@ void mama::Timer1_tick() {
 
 // ---- leaving ----
 
-void mama::stopteken_click() {
-    if (buiten.ask("Wil je echt stoppen?", program_name, box_buttons::yes_no) == box_answer::yes) buiten.end();
-}
+void mama::stopteken_click() { forms_.vraag_of_stoppen(); }
 
 void mama::terug_hover() {
     taakkiezen_label.caption = globalen_.booklets() ? "boekje kiezen" : "taak kiezen";
@@ -366,11 +367,37 @@ void mama::Timer2_tick() {
     Timer2.stop();
 }
 
-void mama::terug_click() {}
+void mama::terug_click() {
+    const int te_bekijken = 0; // nothing counts it up, so going back never asks
+    if (te_bekijken != 0 && score_bekeken != "ja" &&
+        buiten.ask("Resultaten bekijken...?", globalen_.gekozen_pakket, box_buttons::yes_no) == box_answer::yes) {
+        score_click();
+        return;
+    }
+    if (globalen_.booklets())
+        forms_.get<menucl>().show();
+    else
+        forms_.get<menusw>().show();
+    forms_.get<scoreblad>().unload(); // its numbers are those of the practice that ends here
+    unload();
+}
 
-void mama::score_click() { score_bekeken = "ja"; }
+// A sheet that is open already is loaded again, so that it shows the counts of this moment.
+void mama::score_click() {
+    score_bekeken = "ja";
+    auto& sheet = forms_.get<scoreblad>();
+    sheet.unload();
+    sheet.show();
+}
 
-void mama::info_click() {}
+void mama::info_click() {
+    constexpr std::size_t before_number = 7; // "BOEKJE "
+    const std::string& heading = opschriftbalk.caption;
+    if (heading.size() <= before_number) return;
+    const auto boekje = static_cast<int>(lees_getal(std::string_view(heading).substr(before_number)));
+    auto& scherm = forms_.get<infoscherm>();
+    if (scherm.kies(boekje)) scherm.show();
+}
 
 void mama::k_click(int key) {
     const calculator::message message = rekenmachine_.press(key);

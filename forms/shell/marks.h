@@ -1,0 +1,15 @@
+// The little drawings that stand for a booklet, a task or a course set on the start form and the menus.
+// It places none of them; the form that shows one does.
+#pragma once
+
+#include "runtime/picture_box.h"
+
+#include <string_view>
+
+namespace cijferwerf {
+
+// The mark of a booklet or task ("boekje01", "taak20") or of a course set, by its title. Booklets and tasks on the same
+// subject share one, and so do the review tasks. Any other key gives an empty drawing.
+drawing merkteken(std::string_view key);
+
+} // namespace cijferwerf
