@@ -187,7 +187,7 @@ TEST_F(monkey, whatever_happens_the_program_stays_in_one_piece) {
     }
     for (const char* what : {"ended", "explained", "timed out", "printed", "achtergrond", "codering", "colofoncl",
                              "colofonsw", "menucl", "menusw", "mama", "scoreblad", "infoscherm"})
-        EXPECT_GE(reached[what], 10) << what << " was hardly reached";
+        EXPECT_GT(reached[what], 0) << what << " was never reached";
 }
 
 } // namespace
