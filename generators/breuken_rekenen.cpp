@@ -1,4 +1,4 @@
-// Fractions, the second half: simplifying, adding, subtracting, multiplying and dividing.
+// Fractions, the sums: adding, subtracting, simplifying, multiplying and dividing.
 #include "generators/breuk.h"
 #include "generators/oefeningen.h"
 
@@ -6,12 +6,7 @@ namespace cijferwerf {
 
 // Not written yet: each leaves the record blank.
 void oefeningen::L_optellen_03_14_click() {}
-void oefeningen::L_procenten_03_14_click() {}
-void oefeningen::L_stukken_03_14_click() {}
-void oefeningen::M_aanvullen_1_03_14_click() {}
-void oefeningen::M_aanvullen_2_03_14_click() {}
 void oefeningen::M_aftrekken_03_14_click() {}
-void oefeningen::M_tussen_in_03_14_click() {}
 void oefeningen::M_vereenvoudigen_03_14_click() {}
 void oefeningen::Z_delen_03_14_click() {}
 void oefeningen::Z_vermenigvuldigen_03_14_click() {}
