@@ -639,7 +639,11 @@ void oefeningen::B_grasveld_01_08_click() {
             const int baantjes = aantallen[static_cast<std::size_t>(trek(7))];
             return veld{baantjes, trek(baantjes - 1) + 1};
         },
-        [](const veld& v) { return v.gemaaid * 2 != v.baantjes; });
+        [](const veld& v) {
+            // No count of strips is the percentage of the other part, nor are the parts the same.
+            const int over = v.baantjes - v.gemaaid;
+            return v.gemaaid != over && v.gemaaid != v.procent(over) && over != v.procent(v.gemaaid);
+        });
     const int rest = n - m;
     const int procent_gemaaid = m * 100 / n;
     const int procent_rest = 100 - procent_gemaaid;

@@ -102,7 +102,6 @@ void mama::leg_controls_neer() {
     for (int i = 1; i <= 4; ++i) {
         const int top = 3300 + (i - 1) * 495;
         add(knop[i], "knop", {2580, top, 480, 450}, answer_button, letter(i));
-        knop[i].keys = letter(i) + std::to_string(i);
         add(alternatief[i], "alternatief", {3180, top, 3540, 450}, answer);
         knop[i].click = [this, i] { knop_click(i); };
         alternatief[i].click = [this, i] { alternatief_click(i); };
@@ -256,6 +255,9 @@ void mama::plaats_antwoorden() {
 void mama::toon_rekenmachine(bool shown) {
     rekenmachine.visible = display.visible = shown;
     for (button& key : k) key.visible = shown;
+    display.caption = rekenmachine_.display();
+    // The digits of the keyboard belong to the calculator while it is shown; A to D go on answering.
+    for (int i = 1; i <= 4; ++i) knop[i].keys = letter(i) + (shown ? "" : std::to_string(i));
 }
 
 // ---- answers ----
@@ -370,7 +372,14 @@ void mama::score_click() { score_bekeken = "ja"; }
 
 void mama::info_click() {}
 
-void mama::k_click(int) {}
+void mama::k_click(int key) {
+    const calculator::message message = rekenmachine_.press(key);
+    display.caption = rekenmachine_.display();
+    if (message == calculator::message::too_many_digits)
+        buiten.ask("te veel cijfers", globalen_.gekozen_pakket, box_buttons::ok);
+    else if (message == calculator::message::division_by_zero)
+        buiten.ask("delen door nul kan niet!", globalen_.gekozen_pakket, box_buttons::ok);
+}
 
 void mama::toon_aantalvragengedaan() {
     buiten.ask(regel("aantalvragengedaan =", globalen_.aantalvragengedaan), program_name, box_buttons::ok);

@@ -1,0 +1,54 @@
+// A form on the screen: a widget for each control, scaled with the page as a whole.
+// Hands what the user does to the form's handlers; what the handlers change is copied to the widgets by
+// update_widgets().
+#pragma once
+
+#include "runtime/form.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+namespace cijferwerf {
+
+class form_page : public QWidget {
+public:
+    // Runs a handler as an event: one at a time, and the widgets follow.
+    using event_runner = std::function<void(const std::function<void()>&)>;
+
+    form_page(form& of, event_runner run);
+    ~form_page() override;
+
+    form& shown() const { return form_; }
+    double unit() const { return unit_; } // pixels per twip
+    // Copies what has changed in the controls since the last time, and moves the focus where the form wants it.
+    void update_widgets();
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void closeEvent(QCloseEvent*) override;
+    bool eventFilter(QObject*, QEvent*) override;
+
+private:
+    struct placed_control; // a control, its widget, and what was copied to it last
+
+    void make_widget(control& shown);
+    void copy(placed_control& placed);
+    QWidget* next_focus();
+    void lay_out(placed_control& placed);
+    void clicked(control& on);
+    void select(option_button& selected);
+    bool key_pressed(control* focused, const QKeyEvent& event);
+
+    form& form_;
+    event_runner run_;
+    std::vector<placed_control> placed_;
+    double unit_ = 1.0 / 15;
+    QPointF corner_; // the top-left corner of the form on the page
+    bool updating_ = false;
+};
+
+} // namespace cijferwerf

@@ -1,0 +1,183 @@
+#include "desktop/picture_painter.h"
+
+#include <QCoreApplication>
+#include <QFontMetricsF>
+
+#include <algorithm>
+#include <cmath>
+
+namespace cijferwerf {
+
+namespace {
+
+constexpr double narrowing = 0.9; // picture text is set at 90 % of the face's width
+constexpr double twips_per_pixel = 15;
+
+QColor rgb(kleur colour) { return QColor::fromRgb(kleur_rgb[colour]); }
+
+Qt::PenStyle pen_style(line_style style) {
+    switch (style) {
+    case line_style::dash: return Qt::DashLine;
+    case line_style::dot: return Qt::DotLine;
+    case line_style::dash_dot: return Qt::DashDotLine;
+    case line_style::dash_dot_dot: return Qt::DashDotDotLine;
+    case line_style::transparent: return Qt::NoPen;
+    default: return Qt::SolidLine;
+    }
+}
+
+// Paints the operations one by one. Edges that run along the axes are laid on whole device pixels, so that they are
+// sharp and boxes that touch leave no gap.
+class replay {
+public:
+    replay(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures)
+        : on_(on),
+          shown_(shown),
+          box_(box),
+          pictures_(pictures),
+          unit_(box.width() / drawing::inner_width),
+          pixels_(on.device()->devicePixelRatioF()) {}
+
+    void operator()(const text_op& op) {
+        on_.save();
+        on_.translate(box_.topLeft() + QPointF(op.x, op.y) * unit_);
+        on_.scale(unit_ * narrowing, unit_);
+        const QFont font = twip_font(op.size);
+        on_.setFont(font);
+        on_.setPen(rgb(op.colour));
+        on_.drawText(QPointF(0, QFontMetricsF(font).ascent()), QString::fromStdString(op.text));
+        on_.restore();
+    }
+
+    void operator()(const line_op& op) {
+        take_up(op.pen, false);
+        if (op.from.x == op.to.x || op.from.y == op.to.y)
+            on_.drawLine(on_pixels(op.from, op.pen), on_pixels(op.to, op.pen));
+        else
+            on_.drawLine(place(op.from), place(op.to));
+    }
+
+    void operator()(const box_op& op) {
+        const point far_corner{op.x + op.width, op.y + op.height};
+        if (op.filled) {
+            const QPointF from = snapped(place({op.x, op.y}));
+            const QPointF to = snapped(place(far_corner));
+            const QSizeF size(std::max(to.x() - from.x(), 1 / pixels_), std::max(to.y() - from.y(), 1 / pixels_));
+            on_.fillRect(QRectF(from, size), rgb(op.pen.colour));
+        } else {
+            take_up(op.pen, false);
+            on_.drawRect(QRectF(on_pixels({op.x, op.y}, op.pen), on_pixels(far_corner, op.pen)));
+        }
+    }
+
+    void operator()(const circle_op& op) {
+        take_up(op.pen, op.filled);
+        const QPointF radius(op.radius_x * unit_, op.radius_y * unit_);
+        const QRectF around(place(op.centre) - radius, place(op.centre) + radius);
+        if (std::abs(op.sweep) >= 360)
+            on_.drawEllipse(around);
+        else
+            on_.drawPie(around, static_cast<int>(std::lround(op.start * 16)),
+                        static_cast<int>(std::lround(op.sweep * 16)));
+    }
+
+    void operator()(const polygon_op& op) {
+        take_up(op.pen, op.filled);
+        QPolygonF corners;
+        for (const point& corner : op.corners) corners << place(corner);
+        on_.drawPolygon(corners);
+    }
+
+    void operator()(const picture_op& op) {
+        const QSize size = (box_.size() * pixels_).toSize();
+        const QImage& image = pictures_.scaled(op.file, size);
+        if (!image.isNull()) {
+            on_.drawImage(box_, image);
+            return;
+        }
+        const bool dark = qGray(rgb(shown_.ground).rgb()) < 128;
+        (*this)(text_op{60, 30, dark ? wit : zwart, 8.25, "plaatje ontbreekt: " + op.file});
+    }
+
+private:
+    QPointF place(point at) const { return box_.topLeft() + QPointF(at.x, at.y) * unit_; }
+    double snapped(double value) const { return std::round(value * pixels_) / pixels_; }
+    QPointF snapped(QPointF at) const { return {snapped(at.x()), snapped(at.y())}; }
+
+    // At least one device pixel, and a whole number of them.
+    double thickness(const pen& with) const {
+        return std::max(snapped(with.width * twips_per_pixel * unit_), 1 / pixels_);
+    }
+    QPointF on_pixels(point at, const pen& with) const {
+        const QPointF half(thickness(with) / 2, thickness(with) / 2);
+        return snapped(place(at) - half) + half;
+    }
+    // Filled shapes get a hairline in their own colour, which closes the seam between neighbours.
+    void take_up(const pen& with, bool filled) {
+        on_.setPen(QPen(rgb(with.colour), filled ? 1 / pixels_ : thickness(with),
+                        filled ? Qt::SolidLine : pen_style(with.style), Qt::FlatCap, Qt::MiterJoin));
+        on_.setBrush(filled ? QBrush(rgb(with.colour)) : QBrush(Qt::NoBrush));
+    }
+
+    QPainter& on_;
+    const drawing& shown_;
+    const QRectF box_;
+    picture_cache& pictures_;
+    const double unit_;   // painter's coordinates per twip
+    const double pixels_; // device pixels per painter's coordinate
+};
+
+} // namespace
+
+QFont twip_font(double points, bool bold) {
+    QFont font(QStringList{"Arial", "Liberation Sans", "Helvetica"});
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 20))));
+    font.setBold(bold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setKerning(false); // lines are laid out by adding up widths
+    return font;
+}
+
+const QImage& picture_cache::scaled(const std::string& file, QSize size) {
+    if (file == file_ && size == size_) return image_;
+    file_ = file;
+    size_ = size;
+    const QString folder = QCoreApplication::applicationDirPath();
+    const QString name = QString::fromStdString(file);
+    image_ = QImage(folder + '/' + name, "BMP");
+    if (image_.isNull()) image_ = QImage(folder + "/../share/cijferwerf/" + name, "BMP");
+    if (!image_.isNull())
+        image_ = image_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                     .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return image_;
+}
+
+void paint_drawing(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures) {
+    on.save();
+    on.setClipRect(box, Qt::IntersectClip);
+    on.setRenderHint(QPainter::Antialiasing);
+    on.fillRect(box, rgb(shown.ground));
+    replay each(on, shown, box, pictures);
+    for (const drawing_op& op : shown.operations()) std::visit(each, op);
+    on.restore();
+}
+
+QString reading_of(const drawing& shown) {
+    std::vector<const text_op*> texts;
+    for (const drawing_op& op : shown.operations())
+        if (const auto* text = std::get_if<text_op>(&op)) texts.push_back(text);
+    // Texts within half a line's height of each other stand on one line.
+    std::ranges::stable_sort(texts, {}, &text_op::y);
+    for (auto first = texts.begin(); first != texts.end();) {
+        const double below = (*first)->y + text_height((*first)->size) / 2;
+        const auto next = std::find_if(first, texts.end(), [&](const text_op* text) { return text->y > below; });
+        std::stable_sort(first, next, [](const text_op* a, const text_op* b) { return a->x < b->x; });
+        first = next;
+    }
+    QStringList words;
+    for (const text_op* text : texts) words << QString::fromStdString(text->text).simplified();
+    return words.join(' ').simplified();
+}
+
+} // namespace cijferwerf

@@ -1,0 +1,403 @@
+// What holds for every exercise, whichever generator made it: each is made some hundreds of times, through all its
+// sub-variants, and read as a pupil would. A generator that is still blank is left out.
+#include "forms/practice/explanation.h"
+#include "forms/practice/mama.h"
+
+#include "tests/support/fake_outside.h"
+#include "tests/support/operation_text.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <map>
+#include <regex>
+#include <set>
+
+namespace cijferwerf {
+namespace {
+
+// ---- the exceptions, each with its reason ----
+
+const std::set<std::string_view> double_blanks_meant{
+    "L_snel_01_08_click", // the second line of the explanation sets the percentage apart
+};
+const std::set<std::string_view> equal_answers_meant{
+    "M_hele_procenten_01_08_click", // a percentage of 0 is 0 whatever the mistake
+};
+
+constexpr int rounds = 420; // a multiple of all numbers of sub-variants up to 7, and many of each other
+
+std::vector<oefening_id> finished() {
+    std::vector<oefening_id> all;
+    oefeningen maker([] { return 0.0F; });
+    for (std::size_t i = 0; i < alle_oefeningen().size(); ++i) {
+        maker.maak(static_cast<oefening_id>(i));
+        if (std::ranges::any_of(maker.vraagregels, [](const std::string& line) { return line != leeg; }))
+            all.push_back(static_cast<oefening_id>(i));
+    }
+    return all;
+}
+
+class every_exercise : public testing::TestWithParam<oefening_id> {
+protected:
+    std::string_view generator() const { return naam(GetParam()); }
+
+    // Calls look(exercise) for one exercise after another, as a pupil gets them who keeps picking the same title.
+    template<class Look>
+    void each(Look look) {
+        oefeningen maker([] { return 36'000.0F; });
+        maker.toeval.restart(20'240'309);
+        for (int i = 0; i < rounds && !HasFailure(); ++i) {
+            maker.maak(GetParam());
+            SCOPED_TRACE(regel("exercise", i + 1, ", variant", maker.variant, ": ", maker.vraagregels[1], "|",
+                               maker.vraagregels[2], "|", maker.vraagregels[3], "|", maker.vraagregels[4]));
+            look(maker);
+        }
+    }
+};
+
+// The lines that are sentences, as a pupil reads them.
+std::vector<std::string> sentences(const oefening& made) {
+    std::vector<std::string> all;
+    for (const tekstregels* lines : {&made.vraagregels, &made.uitlegregels, &made.tipregels_1, &made.tipregels_2,
+                                     &made.foutregels_2, &made.foutregels_3, &made.foutregels_4})
+        all.insert(all.end(), lines->begin(), lines->end());
+    return all;
+}
+
+std::array<std::string, 4> answers(const oefening& made) {
+    return {made.antwoord_1, made.antwoord_2, made.antwoord_3, made.antwoord_4};
+}
+
+std::vector<text_op> texts(const drawing& drawn) {
+    std::vector<text_op> found;
+    for (const drawing_op& operation : drawn.operations())
+        if (const auto* text = std::get_if<text_op>(&operation)) found.push_back(*text);
+    return found;
+}
+
+drawing explained(const oefening& made) {
+    drawing board = made.plaatje;
+    teken_opdrachten(board, made.uitlegopdrachten);
+    return board;
+}
+
+// ---- answers ----
+
+// What an answer is worth, so that "1/2", "0,5" and "50 %" are one; a text that is no number stands for itself.
+std::string value(std::string answer) {
+    static const std::regex fraction(R"((?:(\d+) +)?(\d+)/(\d+)( ?%)?(.*))");
+    static const std::regex number(R"((-?[\d.]*\d(?:,\d+)?)( ?%)?(.*))");
+    answer = kaal(std::string_view(answer));
+    std::smatch part;
+    double amount = 0;
+    if (std::regex_match(answer, part, fraction))
+        amount = lees_getal(part[1].str()) + lees_getal(part[2].str()) / lees_getal(part[3].str());
+    else if (std::regex_match(answer, part, number)) {
+        std::string digits = part[1];
+        std::erase(digits, '.');
+        std::ranges::replace(digits, ',', '.');
+        amount = lees_getal(digits);
+    } else
+        return answer;
+    const auto last = part.size() - 1;
+    if (part[last - 1].matched) amount /= 100;
+    return std::to_string(amount) + part[last].str();
+}
+
+TEST(properties, know_equal_values_in_different_clothes) {
+    EXPECT_EQ(value(" 1/2"), value(" 0,5"));
+    EXPECT_EQ(value(" 1/2"), value(" 50 %"));
+    EXPECT_EQ(value(" 1 1/2"), value("1,50"));
+    EXPECT_EQ(value(" 1.250 euro"), value("1250 euro"));
+    EXPECT_NE(value(" 5 km"), value(" 5 m"));
+    EXPECT_NE(value(" 5"), value(" 50"));
+    EXPECT_NE(value("-5"), value(" 5"));
+    EXPECT_NE(value("rood"), value("blauw"));
+}
+
+TEST_P(every_exercise, has_four_answers_of_different_value) {
+    each([&](const oefening& made) {
+        std::set<std::string> values;
+        for (const std::string& answer : answers(made)) {
+            EXPECT_NE(kaal(std::string_view(answer)), "");
+            values.insert(value(answer));
+        }
+        const bool all_zero = equal_answers_meant.contains(generator()) && made.antwoord_1 == " 0";
+        EXPECT_EQ(values.size(), all_zero ? 1U : 4U)
+            << made.antwoord_1 << " |" << made.antwoord_2 << " |" << made.antwoord_3 << " |" << made.antwoord_4;
+    });
+}
+
+TEST_P(every_exercise, uses_each_sub_variant_each_place_and_many_different_numbers) {
+    std::vector<int> variants;
+    std::map<int, int> places;
+    std::set<std::string> different;
+    each([&](const oefening& made) {
+        variants.push_back(made.variant);
+        ++places[made.juiste_positie];
+        std::string all;
+        for (const std::string& text : as_texts(made.plaatje)) all += text;
+        for (const std::string& text : made.vraagregels) all += text;
+        for (const std::string& text : answers(made)) all += text;
+        different.insert(all);
+        EXPECT_GE(made.juiste_positie, 0);
+        EXPECT_LE(made.juiste_positie, 4);
+        const std::set limits{0, 8, 9, 10, 12, 15, 20};
+        EXPECT_TRUE(limits.contains(made.tijdlimiet)) << made.tijdlimiet;
+    });
+    // 1, 2, ..., N, 1, 2, ...
+    const int number = std::ranges::max(variants);
+    EXPECT_LE(number, 14);
+    for (std::size_t i = 0; i < variants.size(); ++i) EXPECT_EQ(variants[i], static_cast<int>(i) % number + 1);
+
+    EXPECT_GE(different.size(), 12U) << "a pupil would soon know them by heart";
+    for (const auto& [place, times] : places)
+        if (place != 0) {
+            EXPECT_EQ(places.size(), 4U) << "the right answer never stands at some place";
+            EXPECT_GE(times, rounds / 10) << "at place " << place;
+            EXPECT_LE(times, rounds / 2) << "at place " << place;
+        }
+}
+
+// ---- texts ----
+
+// What is wrong with a text, or nothing.
+std::string fault(const std::string& text) {
+    // A number may have one "." before its last three whole digits, and a comma with decimals; a time of day has two
+    // digits behind its ".".
+    static const std::regex number(R"(\d[\d.,]*)");
+    static const std::regex well_formed(R"((0|[1-9]\d*|\d{1,2}\.\d{2}|[1-9]\d{0,3}\.\d{3}|0\d+)(,\d+)?)");
+    static const std::regex nonsense(R"(\d[eE][+-]?\d|(^|[^\w])(nan|inf)([^\w]|$)|-0(?![,\d])|-0,0*(?!\d)|_)");
+    for (std::sregex_iterator i(text.begin(), text.end(), number), end; i != end; ++i) {
+        std::string found = i->str();
+        while (found.back() == '.' || found.back() == ',') found.pop_back();
+        if (!std::regex_match(found, well_formed)) return "the number " + found;
+    }
+    if (std::regex_search(text, nonsense)) return "no number of a pupil's";
+    if (std::ranges::any_of(text, [](char c) { return c != '\r' && static_cast<unsigned char>(c) < 0x20; }))
+        return "a control character";
+    return "";
+}
+
+TEST(properties, know_a_malformed_number) {
+    for (const char* right : {" 5", "1.000", "31.900,50", "12.30 uur", "0,05", "5.", "Nog 3...", "1,5 - 0,5", "1/2"})
+        EXPECT_EQ(fault(right), "") << right;
+    for (const char* wrong :
+         {"0.5", "3.14159", "1.5", "1.0000", "1e5", "-0", "x = -0 m", "nan", "1.000.000", "-0,00", "0.125", "PRINT_1"})
+        EXPECT_NE(fault(wrong), "") << wrong;
+}
+
+TEST_P(every_exercise, writes_numbers_as_pupils_do_and_single_blanks) {
+    each([&](const oefening& made) {
+        for (const std::string& line : sentences(made)) {
+            EXPECT_EQ(fault(line), "") << line;
+            EXPECT_NE(line, "") << "an empty line is a single blank";
+            if (!double_blanks_meant.contains(generator())) {
+                EXPECT_EQ(kaal(std::string_view(line)).find("  "), std::string_view::npos) << line;
+            }
+        }
+        for (const std::string& answer : answers(made)) {
+            EXPECT_EQ(fault(answer), "") << answer;
+            EXPECT_FALSE(answer.starts_with("  ")) << answer;
+        }
+        for (const text_op& text : texts(explained(made))) EXPECT_EQ(fault(text.text), "") << text.text;
+        EXPECT_EQ(made.vraagregels[0], leeg);
+        EXPECT_TRUE(made.hulpmiddel == "REKENMACHINE" || made.hulpmiddel == leeg);
+    });
+}
+
+// The widest line of a caption (an answer may have two).
+double caption_width(std::string_view caption, double points) {
+    double widest = 0;
+    while (!caption.empty()) {
+        const auto end = std::min(caption.find('\r'), caption.size());
+        widest = std::max(widest, text_width(caption.substr(0, end), points, 1.0));
+        caption.remove_prefix(std::min(end + 1, caption.size()));
+    }
+    return widest;
+}
+
+TEST_P(every_exercise, fits_the_screen) {
+    fake_outside outside;
+    formulieren forms{outside};
+    mama& screen = forms.get<mama>();
+    const auto fits = [](const control& place, const std::string& line) {
+        EXPECT_LE(caption_width(line, place.font_size), place.width) << place.name << ": " << line;
+    };
+    each([&](const oefening& made) {
+        for (int i = 1; i <= 7; ++i) fits(screen.vraag[i], made.vraagregels[static_cast<std::size_t>(i - 1)]);
+        for (const std::string& answer : answers(made)) {
+            fits(screen.alternatief[1], answer);
+            EXPECT_LE(std::ranges::count(answer, '\r'), 1) << answer;
+        }
+        for (const tekstregels* lines : {&made.uitlegregels, &made.tipregels_1, &made.tipregels_2, &made.foutregels_2,
+                                         &made.foutregels_3, &made.foutregels_4}) {
+            for (const std::string& line : *lines) fits(screen.bericht[6], line);
+            EXPECT_EQ(lines->back(), leeg) << "a seventh line is never shown";
+        }
+    });
+}
+
+TEST_P(every_exercise, tells_a_pupil_something_after_a_wrong_answer_and_in_the_explanation) {
+    each([&](const oefening& made) {
+        EXPECT_NE(made.uitlegregels[0], leeg);
+        if (made.tipregels_1[0] != leeg) {
+            EXPECT_NE(made.tipregels_2[0], leeg);
+            return;
+        }
+        if (made.tijdlimiet != 0 && made.foutregels_2[0] == leeg) return; // too quick to read anything
+        for (const tekstregels* lines : {&made.foutregels_2, &made.foutregels_3, &made.foutregels_4})
+            EXPECT_NE((*lines)[0], leeg);
+    });
+}
+
+// ---- pictures ----
+
+struct ink {
+    double left, top, right, bottom;
+    std::string word;
+
+    bool meets(const ink& other) const {
+        constexpr double slack = 8; // half a pixel
+        return left + slack < other.right && other.left + slack < right && top + slack < other.bottom &&
+               other.top + slack < bottom;
+    }
+    bool within(double x, double y, double width, double height) const {
+        return left >= x && right <= x + width && top >= y && bottom <= y + height;
+    }
+};
+
+// Where the words of a text leave ink: from the top of its digits to its base line, or to the end of its tails.
+void add_words(std::vector<ink>& to, const text_op& text) {
+    constexpr double base_line = 0.905, tail = 0.21;
+    const double em = text.size * 20;
+    for (std::size_t at = text.text.find_first_not_of(' '); at != std::string::npos;) {
+        const std::size_t end = std::min(text.text.find(' ', at), text.text.size());
+        const std::string word = text.text.substr(at, end - at);
+        const bool tailed = word.find_first_of("gjpqyQ,;()") != std::string::npos;
+        const double left = text.x + text_width(text.text.substr(0, at), text.size);
+        to.push_back({left, text.y + digit_top(text.size), left + text_width(word, text.size),
+                      text.y + em * (base_line + (tailed ? tail : 0)), word});
+        at = text.text.find_first_not_of(' ', end);
+    }
+}
+
+// The words that are still to be seen when all is drawn: filled boxes and pictures cover what lies beneath.
+std::vector<ink> visible_words(const drawing& drawn) {
+    std::vector<ink> words;
+    for (const drawing_op& operation : drawn.operations()) {
+        if (const auto* text = std::get_if<text_op>(&operation)) add_words(words, *text);
+        if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled)
+            std::erase_if(words, [&](const ink& word) { return word.within(box->x, box->y, box->width, box->height); });
+        if (std::holds_alternative<picture_op>(operation)) words.clear();
+    }
+    return words;
+}
+
+// The first word that is not to be read, and why; or nothing.
+std::string illegible(const drawing& drawn) {
+    const std::vector<ink> words = visible_words(drawn);
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (!words[i].within(0, 0, drawing::inner_width, drawing::inner_height))
+            return "\"" + words[i].word + "\" leaves the picture";
+        for (std::size_t j = 0; j < i; ++j)
+            if (words[i].meets(words[j])) return "\"" + words[i].word + "\" over \"" + words[j].word + "\"";
+    }
+    return "";
+}
+
+TEST(properties, know_texts_that_cannot_be_read) {
+    drawing board;
+    board.text_size = 12;
+    board.print_at(5100, 100, "123");
+    EXPECT_NE(illegible(board), "");
+    board.reset();
+    board.text_size = 12;
+    board.print_at(100, 100, "1            2");
+    board.print_at(400, 100, "+");
+    EXPECT_EQ(illegible(board), "");
+    board.print_at(110, 200, "9");
+    EXPECT_NE(illegible(board), "");
+    board.filled_box(0, 0, 5380, 2130, wit);
+    board.print_at(100, 100, "3");
+    EXPECT_EQ(illegible(board), "");
+}
+
+TEST_P(every_exercise, has_a_picture_whose_texts_can_be_read_also_when_explained) {
+    each([&](const oefening& made) {
+        EXPECT_EQ(illegible(made.plaatje), "");
+        EXPECT_EQ(illegible(explained(made)), "") << "with the explanation drawn";
+        if (made.tijdlimiet == 0) return;
+        constexpr double bar_top = 1100, bar_bottom = 1450;
+        const double bar_left = 2700 - made.tijdlimiet * 100, bar_right = 2700 + made.tijdlimiet * 100;
+        for (const ink& word : visible_words(made.plaatje))
+            EXPECT_FALSE(word.meets({bar_left, bar_top, bar_right, bar_bottom, ""})) << word.word << " under the bar";
+    });
+}
+
+// ---- commands ----
+
+// What is wrong with a drawing command, or nothing.
+std::string command_fault(const std::string& command) {
+    static const std::regex number(R"(-?\d+(\.\d+)?)");
+    std::vector<std::string> fields;
+    for (std::size_t at = 0; at <= command.size();) {
+        const std::size_t end = std::min(command.find('_', at), command.size());
+        fields.push_back(command.substr(at, end - at));
+        at = end + 1;
+    }
+    const auto numbers = [&](std::initializer_list<std::size_t> which) {
+        return std::ranges::all_of(which, [&](std::size_t i) { return std::regex_match(fields[i], number); });
+    };
+    const auto between = [&](std::size_t i, double least, double most) {
+        return lees_getal(fields[i]) >= least && lees_getal(fields[i]) <= most;
+    };
+    const bool ends_with_separator = command.ends_with('_');
+    const std::string& keyword = fields[0];
+    const std::size_t count = fields.size() - 1;
+    if (keyword == "PRINT")
+        return count >= 5 && numbers({1, 2, 3, 4}) && between(3, 0, 15) && between(4, 7, 40) ? "" : "PRINT";
+    if (keyword == "LINE")
+        return count == 7 && numbers({1, 2, 3, 4, 5, 7}) && between(5, 0, 15) && between(7, 0, 6) &&
+                       (fields[6] == "B" || fields[6] == "BF")
+                   ? ""
+                   : "LINE";
+    if (keyword == "BREUK1") return count == 5 && numbers({1, 2, 3, 4, 5}) ? "" : "BREUK1";
+    if (keyword == "DOORSTREPEN") return count == 5 && numbers({1, 2, 3, 4}) ? "" : "DOORSTREPEN";
+    if (keyword == "PARTJES") return count - (ends_with_separator ? 1 : 0) == 3 && numbers({1, 2, 3}) ? "" : "PARTJES";
+    if (keyword == "TELLERSNOEMERS")
+        return count - (ends_with_separator ? 1 : 0) == 12 && numbers({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12})
+                   ? ""
+                   : "TELLERSNOEMERS";
+    return "no keyword";
+}
+
+TEST(properties, know_a_malformed_command) {
+    for (const char* right : {"PRINT_1_2_12_9.25_a_b", "PRINT_1_2_12_12_", "LINE_1_2_3_-4_15_BF_0", "PARTJES_1_2_4_",
+                              "BREUK1_1_2_0_3_4", "DOORSTREPEN_1_2_3_4_9"})
+        EXPECT_EQ(command_fault(right), "") << right;
+    for (const char* wrong :
+         {"PRINT_1_2_16_8_a", "PRINT_1_2_8_a", "PRINT_ 1_2_3_8_a", "LINE_1_2_3_4_15_BF", "LINE_1_2_3_4_15_F_0",
+          "LINE_1_2,5_3_4_15_B_0", "PRINTEN_1_2_3_8_a", "BREUK1_1_2_3_4", ""})
+        EXPECT_NE(command_fault(wrong), "") << wrong;
+}
+
+TEST_P(every_exercise, gives_drawing_commands_that_draw_what_they_say) {
+    each([&](const oefening& made) {
+        bool ended = false;
+        for (const std::string& command : made.uitlegopdrachten) {
+            if (command == leeg) {
+                ended = true;
+                continue;
+            }
+            EXPECT_FALSE(ended) << "never drawn: " << command;
+            EXPECT_EQ(command_fault(command), "") << command;
+        }
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(generators, every_exercise, testing::ValuesIn(finished()),
+                         [](const auto& of) { return std::string(naam(of.param)); });
+
+} // namespace
+} // namespace cijferwerf

@@ -1,0 +1,467 @@
+// The practice screen as a pupil goes through it, on a front end without a screen.
+#include "forms/practice/mama.h"
+
+#include "tests/support/fake_outside.h"
+#include "tests/support/operation_text.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace cijferwerf {
+namespace {
+
+using lines = std::vector<std::string>;
+
+class practice : public testing::Test {
+protected:
+    practice() { open(booklet_set, "boekje01"); }
+
+    void open(std::string_view set, std::string_view key) {
+        forms.globalen.gekozen_pakket = set;
+        forms.globalen.gekozen_onderdeel = key;
+        screen.unload();
+        screen.kies("BOEKJE 1 - PROCENTEN", "", true);
+        screen.open();
+    }
+    int position(std::string_view title) const {
+        const auto& items = screen.presentatielijst.items;
+        return static_cast<int>(std::ranges::find(items, title) - items.begin());
+    }
+    bool present(std::string_view title) { return pupil.pick(screen.presentatielijst, position(title)); }
+    int right() const { return screen.juiste_letter[0] - 'A' + 1; }
+    bool answer(int i) { return pupil.click(screen.knop[i]); }
+    bool answer_right() { return answer(right()); }
+    // The n-th wrong button, from A on.
+    int wrong(int n) const {
+        int i = 1;
+        for (;; ++i)
+            if (i != right() && --n == 0) return i;
+    }
+    lines messages() {
+        lines shown;
+        for (label& line : screen.bericht) shown.push_back(line.caption);
+        return shown;
+    }
+    lines questions() {
+        lines shown;
+        for (label& line : screen.vraag) shown.push_back(line.caption);
+        return shown;
+    }
+    // A record whose texts tell where they come from.
+    void write_feedback(bool tips) {
+        const auto fill = [](tekstregels& text, const std::string& name) {
+            for (std::size_t i = 0; i < text.size(); ++i) text[i] = name + std::to_string(i + 1);
+        };
+        if (tips)
+            fill(screen.tipregels_1, "tip1.");
+        else
+            screen.tipregels_1[0] = " ";
+        fill(screen.tipregels_2, "tip2.");
+        fill(screen.foutregels_2, "fout2.");
+        fill(screen.foutregels_3, "fout3.");
+        fill(screen.foutregels_4, "fout4.");
+        fill(screen.uitlegregels, "uitleg.");
+    }
+    static lines six(const std::string& name) {
+        lines of;
+        for (int i = 1; i <= 6; ++i) of.push_back(name + std::to_string(i));
+        return of;
+    }
+    lines six_messages() {
+        lines shown = messages();
+        shown.erase(shown.begin());
+        return shown;
+    }
+    bool choices_enabled(std::set<int> which) {
+        for (int i = 1; i <= 4; ++i)
+            if (screen.knop[i].enabled != which.contains(i) || screen.alternatief[i].enabled != which.contains(i))
+                return false;
+        return true;
+    }
+
+    fake_outside pupil;
+    formulieren forms{pupil};
+    mama& screen = forms.get<mama>();
+};
+
+// ---- presenting ----
+
+TEST_F(practice, shuffled_answers_stand_in_one_of_four_orders_with_the_right_one_where_the_letter_says) {
+    const std::array<std::array<int, 4>, 4> orders{{{1, 2, 3, 4}, {2, 1, 4, 3}, {3, 4, 1, 2}, {4, 3, 2, 1}}};
+    std::set<std::string> letters;
+    for (int n = 0; n < 100; ++n) {
+        ASSERT_TRUE(present("hele procenten"));
+        ASSERT_EQ(screen.juiste_positie, 0);
+        const std::array answers{screen.antwoord_1, screen.antwoord_2, screen.antwoord_3, screen.antwoord_4};
+        const auto& order = orders.at(static_cast<std::size_t>(right() - 1));
+        for (int i = 1; i <= 4; ++i) {
+            EXPECT_EQ(screen.alternatief[i].caption,
+                      answers.at(static_cast<std::size_t>(order.at(static_cast<std::size_t>(i - 1)) - 1)));
+            EXPECT_TRUE(screen.alternatief[i].caption.starts_with(' '));
+        }
+        letters.insert(screen.juiste_letter);
+        answer_right();
+    }
+    EXPECT_EQ(letters, (std::set<std::string>{"A", "B", "C", "D"}));
+}
+
+TEST_F(practice, answers_with_a_fixed_place_stand_in_their_own_order) {
+    std::set<int> places;
+    for (int n = 0; n < 100; ++n) {
+        ASSERT_TRUE(present("rente"));
+        EXPECT_EQ(right(), screen.juiste_positie);
+        for (int i = 1; i <= 4; ++i) EXPECT_EQ(screen.alternatief[i].caption, screen.antwoord(i));
+        places.insert(screen.juiste_positie);
+        answer_right();
+    }
+    EXPECT_EQ(places, (std::set{1, 2, 3, 4}));
+}
+
+TEST_F(practice, an_open_exercise_locks_the_list_the_score_and_the_introduction) {
+    EXPECT_TRUE(screen.info.visible);
+    EXPECT_TRUE(choices_enabled({}));
+    ASSERT_TRUE(present("alcohol"));
+    EXPECT_EQ(forms.globalen.gekozen_oefening, "alcohol");
+    EXPECT_FALSE(screen.presentatielijst.enabled || screen.score.enabled || screen.info.enabled);
+    EXPECT_FALSE(present("rente"));
+    EXPECT_TRUE(choices_enabled({1, 2, 3, 4}));
+    EXPECT_EQ(screen.uitleg_bericht.caption, "UITLEG/BERICHT");
+    EXPECT_EQ(screen.uitleg_bericht.colour, donkerblauw);
+    EXPECT_FALSE(screen.uitleggeven.visible);
+
+    answer_right();
+    EXPECT_TRUE(screen.presentatielijst.enabled);
+    EXPECT_FALSE(screen.score.enabled || screen.info.enabled);
+    pupil.click(screen.uitleggeven);
+    EXPECT_TRUE(screen.score.enabled && screen.info.enabled);
+}
+
+TEST_F(practice, info_is_not_for_the_task_set_nor_where_the_menu_forbids_it) {
+    open(task_set, "taak08");
+    EXPECT_FALSE(screen.info.visible);
+    open(booklet_set, "boekje01");
+    screen.kies("BOEKJE 1 - PROCENTEN", "", false);
+    present("rente");
+    answer_right();
+    pupil.click(screen.uitleggeven);
+    EXPECT_FALSE(screen.info.enabled);
+}
+
+TEST_F(practice, enter_presents_like_a_click_and_no_other_key_does) {
+    ASSERT_TRUE(pupil.pick_by_enter(screen.presentatielijst, position("rente")));
+    EXPECT_EQ(forms.globalen.gekozen_oefening, "rente");
+    answer_right();
+    screen.presentatielijst.selected = position("alcohol");
+    screen.presentatielijst_keypress(' ');
+    EXPECT_EQ(forms.globalen.gekozen_oefening, "rente");
+}
+
+TEST_F(practice, nothing_of_the_exercise_before_is_left) {
+    present("snel!");
+    answer(wrong(1));
+    answer_right();
+    pupil.click(screen.uitleggeven);
+    const int variant = screen.variant;
+
+    // A title without a generator presents a blank record.
+    screen.presentatielijst.items.emplace_back("onbekend");
+    ASSERT_TRUE(present("onbekend"));
+    EXPECT_EQ(questions(), lines(7, " "));
+    EXPECT_EQ(messages(), lines(7, " "));
+    EXPECT_EQ(as_texts(screen.plaatje), lines{});
+    EXPECT_EQ(screen.plaatje.ground, wit);
+    EXPECT_EQ(screen.pogingen, 0);
+    EXPECT_EQ(screen.variant, variant + 1);
+    EXPECT_EQ(screen.tijdlimiet, 0);
+    EXPECT_FALSE(screen.Timer1.enabled);
+    for (int i = 1; i <= 4; ++i) EXPECT_EQ(screen.alternatief[i].caption, " ");
+    answer_right();
+    pupil.click(screen.uitleggeven);
+    EXPECT_EQ(forms.globalen.titellijst[1], "onbekend");
+}
+
+TEST_F(practice, the_variant_counts_on_across_titles) {
+    present("rente"); // 2 sub-variants
+    EXPECT_EQ(screen.variant, 1);
+    answer_right();
+    present("voetbal"); // 5
+    EXPECT_EQ(screen.variant, 2);
+    answer_right();
+    present("rente");
+    EXPECT_EQ(screen.variant, 1);
+}
+
+TEST_F(practice, a_task_that_does_not_exist_has_an_empty_list_and_presents_nothing) {
+    open(task_set, "taak99");
+    EXPECT_TRUE(screen.presentatielijst.items.empty());
+    pupil.pick(screen.presentatielijst, 0);
+    EXPECT_EQ(forms.globalen.gekozen_oefening, "");
+    EXPECT_TRUE(choices_enabled({}));
+}
+
+TEST_F(practice, a_title_that_a_review_shows_twice_runs_the_same_exercise_from_both_places) {
+    screen.unload();
+    forms.globalen.gekozen_pakket = task_set;
+    forms.globalen.gekozen_onderdeel = "taak05";
+    screen.toeval.put_in({0.1F, 0.5F, 0.5F, 0.5F});
+    screen.open();
+    const auto& titles = screen.presentatielijst.items;
+    const auto first = std::ranges::find(titles, "getallenlijn");
+    const auto second = std::find(first + 1, titles.end(), "getallenlijn");
+    ASSERT_NE(second, titles.end());
+    for (const auto at : {first, second}) {
+        screen.variant = 0;
+        screen.toeval.restart(5);
+        ASSERT_TRUE(pupil.pick(screen.presentatielijst, static_cast<int>(at - titles.begin())));
+        const lines asked = questions();
+        oefeningen alone([] { return 36'000.0F; });
+        alone.toeval.restart(5);
+        alone.maak(oefening_id::B_getallenlijn_11_01_click);
+        EXPECT_EQ(asked, lines(alone.vraagregels.begin(), alone.vraagregels.end()));
+        EXPECT_EQ(screen.antwoord_1, alone.antwoord_1);
+        answer_right();
+    }
+}
+
+// ---- answering ----
+
+TEST_F(practice, each_button_has_its_own_words_for_right_and_wrong) {
+    const std::string_view words[4][4]{
+        {"Dat is juist!", "Dat is niet goed...!", "Dat is niet het juiste antwoord...",
+         "Dat antwoord is helaas niet goed..."},
+        {"Helaas fout!", "Goed!", "Helaas is dat niet het juiste antwoord...", "Jammer, het is helaas fout..."},
+        {"Je antwoord is helaas niet goed.", "Je koos het verkeerde antwoord.", "Dat is het goede antwoord!",
+         "Je koos niet het goede antwoord..."},
+        {"Fout...!", "Fout, helaas...!", "Je keuze is helaas niet goed.", "Dat is het juiste antwoord...!"},
+    };
+    const char feedback[4][5]{"-234", "2-43", "34-2", "432-"};
+    for (int i = 1; i <= 4; ++i)
+        for (int j = 1; j <= 4; ++j) {
+            present("hele procenten");
+            write_feedback(false);
+            screen.juiste_letter = std::string(1, static_cast<char>('A' + j - 1));
+            ASSERT_TRUE(answer(i));
+            EXPECT_EQ(screen.bericht[0].caption, words[i - 1][j - 1]);
+            EXPECT_EQ(screen.bericht[0].colour, i == j ? groen : rood);
+            EXPECT_EQ(screen.uitleg_bericht.caption, i == j ? "UITLEG" : "BERICHT");
+            EXPECT_EQ(screen.uitleg_bericht.colour, i == j ? groen : rood);
+            if (i != j) {
+                EXPECT_EQ(six_messages(), six(std::string("fout") + feedback[i - 1][j - 1] + "."));
+                EXPECT_EQ(screen.bericht[6].colour, rood);
+            }
+            answer_right();
+        }
+}
+
+TEST_F(practice, comments_follow_the_answer_chosen_whatever_the_attempt) {
+    present("hele procenten");
+    write_feedback(false);
+    screen.juiste_letter = "B";
+    answer(4);
+    EXPECT_EQ(six_messages(), six("fout3."));
+    EXPECT_FALSE(answer(4));
+    answer(1);
+    EXPECT_EQ(six_messages(), six("fout2."));
+    answer(3);
+    EXPECT_EQ(six_messages(), six("fout4."));
+    EXPECT_TRUE(choices_enabled({2}));
+    answer(2);
+    EXPECT_EQ(screen.bericht[0].caption, "Goed!");
+    EXPECT_EQ(six_messages(), six("fout4."));
+    EXPECT_EQ(screen.pogingen, 4);
+}
+
+TEST_F(practice, tips_follow_the_attempt_and_end_with_the_words_of_the_third_button) {
+    const std::string_view one_left[]{"Nu blijft er nog maar één antwoord over.", "Nu is er nog maar één mogelijkheid.",
+                                      "Nu vind je het juiste antwoord wel!", "Laatste kans..."};
+    for (int last = 1; last <= 4; ++last) {
+        present("hele procenten");
+        write_feedback(true);
+        screen.juiste_letter = last == 1 ? "D" : "A";
+        lines shown;
+        for (int i = 1; i <= 4; ++i)
+            if (i != last && i != right()) {
+                answer(i);
+                EXPECT_EQ(six_messages(), six(screen.pogingen == 1 ? "tip1." : "tip2."));
+            }
+        answer(last);
+        lines expected(6, " ");
+        expected[0] = one_left[last - 1];
+        EXPECT_EQ(six_messages(), expected);
+        EXPECT_EQ(screen.bericht[1].colour, rood);
+        answer_right();
+        EXPECT_EQ(screen.pogingen, 4);
+    }
+}
+
+TEST_F(practice, an_empty_first_tip_is_a_tip) {
+    present("hele procenten");
+    write_feedback(true);
+    screen.tipregels_1.fill("");
+    answer(wrong(1));
+    EXPECT_EQ(six_messages(), lines(6, ""));
+}
+
+TEST_F(practice, an_answer_text_is_clicked_like_its_button_and_keys_answer_too) {
+    present("hele procenten");
+    pupil.click(screen.alternatief[wrong(1)]);
+    EXPECT_EQ(screen.pogingen, 1);
+    EXPECT_FALSE(pupil.click(screen.alternatief[wrong(1)]));
+    pupil.press(screen, static_cast<char>('0' + wrong(2)));
+    EXPECT_EQ(screen.pogingen, 2);
+    pupil.press(screen, screen.juiste_letter[0]);
+    EXPECT_EQ(screen.pogingen, 3);
+    EXPECT_TRUE(choices_enabled({}));
+    EXPECT_TRUE(screen.uitleggeven.visible);
+}
+
+// ---- explanation and score ----
+
+TEST_F(practice, the_explanation_shows_six_lines_draws_and_scores_each_time_it_is_asked) {
+    present("hele procenten");
+    write_feedback(false);
+    screen.uitlegopdrachten = {"PRINT_10_20_1_8_x", " ", "PRINT_10_20_1_8_y", " ", " ", " ", " "};
+    answer(wrong(1));
+    answer_right();
+    const auto before = screen.plaatje.operations().size();
+    pupil.click(screen.uitleggeven);
+    EXPECT_EQ(six_messages(), six("uitleg."));
+    EXPECT_EQ(screen.bericht[3].colour, donkerblauw);
+    EXPECT_EQ(screen.plaatje.operations().size(), before + 1);
+    pupil.click(screen.uitleggeven);
+    EXPECT_EQ(forms.globalen.aantalvragengedaan, 2);
+    EXPECT_EQ(forms.globalen.goed_poging_2, 2);
+    EXPECT_EQ(forms.globalen.scoretabel[0], (std::array{0, 2, 0, 0}));
+}
+
+TEST_F(practice, activation_blanks_the_score_and_showing_again_does_not) {
+    present("rente");
+    answer_right();
+    pupil.click(screen.uitleggeven);
+    pupil.click(screen.score);
+    EXPECT_EQ(screen.score_bekeken, "ja");
+    screen.show();
+    EXPECT_EQ(forms.globalen.aantalvragengedaan, 1);
+    screen.open();
+    EXPECT_EQ(forms.globalen.aantalvragengedaan, 0);
+    EXPECT_EQ(screen.score_bekeken, "nee");
+}
+
+// ---- the clock ----
+
+class quick : public practice {
+protected:
+    quick() {
+        present("snel!");
+        limit = screen.tijdlimiet;
+        drawn_before = screen.plaatje.operations().size();
+    }
+    void five_ticks() {
+        answer_right();
+        present("snel!");
+        screen.tijdlimiet = 5;
+        drawn_before = screen.plaatje.operations().size();
+    }
+    lines drawn_since() {
+        lines all = as_texts(screen.plaatje);
+        all.erase(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(drawn_before));
+        return all;
+    }
+    int limit = 0;
+    std::size_t drawn_before = 0;
+};
+
+TEST_F(quick, the_bar_is_drawn_yellow_and_filled_black_tick_by_tick) {
+    EXPECT_EQ(limit, 12);
+    EXPECT_EQ(as_texts(screen.plaatje).back(), "filled box 1500,1100 2200x300 colour 14 width 1 style 0");
+    five_ticks();
+    pupil.wait(4999);
+    EXPECT_EQ(drawn_since(), (lines{"filled box 2200,1100 200x350 colour 0 width 1 style 6",
+                                    "filled box 2200,1100 400x350 colour 0 width 1 style 6",
+                                    "filled box 2200,1100 600x350 colour 0 width 1 style 6",
+                                    "filled box 2200,1100 800x350 colour 0 width 1 style 6",
+                                    "text 1800,1500 colour 14 size 20 \"Jammer....!\""}));
+}
+
+TEST_F(quick, time_up_ends_it_as_a_fourth_attempt_and_its_explanation_counts_once_more) {
+    answer(wrong(1));
+    answer(wrong(2));
+    pupil.wait(60'000);
+    EXPECT_EQ(screen.pogingen, 4);
+    EXPECT_EQ(screen.tijdteller, limit);
+    EXPECT_TRUE(choices_enabled({}));
+    EXPECT_EQ(forms.globalen.goed_poging_4, 1);
+    EXPECT_EQ(screen.uitleg_bericht.caption, "UITLEG");
+    EXPECT_EQ(screen.bericht[0].caption, "");
+    EXPECT_TRUE(screen.presentatielijst.enabled && screen.uitleggeven.visible);
+    pupil.click(screen.uitleggeven);
+    EXPECT_EQ(forms.globalen.goed_poging_4, 2);
+    EXPECT_EQ(forms.globalen.scoretabel[0], (std::array{0, 0, 0, 1}));
+    EXPECT_EQ(forms.globalen.aantalvragengedaan, 1);
+}
+
+TEST_F(quick, a_right_answer_does_not_stop_the_clock_but_the_explanation_does) {
+    answer_right();
+    pupil.wait(2000);
+    EXPECT_EQ(screen.tijdteller, 2);
+    pupil.click(screen.uitleggeven);
+    pupil.wait(60'000);
+    EXPECT_EQ(screen.tijdteller, 2);
+    EXPECT_EQ(forms.globalen.goed_poging_4, 0);
+
+    present("snel!");
+    answer_right();
+    pupil.wait(60'000);
+    EXPECT_EQ(as_texts(screen.plaatje).back(), "text 1800,1500 colour 14 size 20 \"Jammer....!\"");
+    EXPECT_EQ(forms.globalen.goed_poging_4, 1);
+}
+
+TEST_F(quick, another_quick_exercise_gets_its_full_time) {
+    pupil.wait(900);
+    answer_right();
+    present("snel!");
+    pupil.wait(950);
+    EXPECT_EQ(screen.tijdteller, 0);
+    pupil.wait(50);
+    EXPECT_EQ(screen.tijdteller, 1);
+}
+
+TEST_F(quick, asking_to_stop_and_going_on_changes_nothing_and_loses_no_second) {
+    pupil.while_box_is_open = [this] { pupil.wait(3000); };
+    pupil.answers = {box_answer::no, box_answer::yes};
+    pupil.click(screen.stopteken);
+    ASSERT_EQ(pupil.boxes.size(), 1U);
+    EXPECT_EQ(pupil.boxes[0].text, "Wil je echt stoppen?");
+    EXPECT_EQ(pupil.boxes[0].buttons, box_buttons::yes_no);
+    pupil.wait(50);
+    EXPECT_FALSE(pupil.ended);
+    EXPECT_EQ(screen.tijdteller, 3);
+    EXPECT_TRUE(choices_enabled({1, 2, 3, 4}));
+    screen.close_requested();
+    EXPECT_TRUE(pupil.ended);
+}
+
+// ---- leaving ----
+
+TEST_F(practice, the_hint_of_the_way_back_names_the_menu_and_goes_after_two_seconds) {
+    EXPECT_FALSE(screen.taakkiezen_label.visible);
+    pupil.hover(screen.terug);
+    EXPECT_EQ(screen.taakkiezen_label.caption, "boekje kiezen");
+    EXPECT_TRUE(screen.taakkiezen_label.visible);
+    pupil.wait(1950);
+    EXPECT_TRUE(screen.taakkiezen_label.visible);
+    pupil.wait(50);
+    EXPECT_FALSE(screen.taakkiezen_label.visible);
+    open(task_set, "taak01");
+    pupil.hover(screen.terug);
+    EXPECT_EQ(screen.taakkiezen_label.caption, "taak kiezen");
+}
+
+TEST_F(practice, the_diagnostic_tells_how_many_were_scored) {
+    screen.toon_aantalvragengedaan();
+    EXPECT_EQ(pupil.boxes.at(0).text, "aantalvragengedaan = 0");
+}
+
+} // namespace
+} // namespace cijferwerf

@@ -1,0 +1,140 @@
+#include "tests/support/fake_outside.h"
+
+#include <gtest/gtest.h>
+
+namespace cijferwerf {
+namespace {
+
+class test_form : public form {
+public:
+    explicit test_form(outside& with) : form(with, "test") {
+        add(first, "first", {0, 0, 100, 100}, theme_role::action, "first");
+        add(second, "second", {0, 200, 100, 100}, theme_role::action, "second");
+        add(clock, "clock", 1000);
+        first.keys = "A1";
+        second.keys = "A2";
+        first.click = [this] { events += "first "; };
+        second.click = [this] { events += "second "; };
+        clock.tick = [this] { events += "tick "; };
+    }
+    void load() override { events += "load "; }
+    void activate() override { events += "activate "; }
+
+    button first, second;
+    timer clock;
+    std::string events;
+};
+
+TEST(form, is_loaded_again_only_after_it_was_unloaded_and_activated_only_when_opened) {
+    fake_outside outside;
+    test_form screen(outside);
+    screen.open();
+    screen.show();
+    EXPECT_EQ(screen.events, "load activate ");
+    screen.unload();
+    screen.unload();
+    EXPECT_EQ(outside.unloaded.size(), 1U);
+    EXPECT_FALSE(screen.loaded());
+    screen.show();
+    EXPECT_EQ(screen.events, "load activate load ");
+    EXPECT_EQ(outside.shown.size(), 3U);
+}
+
+TEST(form, a_key_presses_the_first_control_that_can_be_pressed) {
+    fake_outside outside;
+    test_form screen(outside);
+    screen.show();
+    screen.events.clear();
+    EXPECT_TRUE(outside.press(screen, 'A'));
+    screen.first.enabled = false;
+    EXPECT_TRUE(outside.press(screen, 'A'));
+    EXPECT_FALSE(outside.press(screen, '1'));
+    screen.second.visible = false;
+    EXPECT_FALSE(outside.press(screen, '2'));
+    EXPECT_EQ(screen.events, "first second ");
+}
+
+TEST(form, a_control_array_ends_the_run_at_an_index_it_does_not_have) {
+    control_array<label, 1, 4> labels;
+    labels[1].caption = "a";
+    labels[4].caption = "d";
+    EXPECT_THROW(labels[0], checked_error);
+    EXPECT_THROW(labels[5], checked_error);
+}
+
+class timers : public testing::Test {
+protected:
+    timers() {
+        screen.show();
+        screen.events.clear();
+        screen.first.click = [this] { screen.clock.start(); };
+        screen.second.click = [this] { screen.clock.stop(); };
+    }
+    fake_outside outside;
+    test_form screen{outside};
+};
+
+TEST_F(timers, tick_every_interval_until_stopped) {
+    outside.wait(3000);
+    EXPECT_EQ(screen.events, "");
+    outside.click(screen.first);
+    outside.wait(950);
+    EXPECT_EQ(screen.events, "");
+    outside.wait(50);
+    EXPECT_EQ(screen.events, "tick ");
+    outside.wait(2000);
+    EXPECT_EQ(screen.events, "tick tick tick ");
+    outside.click(screen.second);
+    outside.wait(5000);
+    EXPECT_EQ(screen.events, "tick tick tick ");
+}
+
+TEST_F(timers, wait_for_the_message_box_and_lose_no_tick) {
+    outside.click(screen.first);
+    screen.second.click = [this] {
+        screen.events += "[";
+        outside.ask("?", "", box_buttons::ok);
+        screen.events += "] ";
+    };
+    outside.while_box_is_open = [this] {
+        outside.wait(3500);
+        EXPECT_FALSE(outside.click(screen.first)) << "a click came through an open message box";
+    };
+    outside.click(screen.second);
+    outside.wait(50);
+    EXPECT_EQ(screen.events, "[] tick tick tick ");
+    outside.wait(450);
+    EXPECT_EQ(screen.events, "[] tick tick tick tick ");
+}
+
+TEST_F(timers, start_over_when_started_while_they_run) {
+    outside.click(screen.first);
+    outside.wait(900);
+    outside.click(screen.first);
+    outside.wait(900);
+    EXPECT_EQ(screen.events, "");
+    outside.wait(100);
+    EXPECT_EQ(screen.events, "tick ");
+}
+
+TEST_F(timers, a_tick_that_stops_its_timer_is_the_last_one_even_when_more_are_due) {
+    screen.clock.tick = [this] {
+        screen.events += "tick ";
+        screen.clock.stop();
+    };
+    screen.second.click = [this] { outside.wait(3500); };
+    outside.click(screen.first);
+    outside.click(screen.second);
+    outside.wait(3000);
+    EXPECT_EQ(screen.events, "tick ");
+}
+
+TEST_F(timers, are_silent_on_an_unloaded_form) {
+    outside.click(screen.first);
+    screen.unload();
+    outside.wait(3000);
+    EXPECT_EQ(screen.events, "");
+}
+
+} // namespace
+} // namespace cijferwerf

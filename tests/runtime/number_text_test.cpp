@@ -1,0 +1,118 @@
+#include "runtime/number_text.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace cijferwerf {
+namespace {
+
+// What would enter a sentence in a form that nobody chose is refused by the compiler.
+static_assert(line_part<int> && line_part<long long> && line_part<std::string> && line_part<number_text>);
+static_assert(!line_part<bool> && !line_part<char> && !line_part<char32_t>);
+static_assert(!line_part<float> && !line_part<double> && !line_part<long double>);
+
+TEST(number_text, writes_each_form_as_it_is_shown) {
+    constexpr long long least = std::numeric_limits<long long>::min();
+    const struct {
+        number_text made;
+        std::string_view expected;
+    } rows[]{
+        {tekst(0), " 0"},
+        {tekst(7), " 7"},
+        {tekst(-7), "-7"},
+        {tekst(least), "-9223372036854775808"},
+        {duizend(0), " 0"},
+        {duizend(999), " 999"},
+        {duizend(1000), " 1.000"},
+        {duizend(31'900), " 31.900"},
+        {duizend(315'810), " 315.810"},
+        {duizend(1'000'007), " 1000.007"},
+        {duizend(-1'050), "-1.050"},
+        {komma(0, 2), " 0,00"},
+        {komma(5, 2), " 0,05"},
+        {komma(-5, 1), "-0,5"},
+        {komma(1250, 2), " 12,50"},
+        {komma(12, 0), " 12"},
+        {komma_kort(1250, 2), " 12,5"},
+        {komma_kort(1200, 2), " 12"},
+        {komma_kort(1005, 3), " 1,005"},
+        {komma_kort(-50, 2), "-0,5"},
+        {komma_kort(0, 3), " 0"},
+        {punt(925, 2), " 9.25"},
+        {punt(-40, 0), "-40"},
+        {geld(0), " 0"},
+        {geld(5), " 0,05"},
+        {geld(1250), " 12,50"},
+        {geld(123'405), " 1.234,05"},
+        {geld(123'400), " 1.234"},
+        {geld(-50), "-0,50"},
+        {kaal(31), "31"},
+        {kaal(-31), "-31"},
+        {kaal(duizend(1000)), "1.000"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(std::string_view(row.made), row.expected);
+}
+
+TEST(number_text, rounds_halves_away_from_zero_and_knows_what_does_not_fit) {
+    EXPECT_EQ(afgerond(2.5), 3);
+    EXPECT_EQ(afgerond(-2.5), -3);
+    EXPECT_EQ(afgerond(2.4999), 2);
+    EXPECT_EQ(afgerond(3.14159, 2), 314);
+    EXPECT_EQ(afgerond(1e300), 0);
+    EXPECT_EQ(afgerond(std::numeric_limits<double>::quiet_NaN(), 2), 0);
+    EXPECT_EQ(afgerond(-std::numeric_limits<double>::infinity()), 0);
+}
+
+TEST(number_text, drops_what_a_number_cannot_hold_instead_of_overrunning) {
+    number_text text;
+    text.append(std::string(40, 'x'));
+    EXPECT_EQ(std::string_view(text), std::string(31, 'x'));
+}
+
+TEST(number_text, glues_a_line_with_the_blank_of_its_numbers_as_word_space) {
+    EXPECT_EQ(regel("Daarna moet je nog met", 5, " vermenigvuldigen."), "Daarna moet je nog met 5 vermenigvuldigen.");
+    EXPECT_EQ(regel("is", -3, "."), "is-3.");
+    EXPECT_EQ(regel(kaal(duizend(31'900)), " mensen"), "31.900 mensen");
+    EXPECT_EQ(velden("PRINT", 300, -40, punt(925, 2), "H o"), "PRINT_300_-40_9.25_H o");
+}
+
+TEST(number_text, reads_what_a_number_begins_with_and_never_fails) {
+    const struct {
+        std::string_view text;
+        double expected;
+    } rows[]{
+        {"12", 12},
+        {"   12", 12},
+        {"-3.5", -3.5},
+        {"+4", 4},
+        {".5", 0.5},
+        {"-.5", -0.5},
+        {"5.", 5},
+        {"12abc", 12},
+        {"1.2.3", 1.2},
+        {"1,5", 1},
+        {"1e5", 1},
+        {"0x10", 0},
+        {"", 0},
+        {" ", 0},
+        {"abc", 0},
+        {"-", 0},
+        {".", 0},
+        {"--5", 0},
+        {"+-5", 0},
+        {"- 5", 0},
+        {"inf", 0},
+        {"-infty", 0},
+        {"nan", 0},
+        {"007", 7},
+        {"9_9", 9},
+        {"\xC2\xA0"
+         "5",
+         0},
+    };
+    for (const auto& row : rows) EXPECT_EQ(lees_getal(row.text), row.expected) << row.text;
+    EXPECT_EQ(lees_getal(std::string(400, '9')), 0);
+}
+
+} // namespace
+} // namespace cijferwerf

@@ -1,0 +1,83 @@
+#include "runtime/random_draws.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace cijferwerf {
+namespace {
+
+random_draws with_clock_at(float seconds) {
+    return random_draws([seconds] { return seconds; });
+}
+
+int bits(random_draws& draws) { return static_cast<int>(draws.fraction() * 0x1p24F); }
+
+// The figures were worked out by a program in another language, from the published generator.
+TEST(random_draws, gives_the_same_draws_on_every_platform) {
+    random_draws draws = with_clock_at(36'000);
+    draws.restart(1);
+    EXPECT_EQ(bits(draws), 2'162'096);
+    EXPECT_EQ(bits(draws), 10'598'705);
+    EXPECT_EQ(bits(draws), 5'987'367);
+    draws.seed();
+    EXPECT_EQ(bits(draws), 10'991'053);
+    EXPECT_EQ(bits(draws), 5'955'263);
+    draws.seed();
+    EXPECT_EQ(bits(draws), 730'457);
+    EXPECT_EQ(bits(draws), 11'665'675);
+    draws.restart(1);
+    EXPECT_EQ(bits(draws), 2'162'096);
+}
+
+TEST(random_draws, seeding_again_within_one_clock_tick_repeats_nothing) {
+    random_draws draws = with_clock_at(0);
+    std::set<float> seen;
+    for (int i = 0; i < 1000; ++i) {
+        draws.seed();
+        seen.insert(draws.fraction());
+    }
+    EXPECT_GT(seen.size(), 995U);
+}
+
+TEST(random_draws, the_clock_makes_a_difference) {
+    random_draws early = with_clock_at(100), late = with_clock_at(100.01F);
+    early.seed();
+    late.seed();
+    EXPECT_NE(early.fraction(), late.fraction());
+}
+
+TEST(random_draws, every_tenth_comes_equally_often_also_when_each_draw_is_seeded) {
+    for (const bool seeded : {false, true}) {
+        random_draws draws = with_clock_at(43'210.5F);
+        draws.restart(7);
+        std::array<int, 10> counts{};
+        for (int i = 0; i < 100'000; ++i) {
+            if (seeded) draws.seed();
+            ++counts.at(static_cast<std::size_t>(draws.below(10)));
+        }
+        for (const int count : counts) EXPECT_NEAR(count, 10'000, 400);
+    }
+}
+
+TEST(random_draws, put_in_fractions_come_first_and_in_order) {
+    constexpr float largest = 1 - 0x1p-24F;
+    random_draws draws = with_clock_at(0);
+    draws.put_in({0, 0.5F, 0.5F + 0x1p-24F, largest});
+    draws.seed();
+    EXPECT_EQ(draws.fraction(), 0);
+    EXPECT_FALSE(draws.coin());
+    EXPECT_TRUE(draws.coin());
+    EXPECT_EQ(draws.below(320), 319);
+}
+
+TEST(random_draws, a_whole_number_never_reaches_its_bound) {
+    random_draws draws = with_clock_at(0);
+    for (const int n : {1, 2, 3, 10, 89, 320, 9999, 1'000'000, 16'777'216}) {
+        draws.put_in({1 - 0x1p-24F});
+        EXPECT_EQ(draws.below(n), n - 1);
+    }
+}
+
+} // namespace
+} // namespace cijferwerf

@@ -1,0 +1,93 @@
+// A front end without a screen: it delivers a test's clicks and keys as a pupil could give them, keeps the timers on a
+// clock that the test moves, and remembers what the program showed, asked and printed.
+#pragma once
+
+#include "runtime/event_gate.h"
+
+#include <deque>
+
+namespace cijferwerf {
+
+class fake_outside : public outside {
+public:
+    struct message_box {
+        std::string text, title;
+        box_buttons buttons;
+    };
+
+    // ---- what a test looks at ----
+    std::vector<form*> shown; // every showing, in order
+    std::vector<form*> unloaded;
+    std::vector<message_box> boxes;
+    std::vector<report> printed;
+    bool ended = false;
+
+    // ---- what a test sets ----
+    float seconds = 36'000;
+    local_time date{2024, 3, 9, 14, 5};
+    std::deque<box_answer> answers; // to the boxes that will open; without one: No, or OK
+    print_result print_outcome;
+    std::function<void()> while_box_is_open;
+
+    // ---- what a pupil does; false when the screen does not let it happen ----
+    bool click(control& clicked) {
+        return usable(clicked) && clicked.click && gate_.handle([&] { clicked.click(); });
+    }
+    bool hover(control& under_pointer) {
+        return usable(under_pointer) && under_pointer.hover && gate_.handle([&] { under_pointer.hover(); });
+    }
+    bool press(form& in, char key) {
+        bool pressed = false;
+        return gate_.handle([&] { pressed = in.press(key); }) && pressed;
+    }
+    bool pick(list_box& list, int item) {
+        if (!usable(list)) return false;
+        list.selected = item;
+        return click(list);
+    }
+    bool pick_by_enter(list_box& list, int item) {
+        if (!usable(list)) return false;
+        list.selected = item;
+        return gate_.handle([&] { list.keypress(list_box::enter_key); });
+    }
+    // Time goes by, a little at a time, with every tick as it falls due.
+    void wait(int milliseconds) {
+        for (int gone = 0; gone < milliseconds; gone += 50) {
+            clock_ += event_gate::milliseconds(50);
+            gate_.deliver_ticks();
+        }
+    }
+
+    // ---- what the program asks of its front end ----
+    void show(form& f) override {
+        shown.push_back(&f);
+        gate_.watch(f);
+    }
+    void unload(form& f) override {
+        unloaded.push_back(&f);
+        gate_.forget(f);
+    }
+    box_answer ask(const std::string& text, const std::string& title, box_buttons buttons) override {
+        boxes.push_back({text, title, buttons});
+        if (while_box_is_open) while_box_is_open();
+        if (answers.empty()) return buttons == box_buttons::ok ? box_answer::ok : box_answer::no;
+        const box_answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    print_result print(const report& page) override {
+        printed.push_back(page);
+        return print_outcome;
+    }
+    float seconds_since_midnight() const override { return seconds; }
+    local_time now() const override { return date; }
+    void end() override { ended = true; }
+
+private:
+    static bool usable(const control& c) { return c.visible && c.enabled; }
+
+    event_gate::milliseconds clock_{0};
+    event_gate gate_{[this] { return clock_; }};
+};
+
+} // namespace cijferwerf

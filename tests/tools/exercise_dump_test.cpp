@@ -1,0 +1,138 @@
+// exercise_dump as a developer starts it.
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <sys/wait.h>
+
+namespace {
+
+struct outcome {
+    int status = -1;
+    std::string output; // standard output, or what the command line redirects to it
+};
+
+outcome run(const std::string& arguments) {
+    outcome ended;
+    const std::string command = "'" EXERCISE_DUMP "' " + arguments;
+    FILE* const pipe = popen(command.c_str(), "r");
+    if (pipe == nullptr) return ended;
+    std::array<char, 4096> piece{};
+    while (const std::size_t got = std::fread(piece.data(), 1, piece.size(), pipe))
+        ended.output.append(piece.data(), got);
+    const int state = pclose(pipe);
+    if (WIFEXITED(state)) ended.status = WEXITSTATUS(state);
+    return ended;
+}
+
+long lines_of(const std::string& text) { return std::ranges::count(text, '\n'); }
+
+// Takes one JSON value off the front; false when there is none.
+bool take_value(std::string_view& text) {
+    const auto take = [&text](std::string_view what) {
+        if (!text.starts_with(what)) return false;
+        text.remove_prefix(what.size());
+        return true;
+    };
+    const auto take_string = [&] {
+        if (!take("\"")) return false;
+        while (!text.empty() && text.front() != '"') {
+            if (static_cast<unsigned char>(text.front()) < 0x20) return false;
+            text.remove_prefix(text.front() == '\\' && text.size() > 1 ? 2 : 1);
+        }
+        return take("\"");
+    };
+    if (text.starts_with('"')) return take_string();
+    if (take("[")) {
+        if (take("]")) return true;
+        do
+            if (!take_value(text)) return false;
+        while (take(","));
+        return take("]");
+    }
+    if (take("{")) {
+        do
+            if (!take_string() || !take(":") || !take_value(text)) return false;
+        while (take(","));
+        return take("}");
+    }
+    if (take("true") || take("false")) return true;
+    const std::size_t digits = std::min(text.find_first_not_of("-0123456789."), text.size());
+    text.remove_prefix(digits);
+    return digits > 0;
+}
+
+bool is_json_object(std::string_view line) { return line.starts_with('{') && take_value(line) && line.empty(); }
+
+TEST(exercise_dump, lists_every_generator) {
+    const outcome list = run("--list");
+    EXPECT_EQ(list.status, 0);
+    EXPECT_EQ(lines_of(list.output), 178);
+    EXPECT_NE(list.output.find("B_alcohol_01_08_Click\n"), std::string::npos);
+    EXPECT_NE(list.output.find("Z_sponsorloop_12_07\n"), std::string::npos);
+}
+
+TEST(exercise_dump, writes_an_object_a_line) {
+    for (const std::string arguments : {"--catalogue", "--count 3"}) {
+        const outcome dump = run(arguments);
+        EXPECT_EQ(dump.status, 0);
+        EXPECT_EQ(lines_of(dump.output), arguments == "--catalogue" ? 32 : 3 * 178);
+        for (std::size_t at = 0, end = 0; at < dump.output.size(); at = end + 1) {
+            end = dump.output.find('\n', at);
+            ASSERT_TRUE(is_json_object(std::string_view(dump.output).substr(at, end - at)))
+                << dump.output.substr(at, end - at);
+        }
+    }
+    EXPECT_FALSE(is_json_object("{\"a\":[1,2}"));
+    EXPECT_FALSE(is_json_object("{\"a\":\"\n\"}"));
+}
+
+TEST(exercise_dump, catalogue_gives_the_entries_of_a_task_and_the_groups_of_a_drawn_one) {
+    const std::string all = run("--catalogue").output;
+    EXPECT_NE(
+        all.find(
+            R"({"key":"boekje01","heading":"BOEKJE 1 - PROCENTEN","entries":[["alcohol","B_alcohol_01_08_Click"],)"),
+        std::string::npos);
+    EXPECT_NE(all.find(R"({"key":"taak05","heading":"HERHALING TAAK 1 t/m 4","groups":[{"A":[["na elkaar",)"),
+              std::string::npos);
+    EXPECT_NE(all.find(R"("search":[[)"), std::string::npos);
+}
+
+TEST(exercise_dump, repeats_itself_exactly_and_changes_with_the_seed) {
+    const std::string hele = "--generator M_hele_procenten_01_08_click ";
+    const std::string once = run(hele + "--count 20").output;
+    EXPECT_EQ(once, run("--seed 1 --count 20 " + hele).output);
+    EXPECT_NE(once, run(hele + "--count 20 --seed 2").output);
+    EXPECT_EQ(lines_of(once), 20);
+    EXPECT_NE(once.find(R"("variant":2,)"), std::string::npos);
+    EXPECT_EQ(once.find(R"("variant":3,)"), std::string::npos);
+}
+
+TEST(exercise_dump, makes_the_same_of_a_generator_whichever_others_are_named) {
+    const std::string rente = run("--generator M_rente_01_08_click").output;
+    const std::string both = run("--generator B_alcohol_01_08_Click --generator M_rente_01_08_click").output;
+    EXPECT_EQ(lines_of(both), 2);
+    EXPECT_TRUE(both.ends_with(rente));
+}
+
+TEST(exercise_dump, refuses_what_it_does_not_know) {
+    for (const char* arguments :
+         {"--frobnicate", "rente", "--generator", "--generator rente", "--generator ''", "--count", "--count 0",
+          "--count -1", "--count 2x", "--count 1000001", "--seed ''", "--seed -1", "--seed 4294967296", "--seed 1.5",
+          "--list --count 2", "--catalogue --list"}) {
+        const outcome refused = run(std::string(arguments) + " 2>&1 >/dev/null");
+        EXPECT_EQ(refused.status, 2) << arguments;
+        EXPECT_NE(refused.output.find("exercise_dump: "), std::string::npos) << arguments;
+        EXPECT_EQ(run(std::string(arguments) + " 2>/dev/null").output, "") << arguments;
+    }
+    EXPECT_EQ(run("--seed 4294967295 --generator M_rente_01_08_click").status, 0);
+}
+
+TEST(exercise_dump, says_when_it_cannot_write) {
+    EXPECT_EQ(run("--count 100 2>/dev/null >&-").status, 1);
+    EXPECT_EQ(run("--list 2>/dev/null >/dev/full").status, 1);
+}
+
+} // namespace
