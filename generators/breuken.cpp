@@ -237,7 +237,7 @@ void oefeningen::L_helen_maken_03_03_click() {
     // The dots make room for the answer, upright around the middle of the sum.
     constexpr int stip = 2520;
     const auto links = [](int getal) { return kaal(stip - std::lround(text_width(kaal(getal), 12) / 2)); };
-    opdrachten("PRINT_2420_470_2_20_..", "LINE_2400_760_240_110_2_BF_0",
+    opdrachten("PRINT_2420_470_2_20_..", "LINE_2400_540_240_330_2_BF_0",
                regel("PRINT_", links(nodig), "_630_15_12_", kaal(nodig)), "LINE_2370_901_300_0_15_B_0",
                regel("PRINT_", links(deel.noemer), "_921_15_12_", kaal(deel.noemer)));
 }
