@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <span>
+#include <vector>
 
 namespace cijferwerf {
 
@@ -12,12 +13,11 @@ namespace {
 // The first three of these mistakes that are above 0 and differ by value from the right answer and from one another.
 std::array<breuk, 3> drie_andere(breuk juist, std::span<const breuk> vergissingen) {
     std::array<breuk, 3> gekozen{};
-    std::size_t aantal = 0;
+    auto volgende = gekozen.begin();
     for (const breuk b : vergissingen) {
-        const bool al_gekozen = std::find(gekozen.begin(), gekozen.begin() + aantal, b) != gekozen.begin() + aantal;
-        if (b.teller <= 0 || b == juist || al_gekozen) continue;
-        gekozen[aantal++] = b;
-        if (aantal == gekozen.size()) return gekozen;
+        if (b.teller <= 0 || b == juist || std::find(gekozen.begin(), volgende, b) != volgende) continue;
+        *volgende++ = b;
+        if (volgende == gekozen.end()) return gekozen;
     }
     throw checked_error("too few different mistakes with a fraction");
 }
@@ -111,15 +111,15 @@ void oefeningen::L_stukken_03_14_click() {
           regel("een lengte heeft van ", waarde(vraag_AB ? AC : AB), "."), leeg,
           vraag_AB ? "Hoe lang is het stuk AB?" : "Hoe lang is het stuk AC?");
 
-    // A piece too many or too few, the other piece, a mark more or less counted, multiplied for divided.
-    const std::array<breuk, 5> bij_AB{{lengte(stukken - tot_B), lengte(tot_B == stukken - 1 ? 0 : tot_B + 1),
-                                       lengte(tot_B - 1), AC * breuk{tot_B, stukken + 1},
-                                       lengte(tot_B == stukken - 1 ? 0 : 1) * breuk{stukken * tot_B, stukken - 1}}};
-    const std::array<breuk, 5> bij_AC{{lengte(stukken + 1), lengte(stukken - 1), lengte(stukken - tot_B),
-                                       lengte(stukken + tot_B), AB * breuk{tot_B, stukken}}};
-    const breuk juist = vraag_AB ? AB : AC;
-    goed(waarde(juist));
-    for (const breuk b : drie_andere(juist, geschud(vraag_AB ? bij_AB : bij_AC))) fout(waarde(b));
+    // Pieces counted too many or too few, the other part, both together; and if that is too little, half a piece.
+    const int aantal = vraag_AB ? tot_B : stukken;
+    std::vector<breuk> vergissingen;
+    for (const int n :
+         geschud(std::array{aantal - 2, aantal - 1, aantal + 1, aantal + 2, stukken - tot_B, stukken + tot_B}))
+        if (vraag_AB ? n < stukken : n > tot_B) vergissingen.push_back(lengte(n));
+    vergissingen.push_back(lengte(2 * aantal + 1) * breuk{1, 2});
+    goed(waarde(lengte(aantal)));
+    for (const breuk b : drie_andere(lengte(aantal), vergissingen)) fout(waarde(b));
     leg_vast(trek(4) + 1);
     tip_1("Eerste stap: beschouw AB/AC als een breuk...");
     tip_2("Tweede stap: bekijk de waarde van een stuk tussen", "twee strepen...");
@@ -181,14 +181,16 @@ void oefeningen::M_aanvullen_1_03_14_click() {
     tip_1(regel("Eerste stap: maak van die", helen, " een breuk..."), "Tweede stap: tel daar de streepbreuk bij op.");
     tip_2("Derde stap: trek die rechter streepbreuk ervan af...");
 
+    const breuk som = getal.maal(fijner / getal.noemer);
     const auto met_noemer = [&](breuk b) {
         const breuk gelijknamig = b.maal(fijner / b.noemer);
         return b.noemer == fijner ? streepbreuk(b) : regel(streepbreuk(b), " (= ", streepbreuk(gelijknamig), ")");
     };
     uitleg(regel("Schrijf voor het getal", helen, " de breuk ", streepbreuk({helen * fijner, fijner}),
                  ". Tel daar die ", met_noemer(links)),
-           regel("bij op. Dan krijg je ", streepbreuk(getal), ". Om daar ", met_noemer(over), " van over te houden"),
-           regel("moet je er ", streepbreuk(af), " van aftrekken."),
+           regel("bij op. Dan krijg je ", streepbreuk(som), ". Om daar ", met_noemer(over), " van over te houden"),
+           regel("moet je er ", streepbreuk(af), " van aftrekken.",
+                 streepbreuk(af) == waarde(af) ? "" : regel(" Dat is gelijk aan ", waarde(af), ".")),
            regel("Op de stippeltjes moet dus het getal ", waarde(af), " staan."));
     // The dots go in the colour of the ground, and their soft edges under a box.
     const int x = gat - static_cast<int>(text_width(waarde(af), 12) / 2);
