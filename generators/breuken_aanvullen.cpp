@@ -65,6 +65,8 @@ void oefeningen::L_procenten_03_14_click() {
            regel("De breuk", procent, " /100 kun je vereenvoudigen tot ", waarde(honderdsten)),
            regel("door de teller en de noemer door", deler, " te delen."),
            regel("Goede antwoord: ", waarde(honderdsten), "."));
+    opdrachten("LINE_300_880_3000_400_1_BF_0",
+               regel("PRINT_350_880_15_16_", procent, " % =  ", waarde(honderdsten), " deel"));
 }
 
 void oefeningen::L_stukken_03_14_click() {
@@ -79,7 +81,9 @@ void oefeningen::L_stukken_03_14_click() {
         [this] {
             return breuk{trek(5) + 1, trek(6) + 1};
         },
-        [](breuk b) { return !b.vereenvoudigbaar(); });
+        [](breuk b) {
+            return !b.vereenvoudigbaar() && b != breuk{1, 1};
+        });
     const auto lengte = [&](int aantal) { return breuk{aantal, 1} * stuk; };
     const breuk AB = lengte(tot_B);
     const breuk AC = lengte(stukken);
@@ -104,8 +108,9 @@ void oefeningen::L_stukken_03_14_click() {
         plaatje.line(streep(tot), y - 60, streep(tot), y + 60, in);
         druk_midden((links + streep(tot)) / 2, y + 20, tekst);
     };
-    maat(1250, tot_B, vraag_AB ? donkerrood : zwart, vraag_AB ? "?" : waarde(AB));
-    maat(1680, stukken, vraag_AB ? zwart : donkerrood, vraag_AB ? waarde(AC) : "?");
+    constexpr int maat_AB = 1250, maat_AC = 1680;
+    maat(maat_AB, tot_B, vraag_AB ? donkerrood : zwart, vraag_AB ? "?" : waarde(AB));
+    maat(maat_AC, stukken, vraag_AB ? zwart : donkerrood, vraag_AB ? waarde(AC) : "?");
 
     vraag("Kijk hiernaast...", vraag_AB ? "Gegeven is dat het stuk AC" : "Gegeven is dat het stuk AB",
           regel("een lengte heeft van ", waarde(vraag_AB ? AC : AB), "."), leeg,
@@ -137,6 +142,13 @@ void oefeningen::L_stukken_03_14_click() {
                    : regel("Een stuk tussen twee strepen is dus ", waarde(AB), " :", tot_B, " = ", waarde(stuk), "."),
                regel("Het hele stuk AC bestaat uit", stukken, " van die stukken."),
                regel("AC =", stukken, " x ", waarde(stuk), " = ", waarde(AC), "."));
+    // The length takes the place of its question mark.
+    const int y = vraag_AB ? maat_AB : maat_AC;
+    const int midden = (links + streep(aantal)) / 2;
+    const std::string antwoord = waarde(lengte(aantal));
+    opdrachten(
+        regel("LINE_", velden(midden - 100, y + 40), "_200_220_15_BF_0"),
+        regel("PRINT_", velden(midden - static_cast<int>(text_width(antwoord, 11) / 2), y + 20), "_4_11_", antwoord));
 }
 
 void oefeningen::M_aanvullen_1_03_14_click() {
@@ -161,6 +173,9 @@ void oefeningen::M_aanvullen_1_03_14_click() {
 
     bord(donkerblauw, wit, 14);
     plaatje.box(120, 120, drawing::inner_width - 240, drawing::inner_height - 240, lichtgrijs);
+    plaatje.filled_box(900, 1900, 3580, 60, olijf);
+    plaatje.filled_box(1250, 1840, 420, 60, wit);
+    plaatje.filled_box(1950, 1840, 300, 60, geel);
     constexpr int midden = 690, gat = 2550;
     teken_breuk(plaatje, 1250, midden, helen, links.teller, links.noemer);
     druk(1980, midden - 161, "-");
@@ -193,9 +208,14 @@ void oefeningen::M_aanvullen_1_03_14_click() {
                  streepbreuk(af) == waarde(af) ? "" : regel(" Dat is gelijk aan ", waarde(af), ".")),
            regel("Op de stippeltjes moet dus het getal ", waarde(af), " staan."));
     // The dots go in the colour of the ground, and their soft edges under a box.
-    const int x = gat - static_cast<int>(text_width(waarde(af), 12) / 2);
+    const std::string met_breuken =
+        regel(streepbreuk(som), " - ", streepbreuk(af), " = ", streepbreuk(over.maal(fijner / over.noemer)));
+    const auto links_van = [](int om, std::string_view text) {
+        return om - static_cast<int>(text_width(text, 12) / 2);
+    };
     opdrachten("PRINT_2450_450_1_20_..", "LINE_2430_520_240_310_1_BF_0",
-               regel("PRINT_", velden(x), "_550_12_12_", waarde(af)));
+               regel("PRINT_", velden(links_van(gat, waarde(af))), "_550_12_12_", waarde(af)),
+               regel("PRINT_", velden(links_van(gat, met_breuken)), "_1300_15_12_", met_breuken));
 }
 
 void oefeningen::M_aanvullen_2_03_14_click() { M_aanvullen_1_03_14_click(); }
@@ -272,6 +292,7 @@ void oefeningen::M_tussen_in_03_14_click() {
            regel("omzetten:", b.teller, " delen door", b.noemer, " geeft", kommagetal, deelbaar ? "." : "..."),
            "Als je alle mogelijkheden bekijkt zie je dat dat getal", regel("alleen tussen", tussen(juist), " ligt."),
            regel("De juiste kleur is dus ", kleuren[static_cast<std::size_t>(juist - 1)].naam, "."));
+    opdrachten(regel("PRINT_550_1690_0_14_=", kommagetal, deelbaar ? "" : "..."));
 }
 
 } // namespace cijferwerf
