@@ -142,7 +142,7 @@ void oefeningen::L_stukken_03_14_click() {
                    : regel("Een stuk tussen twee strepen is dus ", waarde(AB), " :", tot_B, " = ", waarde(stuk), "."),
                regel("Het hele stuk AC bestaat uit", stukken, " van die stukken."),
                regel("AC =", stukken, " x ", waarde(stuk), " = ", waarde(AC), "."));
-    // The length takes the place of its question mark.
+    // In the explanation the length takes the place of its question mark.
     const int y = vraag_AB ? maat_AB : maat_AC;
     const int midden = (links + streep(aantal)) / 2;
     const std::string antwoord = waarde(lengte(aantal));
@@ -207,12 +207,12 @@ void oefeningen::M_aanvullen_1_03_14_click() {
            regel("moet je er ", streepbreuk(af), " van aftrekken.",
                  streepbreuk(af) == waarde(af) ? "" : regel(" Dat is gelijk aan ", waarde(af), ".")),
            regel("Op de stippeltjes moet dus het getal ", waarde(af), " staan."));
-    // The dots go in the colour of the ground, and their soft edges under a box.
     const std::string met_breuken =
         regel(streepbreuk(som), " - ", streepbreuk(af), " = ", streepbreuk(over.maal(fijner / over.noemer)));
     const auto links_van = [](int om, std::string_view text) {
         return om - static_cast<int>(text_width(text, 12) / 2);
     };
+    // The dots go in the colour of the ground, and their soft edges under a box.
     opdrachten("PRINT_2450_450_1_20_..", "LINE_2430_520_240_310_1_BF_0",
                regel("PRINT_", velden(links_van(gat, waarde(af))), "_550_12_12_", waarde(af)),
                regel("PRINT_", velden(links_van(gat, met_breuken)), "_1300_15_12_", met_breuken));
@@ -245,14 +245,15 @@ void oefeningen::M_tussen_in_03_14_click() {
         });
     const int juist = trek(4) + 1;
     // By colour, where the two numbers begin: the right step, and others near it or some tenths away.
+    const int stap = b.teller * schaal / b.noemer;
     std::array<int, 4> begin{};
-    begin[static_cast<std::size_t>(juist - 1)] = b.teller * schaal / b.noemer;
+    begin[static_cast<std::size_t>(juist - 1)] = stap;
     const auto afstanden = geschud(variant == 1 ? std::array{-3, -2, -1, 1, 2, 3} : std::array{-10, -2, -1, 1, 2, 10});
     auto volgende = afstanden.begin();
     for (int i = 1; i <= 4; ++i) {
         if (i == juist) continue;
         int& hier = begin[static_cast<std::size_t>(i - 1)];
-        do hier = b.teller * schaal / b.noemer + *volgende++;
+        do hier = stap + *volgende++;
         while (hier < 0 || hier > schaal - 2);
     }
     const auto tussen = [&](int i) {
