@@ -127,7 +127,6 @@ QSize desktop::comfortable_size(const form& of) const {
 
 void desktop::show(form& shown) {
     gate_.watch(shown);
-    control* const wanted = shown.focus;
     form_page* made = page(shown);
     const bool fresh = made == nullptr;
     if (fresh) {
@@ -152,7 +151,6 @@ void desktop::show(form& shown) {
     pages_.push_back(made);
     if (fresh) window_->addWidget(made);
     window_->setCurrentWidget(made);
-    shown.focus = wanted; // a page that comes to the front takes the focus to its first widget
     if (!window_->isVisible()) {
         window_->setMinimumSize((QSizeF(shown.width, shown.height) * smallest_unit).toSize());
         const QSize size = comfortable_size(shown);
