@@ -223,9 +223,7 @@ void form_page::make_widget(control& shown) {
     case control_kind::list_box: {
         auto& list = static_cast<list_box&>(shown);
         auto* made = new list_widget(list, *this);
-        connect(made, &QListWidget::currentRowChanged, this, [this, &list](int row) {
-            if (!updating_) list.selected = row;
-        });
+        connect(made, &QListWidget::currentRowChanged, this, [&list](int row) { list.selected = row; });
         connect(made, &QListWidget::itemClicked, this, [this, made, &list](QListWidgetItem* item) {
             list.selected = made->row(item);
             clicked(list);
@@ -286,6 +284,7 @@ void form_page::copy(placed_control& placed) {
     if (auto* text = qobject_cast<QLabel*>(placed.widget)) text->setText(line_breaks(shown.caption));
     if (auto* pressed = qobject_cast<QAbstractButton*>(placed.widget)) pressed->setText(with_mnemonic(shown));
     if (auto* list = qobject_cast<QListWidget*>(placed.widget)) {
+        const QSignalBlocker quiet(list);
         if (new_items) {
             list->clear();
             for (const std::string& item : now.items) list->addItem(QString::fromStdString(item));
