@@ -443,7 +443,7 @@ void oefeningen::M_getallenlijn_03_03_click() {
     uitleg("Je moet hier die breuk met tienden vergelijken. Dan moet je",
            regel("eerst gelijknamig maken, bijv. je neemt als nieuwe noemer", nieuwe_noemer, "."),
            regel("De breuk is dan te schrijven als ", streepbreuk(gegeven.maal(nieuwe_noemer / gegeven.noemer)), "."),
-           regel("Dat is meer dan ", grens(onder), " en minder dan ", grens(onder + 1), "."),
+           regel("Dat is méér dan ", grens(onder), " en minder dan ", grens(onder + 1), "."),
            regel("De juiste kleur is dus ", pijlen[static_cast<std::size_t>(juist)].woord, "."));
 }
 
