@@ -6,10 +6,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDateTime>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QStackedWidget>
+
+#include <cmath>
 
 namespace cijferwerf {
 
@@ -181,25 +184,34 @@ box_answer desktop::ask(const std::string& text, const std::string& title, box_b
 }
 
 box_answer desktop::box_with(const std::string& text, const std::string& title, box_buttons buttons) {
-    QWidget* active = QApplication::activeWindow();
-    QMessageBox box(active != nullptr ? active : window_.get());
+    QWidget* const over = QApplication::activeWindow() != nullptr ? QApplication::activeWindow() : window_.get();
+    QMessageBox box(over);
     box.setWindowTitle(QString::fromStdString(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
-    if (!pages_.empty()) {
-        QFont font = box.font();
-        font.setPixelSize(std::max(12, static_cast<int>(box_points * 20 * pages_.back()->unit())));
-        box.setFont(font);
+    box.addButton(buttons == box_buttons::ok ? "OK" : "Ja", QMessageBox::YesRole);
+    const QAbstractButton* no = nullptr;
+    if (buttons == box_buttons::yes_no) {
+        QPushButton* const escape = box.addButton("Nee", QMessageBox::NoRole);
+        box.setEscapeButton(escape);
+        no = escape;
     }
-    if (buttons == box_buttons::ok) {
-        box.addButton("OK", QMessageBox::AcceptRole);
-        box.exec();
-        return box_answer::ok;
+
+    // As large as the screens are.
+    const double unit = pages_.empty() ? 1.0 / 15 : pages_.back()->unit();
+    const auto pixels = [unit](double twips) { return static_cast<int>(std::lround(twips * unit)); };
+    QFont font = box.font();
+    font.setPixelSize(std::max(12, pixels(box_points * 20)));
+    box.setFont(font);
+    box.layout()->setContentsMargins(pixels(300), pixels(300), pixels(300), pixels(240));
+    for (QAbstractButton* button : box.buttons()) {
+        button->setFont(font);
+        button->setMinimumSize(pixels(1200), pixels(420));
     }
-    const QPushButton* yes = box.addButton("Ja", QMessageBox::YesRole);
-    box.setEscapeButton(box.addButton("Nee", QMessageBox::NoRole));
+
     box.exec();
-    return box.clickedButton() == yes ? box_answer::yes : box_answer::no;
+    over->activateWindow(); // where no window manager gives it back
+    return buttons == box_buttons::ok ? box_answer::ok : box.clickedButton() == no ? box_answer::no : box_answer::yes;
 }
 
 print_result desktop::print(const report& printed) { return print_report(printed); }

@@ -96,7 +96,10 @@ void paint_box(QPainter& on, const QRectF& box, const look& drawn, double unit, 
 void paint_focus(QPainter& on, const QRectF& box, const look& drawn, double unit) {
     const double away = std::max(2.0, std::round(30 * unit));
     paint_box(on, box.adjusted(away, away, -away, -away),
-              {.fill = Qt::transparent, .edge = drawn.text, .radius = std::max(0, drawn.radius - 30)}, unit, 30);
+              {.fill = Qt::transparent,
+               .edge = drawn.fill == accent || drawn.fill == accent_dark ? paper : accent,
+               .radius = std::max(0, drawn.radius - 30)},
+              unit, 30);
 }
 
 void paint_text(QPainter& on, const QRectF& box, double unit, int flags, const QString& text, const QFont& with,

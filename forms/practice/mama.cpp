@@ -87,48 +87,51 @@ mama::mama(outside& with, formulieren& forms)
 void mama::leg_controls_neer() {
     using enum theme_role;
     add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
-    add(terug, "terug", {240, 150, 1260, 420}, action, "terug");
-    add(opschriftbalk, "opschriftbalk", {1740, 150, 6300, 420}, heading);
+    add(terug, "terug", {150, 150, 1260, 420}, action, "terug");
+    add(opschriftbalk, "opschriftbalk", {1650, 150, 6300, 420}, heading);
     opschriftbalk.font_size = 15;
-    add(info, "info", {8280, 150, 1260, 420}, action, "info");
-    add(score, "score", {9600, 150, 1260, 420}, action, "score");
-    add(stopteken, "stopteken", {10980, 150, 1260, 420}, action, "stoppen");
+    add(info, "info", {8340, 150, 1260, 420}, action, "info");
+    add(score, "score", {9690, 150, 1260, 420}, action, "score");
+    add(stopteken, "stopteken", {11070, 150, 1260, 420}, action, "stoppen");
 
-    add(taakkiezen_label, "taakkiezen_label", {240, 780, 2100, 255}, hint);
-    add(presentatielijst, "presentatielijst", {240, 1050, 2100, 6510}, list);
+    add(taakkiezen_label, "taakkiezen_label", {240, 765, 2100, 255}, hint);
+    add(presentatielijst, "presentatielijst", {150, 1050, 2070, 6630}, list);
     presentatielijst.accessible_name = "opgaven";
 
-    add(vraagvlak, "vraagvlak", {2460, 840, 9900, 4500}, panel);
+    add(vraagvlak, "vraagvlak", {2340, 840, 9990, 4500}, panel);
     for (int i = 1; i <= 7; ++i) add(vraag[i], "vraag", {2580, 960 + (i - 1) * 300, 4140, 300}, question);
-    add(plaatje, "plaatje", {6840, 960, drawing::inner_width, drawing::inner_height}, picture);
+    add(plaatje, "plaatje", {6780, 1005, drawing::inner_width, drawing::inner_height}, picture);
     plaatje.accessible_name = "plaatje bij de opgave";
     for (int i = 1; i <= 4; ++i) {
         const int top = 3300 + (i - 1) * 495;
-        add(knop[i], "knop", {2580, top, 480, 450}, answer_button, letter(i));
+        add(knop[i], "knop", {2580, top, 510, 450}, answer_button, letter(i));
+        knop[i].font_size = 13;
         add(alternatief[i], "alternatief", {3180, top, 3540, 450}, answer);
         knop[i].click = [this, i] { knop_click(i); };
         alternatief[i].click = [this, i] { alternatief_click(i); };
     }
 
-    add(rekenmachine, "rekenmachine", {6840, 3240, 5380, 2040}, panel);
-    add(display, "display", {6960, 3330, 5140, 390}, readout);
+    add(rekenmachine, "rekenmachine", {6780, 3255, 5380, 1980}, panel);
+    add(display, "display", {6900, 3345, 5140, 390}, readout);
     display.font_size = 14;
     display.right_aligned = true;
     for (int row = 0; row < 3; ++row)
         for (int column = 0; column < 7; ++column) {
             const int i = toetsenbord[row][column];
-            add(k[i], "k", {6960 + column * 740, 3780 + row * 480, 700, 420}, i <= 10 ? key : operator_key,
+            add(k[i], "k", {6900 + column * 740, 3795 + row * 465, 700, 420}, i <= 10 ? key : operator_key,
                 std::string(toetsen[i].face));
             k[i].keys = toetsen[i].keys;
             k[i].accessible_name = toetsen[i].spoken;
             k[i].click = [this, i] { k_click(i); };
         }
 
-    add(berichtvlak, "berichtvlak", {2460, 5430, 9900, 2250}, panel);
+    add(berichtvlak, "berichtvlak", {2340, 5445, 9990, 2235}, panel);
     add(uitleg_bericht, "uitleg_bericht", {2580, 5475, 4000, 315}, message_heading);
-    add(uitleggeven, "uitleggeven", {10440, 5490, 1800, 420}, main_action, "uitleg");
+    uitleg_bericht.font_size = 11.25;
+    add(uitleggeven, "uitleggeven", {10380, 5535, 1800, 420}, main_action, "uitleg");
     for (int i = 0; i <= 6; ++i)
         add(bericht[i], "bericht", {2580, 5805 + i * 264, i < 1 ? 7800 : 9660, 264}, i == 0 ? verdict : message);
+    bericht[0].font_size = 10.5;
 
     add(Timer1, "Timer1", 1000);
     add(Timer2, "Timer2", 2000);

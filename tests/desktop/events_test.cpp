@@ -159,6 +159,18 @@ TEST_F(events, a_form_shown_over_another_is_uncovered_again) {
     EXPECT_TRUE(outside.page(screen)->isVisible());
 }
 
+TEST_F(events, the_first_list_entry_is_selected_when_the_list_gets_the_focus_of_a_new_form) {
+    try_out above(outside, "above");
+    outside.run([&] {
+        above.show();
+        above.focus = &above.lijst;
+    });
+    type(outside, above, Qt::Key_Return);
+    EXPECT_EQ(above.log, "toets13 ");
+    EXPECT_EQ(above.lijst.selected, 0);
+    outside.run([&] { above.unload(); });
+}
+
 TEST_F(events, a_side_window_is_a_window_of_its_own) {
     try_out side(outside, "side");
     side.side_window = true;

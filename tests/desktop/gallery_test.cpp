@@ -1,0 +1,65 @@
+// exercise_gallery as a developer calls it.
+#include <QCoreApplication>
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct outcome {
+    int status;
+    QString said;
+};
+
+outcome gallery(const QStringList& arguments) {
+    QProcess program;
+    program.start(QCoreApplication::applicationDirPath() + "/exercise_gallery", arguments);
+    program.waitForFinished();
+    return {program.exitCode(), QString::fromUtf8(program.readAllStandardError())};
+}
+
+TEST(exercise_gallery, writes_the_question_and_the_explanation_of_every_variant) {
+    const QTemporaryDir folder;
+    const QString name = "M_hele_procenten_01_08_click";
+    ASSERT_EQ(gallery({"--out", folder.filePath("new"), "--generator", name, "--scale", "1.5"}).status, 0);
+    const QDir written(folder.filePath("new"));
+    QStringList expected;
+    for (const char* file : {"_variant01_uitleg", "_variant01_vraag", "_variant02_uitleg", "_variant02_vraag"})
+        expected << name + file + ".png";
+    ASSERT_EQ(written.entryList(QDir::Files, QDir::Name), expected);
+
+    const QImage question(written.filePath(expected[1]));
+    EXPECT_EQ(question.size(), QSize(1248, 780));
+    EXPECT_NE(question, QImage(written.filePath(expected[0])));
+    EXPECT_NE(question, QImage(written.filePath(expected[3])));
+
+    gallery({"--out", folder.filePath("again"), "--generator", name, "--scale", "1.5"});
+    EXPECT_EQ(question, QImage(QDir(folder.filePath("again")).filePath(expected[1])))
+        << "the same seed, other pictures";
+}
+
+TEST(exercise_gallery, says_what_is_wrong) {
+    const struct {
+        QStringList arguments;
+        int status;
+        const char* said;
+    } calls[]{
+        {{}, 2, "--out"},
+        {{"--out"}, 2, "--out needs a value"},
+        {{"--out", "x", "--colour", "red"}, 2, "--colour"},
+        {{"--out", "x", "--generator", "L_nergens"}, 2, "L_nergens"},
+        {{"--out", "x", "--seed", "1.5"}, 2, "--seed"},
+        {{"--out", "x", "--scale", "0"}, 2, "--scale"},
+        {{"--out", "x", "--scale", "nan"}, 2, "--scale"},
+        {{"--out", "/dev/null/x"}, 1, "/dev/null/x"},
+    };
+    for (const auto& call : calls) {
+        const outcome seen = gallery(call.arguments);
+        EXPECT_EQ(seen.status, call.status) << call.arguments.join(' ').toStdString();
+        EXPECT_TRUE(seen.said.contains(call.said)) << seen.said.toStdString();
+    }
+}
+
+} // namespace
