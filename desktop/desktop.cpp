@@ -64,8 +64,8 @@ void desktop::guarded(Event event) {
         --running_;
         failed_ = true;
         wake_up_.stop();
-        QMessageBox::critical(window_.get(), QString::fromStdString(program_name),
-                              QString("Het programma moet stoppen door een fout:\n\n%1").arg(error.what()));
+        box_with(std::string("Het programma moet stoppen door een fout:\n\n") + error.what(), program_name,
+                 box_buttons::ok);
         stop(1);
     }
 }
@@ -131,7 +131,8 @@ void desktop::show(form& shown) {
     form_page* made = page(shown);
     const bool fresh = made == nullptr;
     if (fresh) {
-        made = new form_page(shown, [this](const auto& handler) { run(handler); });
+        made = new form_page(
+            shown, [this](const auto& handler) { run(handler); }, shown.side_window ? nullptr : window_.get());
         made->setWindowTitle(QString::fromStdString(shown.caption));
     }
     if (shown.side_window) {
@@ -158,6 +159,7 @@ void desktop::show(form& shown) {
         const QRect screen = window_->screen()->availableGeometry();
         window_->setGeometry(QRect(screen.center() - QPoint(size.width(), size.height()) / 2, size));
         window_->show();
+        window_->activateWindow();
     }
 }
 
@@ -177,6 +179,10 @@ void desktop::unload(form& gone) {
 
 box_answer desktop::ask(const std::string& text, const std::string& title, box_buttons buttons) {
     update_screen();
+    return box_with(text, title, buttons);
+}
+
+box_answer desktop::box_with(const std::string& text, const std::string& title, box_buttons buttons) {
     QWidget* active = QApplication::activeWindow();
     QMessageBox box(active != nullptr ? active : window_.get());
     box.setWindowTitle(QString::fromStdString(title));

@@ -192,12 +192,11 @@ struct form_page::placed_control {
     }
 };
 
-form_page::form_page(form& of, event_runner run) : form_(of), run_(std::move(run)) {
+form_page::form_page(form& of, event_runner run, QWidget* window) : QWidget(window), form_(of), run_(std::move(run)) {
     setObjectName(QString::fromStdString(of.name()));
-    setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     for (control* shown : of.controls())
         if (shown->kind != control_kind::timer) make_widget(*shown);
-    update_widgets();
 }
 
 form_page::~form_page() = default;
@@ -273,6 +272,8 @@ void form_page::copy(placed_control& placed) {
         picture->update();
     }
     const auto now = placed.current();
+    // A click changes the widget by itself, whatever the form makes of it.
+    if (auto* option = qobject_cast<QRadioButton*>(placed.widget)) option->setChecked(now.selected != 0);
     if (placed.copied == now) return;
     const bool new_items = !placed.copied || placed.copied->items != now.items;
     placed.copied = now;
@@ -284,7 +285,6 @@ void form_page::copy(placed_control& placed) {
                                                                    : QString::fromStdString(shown.accessible_name));
     if (auto* text = qobject_cast<QLabel*>(placed.widget)) text->setText(line_breaks(shown.caption));
     if (auto* pressed = qobject_cast<QAbstractButton*>(placed.widget)) pressed->setText(with_mnemonic(shown));
-    if (auto* option = qobject_cast<QRadioButton*>(placed.widget)) option->setChecked(now.selected);
     if (auto* list = qobject_cast<QListWidget*>(placed.widget)) {
         if (new_items) {
             list->clear();
