@@ -3,7 +3,6 @@
 #include "runtime/checked_error.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace cijferwerf {
 
@@ -16,7 +15,7 @@ std::vector<int> signed_digits(std::string_view whole, std::string_view fraction
     whole.remove_prefix(minus ? 1 : 0);
     std::vector<int> digits;
     for (const std::string_view part : {fraction, whole})
-        for (const char c : part | std::views::reverse) digits.push_back(minus ? '0' - c : c - '0');
+        for (auto c = part.rbegin(); c != part.rend(); ++c) digits.push_back(minus ? '0' - *c : *c - '0');
     return digits;
 }
 
