@@ -1,11 +1,137 @@
-// Fractions, the sums: adding, subtracting, simplifying, multiplying and dividing.
+// Fractions, the sums: adding, subtracting, simplifying, multiplying and dividing. The wrong answers are the mistakes
+// of the last steps - not simplified, no whole taken out - and of the first: denominators not made equal, the wrong
+// fraction turned over.
+//
+// The explanation is worked out below the sum, in y 1050 to 2000, by the drawing commands.
 #include "generators/breuk.h"
 #include "generators/oefeningen.h"
 
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
 namespace cijferwerf {
 
-// Not written yet: each leaves the record blank.
-void oefeningen::L_optellen_03_14_click() {}
+namespace {
+
+// Two fractions below 1, each in its simplest form, and the wholes before them.
+struct som {
+    breuk links, rechts;
+    int helen_links = 0, helen_rechts = 0;
+
+    breuk eerste() const { return gemengd_getal(helen_links, links.teller, links.noemer); }
+    breuk tweede() const { return gemengd_getal(helen_rechts, rechts.teller, rechts.noemer); }
+    int gelijke_noemer() const { return std::lcm(links.noemer, rechts.noemer); }
+    bool noemers_passen() const { return gelijke_noemer() == std::max(links.noemer, rechts.noemer); }
+};
+
+std::vector<breuk> breuken_onder_1(int grootste_noemer) {
+    std::vector<breuk> all;
+    for (int noemer = 2; noemer <= grootste_noemer; ++noemer)
+        for (int teller = 1; teller < noemer; ++teller)
+            if (!breuk{teller, noemer}.vereenvoudigbaar()) all.push_back({teller, noemer});
+    return all;
+}
+
+// All sums that fit, with wholes up to so many (from 1 on, or none at all).
+template<class Fits>
+std::vector<som> alle_sommen(int grootste_noemer, int meeste_helen, Fits past) {
+    std::vector<som> all;
+    const std::vector<breuk> breuken = breuken_onder_1(grootste_noemer);
+    const int minste = std::min(meeste_helen, 1);
+    for (const breuk links : breuken)
+        for (const breuk rechts : breuken)
+            for (int a = minste; a <= meeste_helen; ++a)
+                for (int b = minste; b <= meeste_helen; ++b)
+                    if (const som s{links, rechts, a, b}; past(s)) all.push_back(s);
+    return all;
+}
+
+// "3 9/6": wholes before a fraction that may be above 1.
+std::string met_helen(int helen, breuk b) {
+    return helen == 0 ? streepbreuk(b) : regel(kaal(helen), " ", streepbreuk(b));
+}
+
+// The sum on the picture, its bars at y; the dots stand for what is asked.
+void teken_som(drawing& on, int x, int y, const som& s, std::string_view teken, std::string_view stippels) {
+    const int top = y - static_cast<int>(std::lround(text_height(on.text_size))) / 2;
+    const auto print = [&](std::string_view text) {
+        on.print_at(x + 110, top, text);
+        x = on.x + 110;
+    };
+    x = teken_breuk(on, x, y, s.helen_links, s.links.teller, s.links.noemer);
+    print(teken);
+    x = teken_breuk(on, x, y, s.helen_rechts, s.rechts.teller, s.rechts.noemer);
+    print("=");
+    on.print_at(x, top, stippels);
+}
+
+// ---- the explanation ----
+
+std::string breuk_opdracht(std::string_view plaats, int helen, breuk b) {
+    return regel(plaats, velden(helen, b.teller, b.noemer));
+}
+
+// The bars and the empty places of the fractions that BREUK1 will write at these x, with y 1400: there are no commands
+// left to draw them.
+template<std::size_t N>
+void teken_lege_breuken(drawing& on, const std::array<int, N>& plaatsen) {
+    on.style = line_style::dot;
+    for (const int x : plaatsen)
+        for (const int top : {1252, 1582}) on.box(x + 255, top, 220, 180, lichtgrijs);
+    on.style = line_style::solid;
+    for (const int x : plaatsen) on.line(x + 235, 1507, x + 495, 1507, wit);
+}
+
+} // namespace
+
+void oefeningen::L_optellen_03_14_click() {
+    // The fractions together are more than 1, and what is left above 1 can be simplified.
+    static const auto past = [](const som& s) {
+        const breuk samen = s.links + s.rechts;
+        return s.links.noemer != s.rechts.noemer && s.gelijke_noemer() <= 40 && samen > breuk{1, 1} &&
+               samen.rest().vereenvoudigbaar() && samen.rest().teller > 0;
+    };
+    static const std::array sommen{
+        alle_sommen(15, 0, [](const som& s) { return past(s) && s.noemers_passen(); }),
+        alle_sommen(15, 0, [](const som& s) { return past(s) && !s.noemers_passen(); }),
+        alle_sommen(10, 4, past),
+    };
+    kies_variant(3);
+    zaai();
+    const som s = kies(sommen[static_cast<std::size_t>(variant - 1)]);
+    const int noemer = s.gelijke_noemer();
+    const int helen = s.helen_links + s.helen_rechts;
+    const breuk samen = s.links + s.rechts;
+    const int deler = samen.deler();
+
+    bord(groen, geel, 16);
+    teken_som(plaatje, 700, 520, s, "+", "......");
+    teken_lege_breuken(plaatje, std::array{700, 1550, 2400, 3250, 4100});
+
+    vraag("Kijk hiernaast...", "Twee breuken worden gelijknamig", "gemaakt, opgeteld en zo ver mogelijk",
+          "vereenvoudigd.", "Welke streepbreuk moet op de", "stippeltjes staan?");
+
+    goed(met_helen(helen + 1, samen.rest().vereenvoudigd()));
+    if (variant == 2)
+        fout(met_helen(helen + 1, samen.rest()), "Je hebt niet vereenvoudigd.", "Je moet ook vereenvoudigden.");
+    else
+        fout(met_helen(helen + 1, samen.rest()), "Je hebt niet vereenvoudigd.");
+    fout(met_helen(helen, samen.vereenvoudigd()), "Je hebt er geen hele uitgehaald.");
+    fout(met_helen(helen, samen), "Je hebt er geen hele uitgehaald en je", "hebt niet vereenvoudigd...");
+
+    uitleg(regel("Maak van de noemers eerst", noemer, ", zodat je ze"),
+           "makkelijk kunt optellen. Haal er vervolgens een hele uit",
+           "en vereenvoudig die breuk door de teller en de noemer", regel("door", deler, " te delen."),
+           regel("Het goede antwoord is ", antwoord_1, "."));
+    opdrachten(breuk_opdracht("BREUK1_700_1400_", s.helen_links, s.links.maal(noemer / s.links.noemer)),
+               breuk_opdracht("BREUK1_1550_1400_", s.helen_rechts, s.rechts.maal(noemer / s.rechts.noemer)),
+               breuk_opdracht("BREUK1_2400_1400_", helen, samen),
+               breuk_opdracht("BREUK1_3250_1400_", helen + 1, samen.rest()),
+               breuk_opdracht("BREUK1_4100_1400_", helen + 1, samen.rest().vereenvoudigd()),
+               "PRINT_1400_1350_15_12_+           =            =            =");
+}
+
 void oefeningen::M_aftrekken_03_14_click() {}
 void oefeningen::M_vereenvoudigen_03_14_click() {}
 void oefeningen::Z_delen_03_14_click() {}
