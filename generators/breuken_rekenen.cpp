@@ -87,7 +87,7 @@ void teken_lege_breuken(drawing& on, const std::array<int, N>& plaatsen) {
 // of its middle so that the red strokes run through it.
 std::vector<int> middens_van_streepjes(int x, std::string_view line) {
     constexpr std::string_view bar = "---";
-    constexpr int to_the_right = 30;
+    constexpr int to_the_right = 15;
     std::vector<int> middens;
     for (auto at = line.find(bar); at != line.npos; at = line.find(bar, at + bar.size()))
         middens.push_back(x + to_the_right +
@@ -127,9 +127,9 @@ struct inkt {
 };
 constexpr std::array<inkt, 4> inkten{{{"geel", geel}, {"rood", rood}, {"wit", wit}, {"groen", lichtgroen}}};
 
-// The outcomes below each other on the right, from x 3000, each beside the word of its colour.
+// The outcomes below each other on the right, right of x 3000, each beside the word of its colour.
 void teken_uitkomsten(drawing& on, const std::array<uitkomst, 4>& uitkomsten) {
-    on.line(3000, 100, 3000, 2030, grijs);
+    on.line(3030, 100, 3030, 2030, grijs);
     for (std::size_t i = 0; i < uitkomsten.size(); ++i) {
         const int y = 280 + static_cast<int>(i) * 523;
         const breuk waarde = uitkomsten[i].waarde;
@@ -410,7 +410,7 @@ void oefeningen::Z_delen_03_14_click() {
     opdrachten("LINE_3000_0_2380_2130_1_BF_1", regel("PRINT_520_1350_15_15_", strepen, "      ---"),
                rij(1250, x, {a.teller, b.teller, a.teller, om.teller, waarden[0].teller}),
                rij(1650, x, {a.noemer, b.noemer, a.noemer, om.noemer, waarden[0].noemer}),
-               breuk_opdracht("BREUK1_4250_1400_", waarden[0].geheel(), waarden[0].rest()),
+               breuk_opdracht("BREUK1_4250_1420_", waarden[0].geheel(), waarden[0].rest()),
                streep_door(x[2], tellers, tellers ? a.teller / k.eerste : a.noemer / k.tweede),
                streep_door(x[3], !tellers, tellers ? om.noemer / k.eerste : om.teller / k.tweede));
 }
@@ -494,7 +494,7 @@ void oefeningen::Z_vermenigvuldigen_03_14_click() {
             return regel(kaal(links_van(midden, getal)), "_", "1650_", kaal(getal), "_");
         };
         opdrachten("PRINT_520_1350_15_15_---  x  ---  =     ---",
-                   breuk_opdracht("BREUK1_1950_1400_", waarden[0].geheel(), waarden[0].rest()),
+                   breuk_opdracht("BREUK1_1950_1420_", waarden[0].geheel(), waarden[0].rest()),
                    regel("TELLERSNOEMERS_", teller(x[0], a.teller), noemer(x[0], a.noemer), teller(x[1], b.teller),
                          noemer(x[1], b.noemer)),
                    door_teller_a, door_noemer_b, door_noemer_a, door_teller_b);
