@@ -4,7 +4,6 @@
 #include <xcb/damage.h>
 #include <xcb/xcb.h>
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -13,7 +12,6 @@
 #include <fcntl.h>
 #include <fstream>
 #include <memory>
-#include <optional>
 #include <poll.h>
 #include <string>
 #include <sys/wait.h>
@@ -69,7 +67,9 @@ public:
         }
     }
 
-    std::optional<steady_clock::time_point> mapped, painted;
+    bool is_painted() const { return painted != steady_clock::time_point(); }
+
+    steady_clock::time_point mapped, painted; // once they happened
 
 private:
     void watch(xcb_window_t window) {
@@ -85,7 +85,7 @@ private:
 
     // Painted is what has more than one colour.
     void look_for_paint() {
-        if (painted) return;
+        if (is_painted()) return;
         const reply<xcb_get_geometry_reply_t> size{
             xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, window_), nullptr)};
         if (!size) return;
@@ -133,11 +133,11 @@ int main(int argc, char** argv) {
     const auto gone = [&begin] { return milliseconds(steady_clock::now() - begin).count(); };
     const pid_t child = start(argv + 1);
     bool ended = false;
-    while (!screen.painted && !ended && gone() < patience_ms) {
+    while (!screen.is_painted() && !ended && gone() < patience_ms) {
         screen.look(20);
         ended = waitpid(child, nullptr, WNOHANG) == child;
     }
-    if (!screen.painted) {
+    if (!screen.is_painted()) {
         if (!ended) {
             kill(child, SIGTERM);
             waitpid(child, nullptr, 0);
@@ -150,6 +150,6 @@ int main(int argc, char** argv) {
     const long resident = resident_kib(child);
     kill(child, SIGTERM);
     waitpid(child, nullptr, 0);
-    std::printf("%.1f %.1f %ld\n", milliseconds(*screen.mapped - begin).count(),
-                milliseconds(*screen.painted - begin).count(), resident);
+    std::printf("%.1f %.1f %ld\n", milliseconds(screen.mapped - begin).count(),
+                milliseconds(screen.painted - begin).count(), resident);
 }

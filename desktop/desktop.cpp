@@ -64,8 +64,8 @@ void desktop::guarded(Event event) {
         --running_;
         failed_ = true;
         wake_up_.stop();
-        QMessageBox::critical(window_.get(), QString::fromStdString(program_name),
-                              QString("Het programma moet stoppen door een fout:\n\n%1").arg(error.what()));
+        box_with(std::string("Het programma moet stoppen door een fout:\n\n") + error.what(), program_name,
+                 box_buttons::ok);
         stop(1);
     }
 }
@@ -127,11 +127,11 @@ QSize desktop::comfortable_size(const form& of) const {
 
 void desktop::show(form& shown) {
     gate_.watch(shown);
-    control* const wanted = shown.focus;
     form_page* made = page(shown);
     const bool fresh = made == nullptr;
     if (fresh) {
-        made = new form_page(shown, [this](const auto& handler) { run(handler); });
+        made = new form_page(
+            shown, [this](const auto& handler) { run(handler); }, shown.side_window ? nullptr : window_.get());
         made->setWindowTitle(QString::fromStdString(shown.caption));
     }
     if (shown.side_window) {
@@ -151,13 +151,13 @@ void desktop::show(form& shown) {
     pages_.push_back(made);
     if (fresh) window_->addWidget(made);
     window_->setCurrentWidget(made);
-    shown.focus = wanted; // a page that comes to the front takes the focus to its first widget
     if (!window_->isVisible()) {
         window_->setMinimumSize((QSizeF(shown.width, shown.height) * smallest_unit).toSize());
         const QSize size = comfortable_size(shown);
         const QRect screen = window_->screen()->availableGeometry();
         window_->setGeometry(QRect(screen.center() - QPoint(size.width(), size.height()) / 2, size));
         window_->show();
+        window_->activateWindow();
     }
 }
 
@@ -177,6 +177,10 @@ void desktop::unload(form& gone) {
 
 box_answer desktop::ask(const std::string& text, const std::string& title, box_buttons buttons) {
     update_screen();
+    return box_with(text, title, buttons);
+}
+
+box_answer desktop::box_with(const std::string& text, const std::string& title, box_buttons buttons) {
     QWidget* active = QApplication::activeWindow();
     QMessageBox box(active != nullptr ? active : window_.get());
     box.setWindowTitle(QString::fromStdString(title));

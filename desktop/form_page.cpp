@@ -192,12 +192,11 @@ struct form_page::placed_control {
     }
 };
 
-form_page::form_page(form& of, event_runner run) : form_(of), run_(std::move(run)) {
+form_page::form_page(form& of, event_runner run, QWidget* window) : QWidget(window), form_(of), run_(std::move(run)) {
     setObjectName(QString::fromStdString(of.name()));
-    setFocusPolicy(Qt::NoFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
     for (control* shown : of.controls())
         if (shown->kind != control_kind::timer) make_widget(*shown);
-    update_widgets();
 }
 
 form_page::~form_page() = default;
@@ -224,9 +223,7 @@ void form_page::make_widget(control& shown) {
     case control_kind::list_box: {
         auto& list = static_cast<list_box&>(shown);
         auto* made = new list_widget(list, *this);
-        connect(made, &QListWidget::currentRowChanged, this, [this, &list](int row) {
-            if (!updating_) list.selected = row;
-        });
+        connect(made, &QListWidget::currentRowChanged, this, [&list](int row) { list.selected = row; });
         connect(made, &QListWidget::itemClicked, this, [this, made, &list](QListWidgetItem* item) {
             list.selected = made->row(item);
             clicked(list);
@@ -273,6 +270,8 @@ void form_page::copy(placed_control& placed) {
         picture->update();
     }
     const auto now = placed.current();
+    // A click changes the widget by itself, whatever the form makes of it.
+    if (auto* option = qobject_cast<QRadioButton*>(placed.widget)) option->setChecked(now.selected != 0);
     if (placed.copied == now) return;
     const bool new_items = !placed.copied || placed.copied->items != now.items;
     placed.copied = now;
@@ -284,8 +283,8 @@ void form_page::copy(placed_control& placed) {
                                                                    : QString::fromStdString(shown.accessible_name));
     if (auto* text = qobject_cast<QLabel*>(placed.widget)) text->setText(line_breaks(shown.caption));
     if (auto* pressed = qobject_cast<QAbstractButton*>(placed.widget)) pressed->setText(with_mnemonic(shown));
-    if (auto* option = qobject_cast<QRadioButton*>(placed.widget)) option->setChecked(now.selected);
     if (auto* list = qobject_cast<QListWidget*>(placed.widget)) {
+        const QSignalBlocker quiet(list);
         if (new_items) {
             list->clear();
             for (const std::string& item : now.items) list->addItem(QString::fromStdString(item));

@@ -17,7 +17,8 @@ public:
     // Runs a handler as an event: one at a time, and the widgets follow.
     using event_runner = std::function<void(const std::function<void()>&)>;
 
-    form_page(form& of, event_runner run);
+    // The widgets take their state at the first update. Without a window the page is one itself.
+    form_page(form& of, event_runner run, QWidget* window = nullptr);
     ~form_page() override;
 
     form& shown() const { return form_; }

@@ -36,12 +36,13 @@ public:
           box_(box),
           pictures_(pictures),
           unit_(box.width() / drawing::inner_width),
+          unit_down_(box.height() / drawing::inner_height),
           pixels_(on.device()->devicePixelRatioF()) {}
 
     void operator()(const text_op& op) {
         on_.save();
-        on_.translate(box_.topLeft() + QPointF(op.x, op.y) * unit_);
-        on_.scale(unit_ * narrowing, unit_);
+        on_.translate(place({op.x, op.y}));
+        on_.scale(unit_ * narrowing, unit_down_);
         const QFont font = twip_font(op.size);
         on_.setFont(font);
         on_.setPen(rgb(op.colour));
@@ -51,10 +52,13 @@ public:
 
     void operator()(const line_op& op) {
         take_up(op.pen, false);
-        if (op.from.x == op.to.x || op.from.y == op.to.y)
-            on_.drawLine(on_pixels(op.from, op.pen), on_pixels(op.to, op.pen));
-        else
-            on_.drawLine(place(op.from), place(op.to));
+        QPointF from = place(op.from);
+        QPointF to = place(op.to);
+        if (op.from.y == op.to.y)
+            from = {snapped(from.x()), on_pixels(op.from, op.pen).y()}, to = {snapped(to.x()), from.y()};
+        else if (op.from.x == op.to.x)
+            from = {on_pixels(op.from, op.pen).x(), snapped(from.y())}, to = {from.x(), snapped(to.y())};
+        on_.drawLine(from, to);
     }
 
     void operator()(const box_op& op) {
@@ -72,7 +76,7 @@ public:
 
     void operator()(const circle_op& op) {
         take_up(op.pen, op.filled);
-        const QPointF radius(op.radius_x * unit_, op.radius_y * unit_);
+        const QPointF radius(op.radius_x * unit_, op.radius_y * unit_down_);
         const QRectF around(place(op.centre) - radius, place(op.centre) + radius);
         if (std::abs(op.sweep) >= 360)
             on_.drawEllipse(around);
@@ -100,7 +104,7 @@ public:
     }
 
 private:
-    QPointF place(point at) const { return box_.topLeft() + QPointF(at.x, at.y) * unit_; }
+    QPointF place(point at) const { return box_.topLeft() + QPointF(at.x * unit_, at.y * unit_down_); }
     double snapped(double value) const { return std::round(value * pixels_) / pixels_; }
     QPointF snapped(QPointF at) const { return {snapped(at.x()), snapped(at.y())}; }
 
@@ -123,8 +127,9 @@ private:
     const drawing& shown_;
     const QRectF box_;
     picture_cache& pictures_;
-    const double unit_;   // painter's coordinates per twip
-    const double pixels_; // device pixels per painter's coordinate
+    const double unit_;      // painter's coordinates per twip
+    const double unit_down_; // the same downward: a box of whole pixels is not quite in proportion
+    const double pixels_;    // device pixels per painter's coordinate
 };
 
 } // namespace

@@ -469,7 +469,7 @@ void oefeningen::Z_kommaprocenten_01_08_click() {
     const number_text antwoord = getal(p * basis);
 
     bord(groen, wit, 20);
-    druk_rechts(3560, 600, kaal(p_tekst), " % van", b_tekst, " =");
+    druk_rechts(3510, 600, kaal(p_tekst), " % van", b_tekst, " =");
 
     vraag(regel(leraar ? "De leraar" : "De lerares", " heeft een som op"), "het bord geschreven.", leeg,
           "Weet jij het goede antwoord?");

@@ -68,7 +68,7 @@ constexpr inleiding inleidingen[]{
      "Meten en meetkunde",
      {"Hoe lang, hoe groot en hoe zwaar? Dat meet je met meters, liters en grammen.",
       "Een meter is 100 centimeter, een liter is 10 deciliter, een kilo is 1.000 gram.", "",
-      "De omtrek is de lengte van de rand. De oppervlakte is de ruimte erbinnen:",
+      "De omtrek is de lengte van de rand. De oppervlakte is het vlak erbinnen:",
       "bij een rechthoek is dat lengte keer breedte. De inhoud van een doos is", "lengte keer breedte keer hoogte.",
       "Let op de maten: reken ze eerst om, zodat ze gelijk zijn."}},
     {9,
@@ -111,10 +111,10 @@ infoscherm::infoscherm(outside& with, formulieren& forms) : form(with, "infosche
     using enum theme_role;
     caption = booklet_set;
     add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
-    add(opschriftbalk, "opschriftbalk", {1740, 150, 9000, 420}, heading);
+    add(opschriftbalk, "opschriftbalk", {240, 150, 9000, 420}, heading);
     opschriftbalk.font_size = 15;
     add(vlak, "vlak", {600, 960, 11280, 5760}, panel);
-    add(titel, "titel", {840, 1140, 5400, 1000}, title);
+    add(titel, "titel", {840, 1140, 6800, 1000}, prompt);
     titel.font_size = 20;
     add(plaatje, "plaatje", {7900, 1100, 3766, 1491}, picture);
     for (int i = 1; i <= lines; ++i) {

@@ -50,6 +50,9 @@ public:
         list.selected = item;
         return gate_.handle([&] { list.keypress(list_box::enter_key); });
     }
+    void close(form& window) {
+        gate_.handle([&] { window.close_requested(); });
+    }
     // Time goes by, a little at a time, with every tick as it falls due.
     void wait(int milliseconds) {
         for (int gone = 0; gone < milliseconds; gone += 50) {

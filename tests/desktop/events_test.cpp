@@ -1,0 +1,205 @@
+// Events on a form that has a control of every kind: one at a time, in the right order, each where it belongs.
+#include "tests/desktop/screen.h"
+
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace cijferwerf {
+namespace {
+
+class try_out : public form {
+public:
+    explicit try_out(outside& with, std::string form_name = "try_out") : form(with, std::move(form_name)) {
+        using enum theme_role;
+        add(grond, "grond", {100, 100, 9000, 7000}, panel);
+        add(tekst, "tekst", {200, 200, 3000, 400}, body, "  één\rtwee & drie");
+        add(klik, "klik", {200, 700, 3000, 400}, choice, "klik hier");
+        add(knop, "knop", {200, 1200, 3000, 400}, action, "R & B");
+        add(lijst, "lijst", {200, 2000, 3000, 3000}, list);
+        add(links, "links", {4000, 200, 2000, 1000}, choice, "links");
+        add(rechts, "rechts", {4000, 1400, 2000, 1000}, choice, "rechts");
+        add(plaatje, "plaatje", {4000, 3000, drawing::inner_width, drawing::inner_height}, picture);
+        add(klok, "klok", 20);
+        lijst.items = {"eerste", "tweede", "derde"};
+        knop.mnemonic = 'b';
+        knop.keys = "K\r";
+        klik.click = [this] { log += "klik "; };
+        klik.hover = [this] { ++hovers; };
+        knop.click = [this] {
+            log += "knop ";
+            if (on_knop) on_knop();
+        };
+        lijst.click = [this] { log += "lijst" + std::to_string(lijst.selected) + " "; };
+        lijst.keypress = [this](int key) { log += "toets" + std::to_string(key) + " "; };
+        links.click = [this] { log += rechts.selected ? "beide " : "links "; };
+        klok.tick = [this] {
+            log += busy ? "TIK-BINNENIN " : "tik ";
+            if (--ticks_left == 0) klok.stop();
+        };
+    }
+    void close_requested() override { log += "sluiten "; }
+    outside& with() { return buiten; }
+
+    frame grond;
+    label tekst, klik;
+    button knop;
+    list_box lijst;
+    option_button links, rechts;
+    picture_box plaatje;
+    timer klok;
+
+    std::function<void()> on_knop;
+    std::string log;
+    int hovers = 0;
+    bool busy = false;
+    int ticks_left = 3;
+};
+
+class events : public testing::Test {
+protected:
+    events() {
+        outside.run([this] { screen.show(); });
+        EXPECT_TRUE(QTest::qWaitForWindowActive(outside.page(screen)->window()));
+    }
+    template<class Widget = QWidget>
+    Widget& widget(const char* name) {
+        return find<Widget>(outside, screen, name);
+    }
+
+    desktop outside;
+    try_out screen{outside};
+};
+
+TEST_F(events, captions_arrive_whole) {
+    EXPECT_EQ(widget<QLabel>("tekst").text(), QString::fromUtf8("  één\ntwee & drie"));
+    EXPECT_EQ(widget<QPushButton>("knop").text(), "R && &B");
+}
+
+TEST_F(events, a_tick_waits_until_the_handler_and_its_message_box_are_done) {
+    QString seen;
+    outside.run([this] { screen.klok.start(); });
+    screen.on_knop = [this] {
+        screen.busy = true;
+        screen.with().ask("even wachten", "", box_buttons::ok);
+        QTest::qSleep(50);
+        screen.busy = false;
+    };
+    answer_box("OK", seen, [] { QTest::qWait(100); });
+    click(widget("knop"));
+    EXPECT_EQ(screen.log, "knop ");
+    QTest::qWait(60);
+    EXPECT_EQ(screen.log, "knop tik tik tik ") << "none is lost, and none comes after the timer was stopped";
+    EXPECT_EQ(seen, "even wachten");
+}
+
+TEST_F(events, clicks_while_a_handler_runs_are_not_let_in) {
+    screen.on_knop = [this] { widget<QPushButton>("knop").click(); };
+    click(widget("knop"));
+    EXPECT_EQ(screen.log, "knop ");
+}
+
+TEST_F(events, keys_go_to_the_list_the_form_or_the_focused_button) {
+    widget("lijst").setFocus();
+    type(outside, screen, Qt::Key_Down);
+    type(outside, screen, Qt::Key_Enter, Qt::KeypadModifier);
+    type(outside, screen, Qt::Key_K);
+    widget("klik").setFocus();
+    type(outside, screen, Qt::Key_Space);
+    type(outside, screen, Qt::Key_Return); // the form lists Enter for the button
+    EXPECT_EQ(screen.log, "toets13 knop klik knop ");
+    EXPECT_EQ(screen.lijst.selected, 1);
+
+    screen.knop.keys.clear();
+    screen.log.clear();
+    type(outside, screen, Qt::Key_Return);
+    widget("links").setFocus();
+    type(outside, screen, Qt::Key_Return);
+    EXPECT_EQ(screen.log, "klik links ");
+}
+
+TEST_F(events, a_list_entry_is_selected_before_its_click_is_handled) {
+    auto& list = widget<QListWidget>("lijst");
+    click(*list.viewport(), list.visualItemRect(list.item(2)).center());
+    EXPECT_EQ(screen.log, "lijst2 ");
+}
+
+TEST_F(events, at_most_one_option_is_selected) {
+    click(widget("rechts"));
+    click(widget("links"));
+    click(widget("links"));
+    EXPECT_EQ(screen.log, "links links ");
+    EXPECT_TRUE(widget<QRadioButton>("links").isChecked());
+    EXPECT_FALSE(widget<QRadioButton>("rechts").isChecked());
+}
+
+TEST_F(events, hovering_is_the_pointer_or_the_tab_key_but_not_a_focus_that_is_set) {
+    const int before = screen.hovers;
+    QEnterEvent entered({5, 5}, {5, 5}, {5, 5});
+    QApplication::sendEvent(&widget("klik"), &entered);
+    QFocusEvent tabbed(QEvent::FocusIn, Qt::TabFocusReason);
+    QApplication::sendEvent(&widget("klik"), &tabbed);
+    EXPECT_EQ(screen.hovers, before + 2);
+    outside.run([this] { screen.focus = &screen.klik; });
+    EXPECT_EQ(screen.hovers, before + 2);
+    EXPECT_EQ(outside.page(screen)->focusWidget(), &widget("klik"));
+    EXPECT_EQ(screen.focus, nullptr);
+}
+
+TEST_F(events, a_form_shown_over_another_is_uncovered_again) {
+    try_out above(outside, "above");
+    outside.run([&] { above.show(); });
+    EXPECT_TRUE(outside.page(above)->isVisible());
+    EXPECT_FALSE(outside.page(screen)->isVisible());
+    outside.page(above)->window()->close();
+    EXPECT_EQ(above.log, "sluiten ");
+    EXPECT_EQ(screen.log, "");
+    outside.run([&] { above.unload(); });
+    EXPECT_EQ(outside.page(above), nullptr);
+    EXPECT_TRUE(outside.page(screen)->isVisible());
+}
+
+TEST_F(events, a_side_window_is_a_window_of_its_own) {
+    try_out side(outside, "side");
+    side.side_window = true;
+    side.caption = "ernaast";
+    outside.run([&] { side.show(); });
+    ASSERT_NE(outside.page(side)->window(), outside.page(screen)->window());
+    EXPECT_EQ(outside.page(side)->windowTitle(), "ernaast");
+    EXPECT_TRUE(outside.page(screen)->isVisible());
+    click(widget("knop"));
+    EXPECT_EQ(screen.log, "knop ") << "the main window stays usable";
+    outside.page(side)->close();
+    EXPECT_EQ(side.log, "sluiten ");
+    EXPECT_TRUE(outside.page(side)->isVisible()) << "whether it closes is the form's to say";
+    outside.run([&] { side.unload(); });
+}
+
+TEST_F(events, the_screen_scales_as_a_whole) {
+    QWidget& window = *outside.page(screen)->window();
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        window.resize((QSizeF(832, 520) * scale).toSize());
+        EXPECT_NEAR(widget("knop").x(), 200 / 15.0 * scale, 1);
+        EXPECT_NEAR(widget("knop").width(), 3000 / 15.0 * scale, 1);
+    }
+    window.resize(1664, 2000); // too tall: the form stands in the middle
+    EXPECT_NEAR(widget("grond").y(), (2000 - 1040) / 2 + 100 / 15.0 * 2, 1);
+}
+
+TEST_F(events, an_exception_ends_the_program_with_a_message_and_status_1) {
+    QString seen;
+    screen.on_knop = [] { throw checked_error("index 9 outside 1 to 4"); };
+    answer_box("OK", seen);
+    QTimer::singleShot(0, &widget<QPushButton>("knop"), &QPushButton::click);
+    EXPECT_EQ(run_program(), 1);
+    EXPECT_TRUE(seen.contains("index 9 outside 1 to 4")) << seen.toStdString();
+}
+
+TEST_F(events, unloading_the_last_form_ends_the_program) {
+    screen.on_knop = [this] { screen.unload(); };
+    QTimer::singleShot(0, &widget<QPushButton>("knop"), &QPushButton::click);
+    EXPECT_EQ(run_program(), 0);
+}
+
+} // namespace
+} // namespace cijferwerf

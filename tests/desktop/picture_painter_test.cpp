@@ -1,0 +1,164 @@
+// Drawings as they come out in pixels, and texts as wide as the layout of the exercises takes them to be.
+#include "desktop/picture_painter.h"
+#include "desktop/report_printer.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace cijferwerf {
+namespace {
+
+QImage painted(const drawing& shown, double scale = 1) {
+    QImage image((QSizeF(drawing::inner_width, drawing::inner_height) / 15 * scale).toSize(), QImage::Format_RGB32);
+    QPainter on(&image);
+    picture_cache pictures;
+    paint_drawing(on, shown, QRectF(image.rect()), pictures);
+    return image;
+}
+
+int count(const QImage& image, kleur colour) {
+    int pixels = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) pixels += (image.pixel(x, y) & 0xFFFFFF) == kleur_rgb[colour];
+    return pixels;
+}
+
+TEST(picture_text, is_as_wide_in_the_face_as_it_is_laid_out) {
+    for (const double points : {8.25, 12.0, 20.0}) {
+        const QFontMetricsF metrics(twip_font(points));
+        for (const char* text : {"            =", "             =", " 315.810", "Bereken: 5 % van 26.400 = ...",
+                                 "€ 1,25 ½ ² é", "AVAToWe f. 'Yes' \"LT\""})
+            EXPECT_NEAR(metrics.horizontalAdvance(QString::fromUtf8(text)), text_width(text, points, 1.0), 1.5)
+                << text << " in " << QFontInfo(twip_font(points)).family().toStdString();
+    }
+    EXPECT_NEAR(QFontMetricsF(twip_font(12)).horizontalAdvance("            =") * 0.9, 846, 1);
+}
+
+TEST(picture_text, is_painted_as_wide_at_every_scale_as_it_is_laid_out) {
+    drawing shown;
+    shown.text_size = 12;
+    shown.print_at(300, 500, "HHHHHHHHHHHHHHHH");
+    const double laid_out = text_width("HHHHHHHHHHHHHHHH", 12);
+    for (const double scale : {1.0, 1.3, 2.0, 3.0}) {
+        const QImage image = painted(shown, scale);
+        int first = image.width(), last = 0;
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                if (qGray(image.pixel(x, y)) < 160) first = std::min(first, x), last = std::max(last, x);
+        EXPECT_NEAR((last - first) / scale * 15, laid_out, 70) << "at scale " << scale;
+    }
+}
+
+TEST(picture_box, filled_boxes_reach_the_edges_and_leave_no_gap) {
+    for (const double scale : {1.0, 1.37, 2.0}) {
+        drawing shown;
+        for (int i = 0; i < 10; ++i)
+            shown.filled_box(i * 538, 0, 538, drawing::inner_height, i % 2 == 0 ? rood : blauw);
+        const QImage image = painted(shown, scale);
+        EXPECT_EQ(count(image, rood) + count(image, blauw), image.width() * image.height()) << scale;
+    }
+}
+
+TEST(picture_box, a_flat_box_is_still_a_line) {
+    drawing shown;
+    shown.filled_box(150, 300, 4500, 0, rood);
+    shown.filled_box(4650, 600, -4500, 1, blauw);
+    const QImage image = painted(shown);
+    EXPECT_EQ(count(image, rood), 300);
+    EXPECT_EQ(count(image, blauw), 300);
+}
+
+TEST(picture_box, lines_along_the_axes_are_sharp) {
+    drawing shown;
+    shown.line(150, 300, 4650, 300, rood);
+    EXPECT_EQ(count(painted(shown), rood), 300);
+    EXPECT_EQ(count(painted(shown, 2), rood), 600 * 2);
+    shown.clear();
+    shown.line_width = 3;
+    shown.line(1500, 150, 1500, 1650, groen);
+    EXPECT_EQ(count(painted(shown), groen), 100 * 3);
+    shown.clear();
+    shown.style = line_style::transparent;
+    shown.line(1500, 150, 1500, 1650, groen);
+    EXPECT_EQ(count(painted(shown), groen), 0);
+}
+
+TEST(picture_box, a_sector_turns_counter_clockwise_from_three_o_clock) {
+    drawing shown;
+    shown.sector(2700, 1050, 900, 0, 90, blauw, true);
+    const QImage image = painted(shown);
+    EXPECT_EQ(image.pixelColor(180 + 20, 70 - 20), QColor(0, 0, 255));
+    EXPECT_EQ(image.pixelColor(180 - 20, 70 - 20), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(180 + 20, 70 + 20), QColor(Qt::white));
+}
+
+TEST(picture_box, nothing_is_painted_outside_it) {
+    QImage image(500, 300, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    drawing shown;
+    shown.filled_box(-9000, -9000, 20000, 20000, rood);
+    shown.text_size = 40;
+    shown.print_at(5000, -200, "MMMM");
+    picture_cache pictures;
+    QPainter on(&image);
+    paint_drawing(on, shown, QRectF(50, 60, drawing::inner_width / 20.0, drawing::inner_height / 20.0), pictures);
+    on.end();
+    QPainter(&image).fillRect(QRect(50, 60, 269, 107), Qt::white);
+    EXPECT_EQ(count(image, wit), 500 * 300);
+}
+
+TEST(picture_box, a_missing_picture_leaves_a_line_and_the_rest) {
+    drawing shown;
+    shown.picture("bestaatniet.bmp");
+    const int line = count(painted(shown), wit);
+    shown.filled_box(1500, 900, 300, 300, rood);
+    const QImage image = painted(shown);
+    EXPECT_LT(line, image.width() * image.height() - 200) << "the file is named";
+    EXPECT_EQ(count(image.copy(0, 30, image.width(), image.height() - 30), rood), 20 * 20);
+    EXPECT_EQ(count(image.copy(0, 30, 100, 100), wit), 100 * 100) << "the line stays small";
+}
+
+TEST(picture_box, is_read_line_by_line) {
+    drawing shown;
+    shown.text_size = 12;
+    shown.print_at(3000, 600, "rechts");
+    shown.print_at(200, 630, "links");
+    shown.print_at(900, 1500, "onder");
+    shown.print_at(900, 100, "boven");
+    EXPECT_EQ(reading_of(shown), "boven links rechts onder");
+}
+
+TEST(report, is_printed_on_one_page_with_its_columns_in_line) {
+    QTemporaryDir folder;
+    const QString file = folder.filePath("score.pdf");
+    report printed{"score", {{14, {{0, "Uitslag van de opgaven"}}}}};
+    for (int i = 0; i < 50; ++i)
+        printed.lines.push_back({9, {{0, "oefening " + std::to_string(i)}, {30, "goed"}, {45, "één keer"}}});
+    EXPECT_EQ(print_report(printed, file).what, print_result::outcome::printed);
+
+    QProcess reader;
+    reader.start("pdftotext", {"-layout", file, "-"});
+    if (!reader.waitForStarted()) GTEST_SKIP() << "pdftotext is not installed";
+    reader.waitForFinished();
+    const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+    EXPECT_EQ(text.count('\f'), 1) << "pages";
+    const QStringList lines = text.split('\n', Qt::SkipEmptyParts);
+    ASSERT_GE(lines.size(), 51);
+    EXPECT_EQ(lines[0].trimmed(), "Uitslag van de opgaven");
+    for (int i = 1; i <= 50; ++i) {
+        EXPECT_EQ(lines[i].simplified(), QString::fromUtf8("oefening %1 goed één keer").arg(i - 1));
+        EXPECT_NEAR(static_cast<double>(lines[i].indexOf("goed")), static_cast<double>(lines[1].indexOf("goed")), 1);
+    }
+}
+
+TEST(report, that_cannot_be_written_says_so) {
+    const print_result result = print_report({"score", {{9, {{0, "x"}}}}}, "/bestaat/niet/score.pdf");
+    EXPECT_EQ(result.what, print_result::outcome::failed);
+    EXPECT_FALSE(result.reason.empty());
+}
+
+} // namespace
+} // namespace cijferwerf

@@ -1,0 +1,122 @@
+// The paths a pupil takes over the practice screen, with real widgets, clicked and typed at.
+#include "forms/practice/mama.h"
+#include "tests/desktop/screen.h"
+
+#include <QListWidget>
+
+namespace cijferwerf {
+namespace {
+
+class practice_screen : public testing::Test {
+protected:
+    practice_screen() {
+        outside.run([this] {
+            forms.globalen.gekozen_pakket = booklet_set;
+            forms.globalen.gekozen_onderdeel = "boekje01";
+            screen.kies("BOEKJE 1 - PROCENTEN", std::string(booklet_set), true);
+            screen.open();
+            screen.toeval.restart(1);
+        });
+        EXPECT_TRUE(QTest::qWaitForWindowActive(outside.page(screen)->window()));
+    }
+
+    template<class Widget = QWidget>
+    Widget& widget(const std::string& name) {
+        return find<Widget>(outside, screen, name.c_str());
+    }
+    QListWidget& list() { return widget<QListWidget>("presentatielijst"); }
+    QString text(const std::string& name) { return widget<QLabel>(name).text(); }
+    void press(Qt::Key key) { type(outside, screen, key); }
+    int right() const { return screen.juiste_letter[0] - 'A' + 1; }
+    QPoint row(int i) { return list().visualItemRect(list().item(i)).center(); }
+
+    desktop outside;
+    formulieren forms{outside};
+    mama& screen = forms.get<mama>();
+};
+
+TEST_F(practice_screen, is_worked_with_the_keyboard_alone) {
+    for (int i = 0; i < 6; ++i) press(Qt::Key_Down);
+    EXPECT_TRUE(screen.vraagregels[1] == leeg) << "arrow keys only move";
+    press(Qt::Key_Return);
+    EXPECT_EQ(forms.globalen.gekozen_oefening, "voetbal");
+    EXPECT_EQ(text("vraag2"), "Bij een wedstrijd tussen");
+    EXPECT_EQ(text("vraag1"), " ");
+    EXPECT_FALSE(list().isEnabled());
+    EXPECT_EQ(outside.page(screen)->focusWidget(), &widget("knop1"));
+
+    const int wrong = right() == 2 ? 3 : 2;
+    press(static_cast<Qt::Key>(Qt::Key_A + wrong - 1));
+    EXPECT_EQ(screen.pogingen, 1);
+    EXPECT_EQ(text("uitleg_bericht"), "BERICHT");
+    EXPECT_FALSE(widget("knop" + std::to_string(wrong)).isEnabled());
+    EXPECT_FALSE(widget("alternatief" + std::to_string(wrong)).isEnabled());
+    press(static_cast<Qt::Key>(Qt::Key_A + wrong - 1));
+    EXPECT_EQ(screen.pogingen, 1) << "an answer that was given is no answer any more";
+
+    press(static_cast<Qt::Key>(Qt::Key_1 + right() - 1));
+    EXPECT_EQ(text("uitleg_bericht"), "UITLEG");
+    EXPECT_EQ(outside.page(screen)->focusWidget(), &widget("uitleggeven"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(text("bericht1").toStdString(), screen.uitlegregels[0]);
+    EXPECT_EQ(forms.globalen.goed_poging_2, 1);
+    EXPECT_EQ(outside.page(screen)->focusWidget(), &list());
+    press(Qt::Key_Return);
+    EXPECT_EQ(screen.pogingen, 0) << "Enter presents the next one";
+}
+
+TEST_F(practice_screen, is_worked_with_the_mouse_alone) {
+    click(*list().viewport(), row(6));
+    EXPECT_EQ(forms.globalen.gekozen_oefening, "voetbal");
+    click(widget("alternatief" + std::to_string(right())));
+    EXPECT_EQ(screen.pogingen, 1);
+    EXPECT_TRUE(list().isEnabled());
+    click(widget("uitleggeven"));
+    EXPECT_EQ(forms.globalen.goed_poging_1, 1);
+    click(*list().viewport(), row(0));
+    EXPECT_EQ(forms.globalen.gekozen_oefening, "alcohol");
+}
+
+TEST_F(practice_screen, a_held_enter_key_answers_nothing) {
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
+    press(Qt::Key_Return);
+    QApplication::sendEvent(outside.page(screen)->focusWidget(), &held);
+    EXPECT_EQ(screen.pogingen, 0);
+}
+
+TEST_F(practice_screen, focus_stays_among_the_answers_after_a_wrong_one) {
+    press(Qt::Key_Return);
+    for (int i = 4; i >= 1; --i) {
+        if (i == right()) continue;
+        widget("knop" + std::to_string(i)).setFocus();
+        press(Qt::Key_Space);
+        const QString name = outside.page(screen)->focusWidget()->objectName();
+        EXPECT_TRUE(name.startsWith("knop")) << name.toStdString();
+        EXPECT_TRUE(outside.page(screen)->focusWidget()->isEnabled());
+    }
+}
+
+TEST_F(practice_screen, stopping_asks_first) {
+    QString seen;
+    answer_box("Nee", seen);
+    outside.page(screen)->window()->close();
+    EXPECT_EQ(seen, "Wil je echt stoppen?");
+    EXPECT_TRUE(outside.page(screen)->window()->isVisible());
+
+    answer_box("Ja", seen);
+    QTimer::singleShot(0, &widget<QAbstractButton>("stopteken"), &QAbstractButton::click);
+    EXPECT_EQ(run_program(), 0);
+}
+
+TEST_F(practice_screen, a_screen_reader_hears_every_control) {
+    press(Qt::Key_Return);
+    for (const control* shown : screen.controls()) {
+        if (shown->kind == control_kind::timer || shown->kind == control_kind::frame || !shown->visible) continue;
+        const std::string name = shown->name + (shown->index ? std::to_string(*shown->index) : "");
+        EXPECT_FALSE(widget(name).accessibleName().isEmpty()) << name;
+    }
+    EXPECT_EQ(widget("knop1").accessibleName().toStdString(), "A:" + screen.alternatief[1].caption);
+}
+
+} // namespace
+} // namespace cijferwerf

@@ -1,0 +1,194 @@
+// A monkey at the keyboard and the mouse: whatever it does, the program stays in one piece and always goes on.
+#include "forms/introduction/infoscherm.h"
+#include "forms/practice/mama.h"
+#include "forms/practice/scoreblad.h"
+#include "forms/shell/achtergrond.h"
+#include "forms/shell/codering.h"
+#include "forms/shell/colofon.h"
+#include "forms/shell/menu.h"
+
+#include "tests/support/fake_outside.h"
+
+#include <gtest/gtest.h>
+#include <map>
+#include <numeric>
+#include <random>
+#include <sstream>
+
+namespace cijferwerf {
+namespace {
+
+constexpr int events = 100'000;
+constexpr int most_titles = 21; // in one list
+
+bool usable(const control& c) { return c.visible && c.enabled; }
+
+class monkey : public testing::Test {
+protected:
+    // ---- what it does ----
+
+    int draw(int n) { return static_cast<int>(engine_() % static_cast<unsigned>(n)); }
+
+    // The form on top, as the window shows it; now and then the one beside it.
+    form& front() {
+        if (sheet.loaded() && draw(4) == 0) return sheet;
+        for (auto shown = pupil.shown.rbegin(); shown != pupil.shown.rend(); ++shown)
+            if ((*shown)->loaded() && !(*shown)->side_window) return **shown;
+        throw std::runtime_error("no form is left on the screen");
+    }
+
+    std::string act() {
+        pupil.answers = {draw(20) == 0 ? box_answer::yes : box_answer::no};
+        form& on = front();
+        const int what = draw(100);
+        if (what < 20 && screen.loaded() && &on == &screen && !screen.presentatielijst.items.empty()) {
+            const int item = draw(static_cast<int>(screen.presentatielijst.items.size()));
+            if (what < 10)
+                pupil.pick(screen.presentatielijst, item);
+            else
+                pupil.pick_by_enter(screen.presentatielijst, item);
+            return "pick " + std::to_string(item);
+        }
+        if (what < 35) {
+            constexpr std::string_view keys = "ABCD1234567890,+-*/=\r\x1b\x7f ?";
+            const char key = keys[static_cast<std::size_t>(draw(static_cast<int>(keys.size())))];
+            pupil.press(on, key);
+            return std::string("key ") + key + " on " + on.name();
+        }
+        if (what < 55) {
+            const int time = draw(10) == 0 ? 25'000 : draw(2500);
+            pupil.wait(time);
+            return "wait " + std::to_string(time);
+        }
+        if (what < 57) {
+            pupil.close(on);
+            return "close " + on.name();
+        }
+        std::vector<control*> choices;
+        for (control* each : on.controls())
+            if (usable(*each) && (each->click || each->hover)) choices.push_back(each);
+        if (choices.empty()) return "nothing";
+        control& chosen = *choices[static_cast<std::size_t>(draw(static_cast<int>(choices.size())))];
+        // Most of the time it stays on the practice screen, where most can go wrong.
+        if (chosen.name == "terug" && draw(4) != 0) return "nothing";
+        if (draw(10) == 0) pupil.hover(chosen);
+        pupil.click(chosen);
+        return "click " + on.name() + "." + chosen.name + (chosen.index ? std::to_string(*chosen.index) : "");
+    }
+
+    // ---- what must hold ----
+
+    void check_screen() {
+        int open = 0;
+        for (int i = 1; i <= 4; ++i) {
+            EXPECT_EQ(screen.knop[i].enabled, screen.alternatief[i].enabled) << i;
+            open += screen.knop[i].enabled;
+        }
+        EXPECT_TRUE(screen.presentatielijst.enabled || open > 0) << "no title and no answer can be picked";
+        if (open > 0) {
+            EXPECT_FALSE(screen.presentatielijst.enabled || screen.score.enabled || screen.info.enabled);
+            EXPECT_FALSE(screen.uitleggeven.visible);
+            EXPECT_EQ(screen.pogingen, 4 - open);
+            EXPECT_TRUE(screen.knop[screen.juiste_letter[0] - 'A' + 1].enabled) << "the right answer went";
+        }
+        EXPECT_GE(screen.pogingen, 0);
+        EXPECT_LE(screen.pogingen, 4);
+        EXPECT_TRUE(!screen.uitleggeven.visible || screen.pogingen > 0);
+        if (screen.Timer1.enabled) {
+            EXPECT_GT(screen.tijdlimiet, 0);
+            EXPECT_LT(screen.tijdteller, screen.tijdlimiet);
+        }
+
+        const GLOBALEN& score = forms.globalen;
+        const catalogue_list* list = zoek_lijst(score.gekozen_pakket, score.gekozen_onderdeel);
+        ASSERT_NE(list, nullptr);
+        EXPECT_EQ(screen.opschriftbalk.caption, list->heading);
+        EXPECT_EQ(screen.info.visible, score.booklets());
+        EXPECT_FALSE(list->drawn() && screen.info.enabled);
+        EXPECT_FALSE(screen.presentatielijst.items.empty());
+        EXPECT_LE(screen.presentatielijst.items.size(), std::size_t{most_titles});
+    }
+
+    void check_score() {
+        const GLOBALEN& score = forms.globalen;
+        std::array<int, 4> ended{};
+        std::size_t titles = 0;
+        for (std::size_t slot = 0; slot < score.titellijst.size(); ++slot) {
+            const auto& counts = score.scoretabel[slot];
+            for (std::size_t attempt = 0; attempt < 4; ++attempt) ended.at(attempt) += counts[attempt];
+            const int all = std::accumulate(counts.begin(), counts.end(), 0);
+            EXPECT_EQ(score.titellijst[slot].empty(), all == 0) << "slot " << slot;
+            if (all == 0) break;
+            ++titles;
+        }
+        EXPECT_LE(titles, std::size_t{most_titles});
+        EXPECT_EQ(score.goed_poging_1, ended[0]);
+        EXPECT_EQ(score.goed_poging_2, ended[1]);
+        EXPECT_EQ(score.goed_poging_3, ended[2]);
+        EXPECT_GE(score.goed_poging_4, ended[3]); // a time-out counts there alone
+        EXPECT_EQ(score.aantalvragengedaan, std::accumulate(ended.begin(), ended.end(), 0));
+    }
+
+    void check_way_on() {
+        form& on = front();
+        if (&on == &background) {
+            EXPECT_TRUE(background.Timer1.enabled) << "the background form leads nowhere";
+            return;
+        }
+        EXPECT_TRUE(std::ranges::any_of(on.controls(), [](const control* c) { return usable(*c) && c->click; }))
+            << on.name() << " is a dead end";
+    }
+
+    void restart() {
+        for (form* each : std::initializer_list<form*>{&background, &forms.get<codering>(), &forms.get<colofoncl>(),
+                                                       &forms.get<colofonsw>(), &forms.get<menucl>(),
+                                                       &forms.get<menusw>(), &forms.get<infoscherm>(), &sheet, &screen})
+            each->unload();
+        pupil.ended = false;
+        pupil.shown.clear();
+        background.open();
+    }
+
+    fake_outside pupil;
+    formulieren forms{pupil};
+    achtergrond& background = forms.get<achtergrond>();
+    scoreblad& sheet = forms.get<scoreblad>();
+    mama& screen = forms.get<mama>();
+
+private:
+    std::mt19937 engine_{20'240'309};
+};
+
+TEST_F(monkey, whatever_happens_the_program_stays_in_one_piece) {
+    std::map<std::string, int> reached;
+    screen.toeval.restart(1);
+    restart();
+    for (int event = 0; event < events; ++event) {
+        const int timed_out = forms.globalen.goed_poging_4;
+        const std::string did = act();
+        SCOPED_TRACE("event " + std::to_string(event) + ": " + did);
+
+        if (pupil.ended) {
+            ++reached["ended"];
+            restart();
+        }
+        check_way_on();
+        check_score();
+        if (screen.loaded()) check_screen();
+        if (HasFailure()) return;
+
+        ++reached[front().name()];
+        reached["explained"] += forms.globalen.aantalvragengedaan > 0;
+        reached["timed out"] += did.starts_with("wait") && forms.globalen.goed_poging_4 > timed_out;
+        reached["printed"] += !pupil.printed.empty();
+        pupil.printed.clear();
+        pupil.boxes.clear();
+        pupil.unloaded.clear();
+    }
+    for (const char* what : {"ended", "explained", "timed out", "printed", "achtergrond", "codering", "colofoncl",
+                             "colofonsw", "menucl", "menusw", "mama", "scoreblad", "infoscherm"})
+        EXPECT_GT(reached[what], 0) << what << " was never reached";
+}
+
+} // namespace
+} // namespace cijferwerf

@@ -1,0 +1,271 @@
+// The score: its sheet, its report on paper, and the ways out of the practice screen beside it.
+#include "forms/practice/mama.h"
+#include "forms/practice/score_report.h"
+#include "forms/practice/scoreblad.h"
+#include "forms/shell/menu.h"
+
+#include "tests/support/fake_outside.h"
+
+#include <gtest/gtest.h>
+#include <sstream>
+
+namespace cijferwerf {
+namespace {
+
+// A line as "size| column:text column:text".
+std::vector<std::string> as_lines(const report& page) {
+    std::vector<std::string> lines;
+    for (const report_line& line : page.lines) {
+        std::ostringstream out;
+        out << line.size << '|';
+        for (const report_cell& cell : line.cells) out << ' ' << cell.column << ':' << cell.text;
+        lines.push_back(out.str());
+    }
+    return lines;
+}
+
+using lines = std::vector<std::string>;
+
+constexpr local_time new_year{2005, 1, 2, 3, 4};
+
+TEST(score_report, with_nothing_done_has_its_totals_and_an_empty_analysis) {
+    GLOBALEN score;
+    score.gekozen_pakket = "SOMMENWERF";
+    EXPECT_EQ(as_lines(score_report(score, "HERHALING TAAK 1 t/m 4", new_year)),
+              (lines{
+                  "20| 0:SOMMENWERF",
+                  "20|",
+                  "20|",
+                  "9| 0:Datum: 02/01/05 03:04 u",
+                  "15| 0:HERHALING TAAK 1 T/M 4",
+                  "9|",
+                  "9| 0:Aantal opgaven gedaan 30: 0",
+                  "9| 0:bij eerste poging goed 30: 0",
+                  "9| 4:tweede poging goed 30: 0",
+                  "9| 4:derde poging goed 30: 0",
+                  "9| 4:vierde poging goed 30: 0",
+                  "9|",
+                  "15| 0:Analyse",
+                  "9|",
+                  "9| 0:titel opgave    goed bij... 30:1e 35:2e 40:3e 45:4e",
+              }));
+}
+
+TEST(score_report, has_a_row_for_every_title_that_ended_at_some_attempt_in_the_order_in_which_they_came) {
+    GLOBALEN score;
+    const auto ended = [&score](const char* title, int attempt) {
+        score.gekozen_oefening = title;
+        score.tel_uitslag(attempt);
+    };
+    ended("rente", 1);
+    ended("snel!", 4);
+    ended("rente", 3);
+    ended("rente", 1);
+    ++score.goed_poging_4;        // a time-out
+    score.titellijst[2] = "leeg"; // a title without counts
+    for (int i = 3; i < 99; ++i) ended(("t" + std::to_string(i)).c_str(), 2);
+
+    const lines printed = as_lines(score_report(score, "", new_year));
+    EXPECT_EQ(lines(printed.begin() + 6, printed.begin() + 11), (lines{
+                                                                    "9| 0:Aantal opgaven gedaan 30: 100",
+                                                                    "9| 0:bij eerste poging goed 30: 2",
+                                                                    "9| 4:tweede poging goed 30: 96",
+                                                                    "9| 4:derde poging goed 30: 1",
+                                                                    "9| 4:vierde poging goed 30: 2",
+                                                                }));
+    ASSERT_EQ(printed.size(), 15U + 2 + 96);
+    EXPECT_EQ(printed[15], "9| 0:rente 30:2 35:0 40:1 45:0");
+    EXPECT_EQ(printed[16], "9| 0:snel! 30:0 35:0 40:0 45:1");
+    EXPECT_EQ(printed.back(), "9| 0:t98 30:0 35:1 40:0 45:0");
+}
+
+class score : public testing::Test {
+protected:
+    score() {
+        forms.globalen.gekozen_pakket = booklet_set;
+        forms.globalen.gekozen_onderdeel = "boekje01";
+        screen.kies("BOEKJE 1 - PROCENTEN", std::string(booklet_set), true);
+        screen.open();
+    }
+    int right() const { return screen.juiste_letter[0] - 'A' + 1; }
+    void present(int position = 8) { ASSERT_TRUE(pupil.pick(screen.presentatielijst, position)); }
+    void answer_wrong() { ASSERT_TRUE(pupil.click(screen.knop[right() % 4 + 1])); }
+    void answer_right() { ASSERT_TRUE(pupil.click(screen.knop[right()])); }
+    void explain() { ASSERT_TRUE(pupil.click(screen.uitleggeven)); }
+    lines values() const {
+        return {sheet.aantal_label.caption, sheet.nulfout_label.caption, sheet.eenfout_label.caption,
+                sheet.tweefout_label.caption};
+    }
+
+    fake_outside pupil;
+    formulieren forms{pupil};
+    mama& screen = forms.get<mama>();
+    scoreblad& sheet = forms.get<scoreblad>();
+};
+
+TEST_F(score, the_sheet_shows_the_counts_of_the_moment_it_is_opened) {
+    ASSERT_TRUE(pupil.click(screen.score));
+    EXPECT_EQ(screen.score_bekeken, "ja");
+    EXPECT_TRUE(sheet.loaded() && screen.loaded());
+    EXPECT_TRUE(sheet.side_window);
+    EXPECT_EQ(sheet.caption, "SCORE");
+    EXPECT_EQ(values(), (lines{" 0", " 0", " 0", " 0"}));
+
+    present();
+    answer_wrong();
+    answer_right();
+    explain();
+    EXPECT_EQ(values(), (lines{" 0", " 0", " 0", " 0"}));
+    pupil.click(screen.score); // while it is open still
+    EXPECT_EQ(values(), (lines{" 1", " 0", " 1", " 0"}));
+    EXPECT_TRUE(sheet.loaded());
+    pupil.click(sheet.sluiten);
+    EXPECT_FALSE(sheet.loaded());
+}
+
+TEST_F(score, the_sheet_beside_an_exercise_leaves_it_as_it_is) {
+    pupil.click(screen.score);
+    present(5); // against the clock
+    ASSERT_GT(screen.tijdlimiet, 3);
+    pupil.wait(2000);
+    answer_wrong();
+    pupil.close(sheet);
+    EXPECT_FALSE(sheet.loaded());
+    EXPECT_EQ(screen.pogingen, 1);
+    EXPECT_EQ(screen.tijdteller, 2);
+    pupil.wait(1000);
+    EXPECT_EQ(screen.tijdteller, 3);
+    EXPECT_FALSE(pupil.ended);
+}
+
+TEST_F(score, a_time_out_that_is_explained_counts_twice_in_the_fourth_total_and_once_for_its_title) {
+    present(5);
+    pupil.wait(1000 * screen.tijdlimiet);
+    explain();
+    pupil.click(screen.score);
+    EXPECT_EQ(values(), (lines{" 1", " 0", " 0", " 0"}));
+    pupil.click(sheet.afdrukken);
+    ASSERT_EQ(pupil.printed.size(), 1U);
+    const lines printed = as_lines(pupil.printed[0]);
+    EXPECT_EQ(printed.at(0), "20| 0:TELMORA's CIJFERLOOP");
+    EXPECT_EQ(printed.at(3), "9| 0:Datum: 09/03/24 14:05 u");
+    EXPECT_EQ(printed.at(4), "15| 0:BOEKJE 1 - PROCENTEN");
+    EXPECT_EQ(printed.at(10), "9| 4:vierde poging goed 30: 2");
+    EXPECT_EQ(printed.back(), "9| 0:snel! 30:0 35:0 40:0 45:1");
+    EXPECT_TRUE(pupil.boxes.empty()) << "nothing needs saying when the page is printed";
+}
+
+TEST_F(score, printing_that_does_not_succeed_says_why) {
+    pupil.click(screen.score);
+    pupil.print_outcome = {print_result::outcome::no_printer, ""};
+    pupil.click(sheet.afdrukken);
+    pupil.print_outcome = {print_result::outcome::failed, "het papier is op"};
+    pupil.click(sheet.afdrukken);
+    ASSERT_EQ(pupil.boxes.size(), 2U);
+    EXPECT_EQ(pupil.boxes[0].text, "Er is geen printer gevonden. Het rapport is niet afgedrukt.");
+    EXPECT_EQ(pupil.boxes[1].text, "Het afdrukken is niet gelukt: het papier is op");
+    EXPECT_TRUE(sheet.loaded());
+}
+
+TEST_F(score, the_sheets_own_diagnostic_tells_the_count) {
+    present();
+    answer_right();
+    explain();
+    explain();
+    pupil.click(screen.score);
+    EXPECT_EQ(sheet.Command1.caption, "aantalopgavengedaan");
+    pupil.click(sheet.Command1);
+    EXPECT_EQ(pupil.boxes.at(0).text, "aantalvragengedaan = 2");
+}
+
+// ---- leaving, whatever stands on the screen ----
+
+class leaving : public score {
+protected:
+    // Runs the check at every moment of an exercise, each on a screen of its own.
+    template<class Check>
+    void at_every_moment(Check check) {
+        const std::vector<std::pair<const char*, std::function<void()>>> moments{
+            {"nothing presented", [] {}},
+            {"before an answer", [this] { present(5); }},
+            {"after a wrong one",
+             [this] {
+                 present(5);
+                 answer_wrong();
+             }},
+            {"after the right one",
+             [this] {
+                 present(5);
+                 answer_right();
+             }},
+            {"after the explanation",
+             [this] {
+                 present(5);
+                 answer_right();
+                 explain();
+             }},
+            {"after a time-out",
+             [this] {
+                 present(5);
+                 pupil.wait(1000 * screen.tijdlimiet);
+             }},
+        };
+        for (const auto& [name, reach] : moments) {
+            SCOPED_TRACE(name);
+            screen.unload();
+            pupil.boxes.clear();
+            screen.open();
+            reach();
+            check(std::string(name));
+        }
+    }
+};
+
+TEST_F(leaving, back_goes_to_the_menu_unasked_and_takes_clock_and_sheet_along) {
+    at_every_moment([this](const std::string&) {
+        sheet.show();
+        const int ended = forms.globalen.goed_poging_4;
+        ASSERT_TRUE(pupil.click(screen.terug));
+        EXPECT_TRUE(pupil.boxes.empty());
+        EXPECT_TRUE(forms.get<menucl>().loaded());
+        EXPECT_FALSE(screen.loaded());
+        EXPECT_FALSE(sheet.loaded());
+        pupil.wait(60'000);
+        EXPECT_EQ(forms.globalen.goed_poging_4, ended);
+        forms.get<menucl>().unload();
+    });
+    forms.globalen.gekozen_pakket = task_set;
+    screen.open();
+    pupil.click(screen.terug);
+    EXPECT_TRUE(forms.get<menusw>().loaded());
+}
+
+TEST_F(leaving, asking_to_stop_and_staying_changes_nothing) {
+    at_every_moment([this](const std::string&) {
+        const auto seen = [this] {
+            std::vector<std::string> all{std::to_string(screen.pogingen), std::to_string(screen.tijdteller)};
+            for (const control* each : screen.controls())
+                all.push_back(each->name + each->caption + (each->enabled ? " on" : " off") +
+                              (each->visible ? " seen" : " hidden"));
+            return all;
+        };
+        const auto before = seen();
+        ASSERT_TRUE(pupil.click(screen.stopteken));
+        EXPECT_EQ(pupil.boxes.size(), 1U);
+        EXPECT_EQ(seen(), before);
+        EXPECT_FALSE(pupil.ended);
+    });
+}
+
+TEST_F(leaving, the_score_is_shut_from_the_question_until_the_explanation) {
+    at_every_moment([this](const std::string& name) {
+        const bool may = name == "nothing presented" || name == "after the explanation";
+        EXPECT_EQ(pupil.click(screen.score), may);
+        EXPECT_EQ(screen.score_bekeken, may ? "ja" : "nee");
+        EXPECT_EQ(sheet.loaded(), may);
+        sheet.unload();
+    });
+}
+
+} // namespace
+} // namespace cijferwerf

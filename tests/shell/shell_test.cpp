@@ -1,0 +1,356 @@
+// From the start to the practice screen: the choice of a set, the credits, the menus, and the ways to stop.
+#include "forms/introduction/infoscherm.h"
+#include "forms/practice/mama.h"
+#include "forms/shell/achtergrond.h"
+#include "forms/shell/codering.h"
+#include "forms/shell/colofon.h"
+#include "forms/shell/marks.h"
+#include "forms/shell/menu.h"
+
+#include "tests/support/fake_outside.h"
+#include "tests/support/operation_text.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace cijferwerf {
+namespace {
+
+constexpr const char* boekjes[]{
+    "BOEKJE 1 - PROCENTEN",
+    "BOEKJE 2 - VERHOUDINGEN",
+    "BOEKJE 3 - BREUKEN",
+    "BOEKJE 4 - GRAFIEKEN",
+    "BOEKJE 5 - GELD",
+    "BOEKJE 6 - TIJD",
+    "BOEKJE 7 - METEN EN MEETKUNDE (1)",
+    "BOEKJE 8 - METEN EN MEETKUNDE (2)",
+    "BOEKJE 9 - HOOFDREKENEN",
+    "BOEKJE 10 - SCHATTEN",
+    "BOEKJE 11 - GETALKENNIS",
+    "BOEKJE 12 - CIJFEREN",
+};
+constexpr const char* taken[]{
+    "TAAK 1 - GETALLEN",
+    "TAAK 2 - VERMENIGVULDIGEN EN DELEN",
+    "TAAK 3 - BREUKEN (1)",
+    "TAAK 4 - TIJD",
+    "HERHALING TAAK 1 t/m 4",
+    "TAAK 6 - KOMMAGETALLEN",
+    "TAAK 7 - GELD",
+    "TAAK 8 - PROCENTEN",
+    "TAAK 9 - LENGTEMATEN",
+    "HERHALING TAAK 6 t/m 9",
+    "TAAK 11 - MACHTSVERHEFFEN",
+    "TAAK 12 - OMTREK EN OPPERVLAKTE",
+    "TAAK 13 - DE CIRKEL",
+    "TAAK 14 - BREUKEN (2)",
+    "HERHALING TAAK 11 t/m 14",
+    "TAAK 16 - VERHOUDINGEN",
+    "TAAK 17 - INHOUD EN GEWICHT",
+    "TAAK 18 - GETALLEN IN BEELD",
+    "TAAK 19 - MATEN EN METEN",
+    "HERHALING TAAK 16 t/m 19",
+};
+
+std::string one_line(std::string caption) {
+    std::ranges::replace(caption, '\r', ' ');
+    return caption;
+}
+
+std::string key(const std::string& kind, int i) { return kind + (i < 10 ? "0" : "") + std::to_string(i); }
+
+class shell : public testing::Test {
+protected:
+    void choose(std::string_view set) {
+        start.open();
+        pupil.click(set == booklet_set ? start.CLgekozen : start.SWgekozen);
+        pupil.click(start.verder);
+    }
+    void open_menu(std::string_view set) {
+        choose(set);
+        pupil.click(set == booklet_set ? static_cast<control&>(forms.get<colofoncl>().klik)
+                                       : forms.get<colofonsw>().klik);
+    }
+    using names = std::vector<std::string>;
+    names on_screen() {
+        names loaded;
+        for (form* each :
+             std::initializer_list<form*>{&start, &forms.get<colofoncl>(), &forms.get<colofonsw>(), &cl, &sw, &screen})
+            if (each->loaded()) loaded.push_back(each->name());
+        return loaded;
+    }
+
+    fake_outside pupil;
+    formulieren forms{pupil};
+    GLOBALEN& globalen = forms.globalen;
+    codering& start = forms.get<codering>();
+    menucl& cl = forms.get<menucl>();
+    menusw& sw = forms.get<menusw>();
+    mama& screen = forms.get<mama>();
+};
+
+TEST_F(shell, the_background_form_brings_up_the_start_form_once) {
+    auto& background = forms.get<achtergrond>();
+    background.open();
+    pupil.wait(900);
+    EXPECT_FALSE(start.loaded());
+    pupil.wait(200);
+    EXPECT_TRUE(start.loaded());
+    EXPECT_FALSE(background.Timer1.enabled);
+    start.unload();
+    pupil.wait(5000);
+    EXPECT_FALSE(start.loaded());
+}
+
+TEST_F(shell, going_on_without_a_choice_asks_for_one_and_changes_nothing) {
+    start.open();
+    pupil.click(start.verder);
+    ASSERT_EQ(pupil.boxes.size(), 1U);
+    EXPECT_EQ(pupil.boxes[0].text, "Maak een keuze...");
+    EXPECT_EQ(pupil.boxes[0].title, "Cijferwerf");
+    EXPECT_EQ(pupil.boxes[0].buttons, box_buttons::ok);
+    EXPECT_EQ(on_screen(), names{"codering"});
+    EXPECT_EQ(globalen.gekozen_pakket, "");
+}
+
+TEST_F(shell, each_set_leads_past_its_credits_to_its_menu) {
+    choose("TELMORA's CIJFERLOOP");
+    EXPECT_EQ(globalen.gekozen_pakket, "TELMORA's CIJFERLOOP");
+    EXPECT_EQ(on_screen(), names{"colofoncl"});
+    pupil.click(forms.get<colofoncl>().klik);
+    EXPECT_EQ(on_screen(), names{"menucl"});
+
+    pupil.click(cl.terug);
+    EXPECT_EQ(on_screen(), names{"codering"});
+    EXPECT_FALSE(start.CLgekozen.selected) << "the choice before is no choice now";
+
+    choose("SOMMENWERF");
+    EXPECT_EQ(globalen.gekozen_pakket, "SOMMENWERF");
+    EXPECT_EQ(on_screen(), names{"colofonsw"});
+    pupil.click(forms.get<colofonsw>().klik);
+    EXPECT_EQ(on_screen(), names{"menusw"});
+    EXPECT_EQ(sw.caption, "DEEL 1 EN 2, SOMMENWERF");
+    EXPECT_TRUE(sw.Frame1.visible && sw.Frame2.visible);
+    pupil.click(sw.terug);
+    EXPECT_EQ(on_screen(), names{"codering"});
+}
+
+TEST_F(shell, the_keyboard_alone_reaches_the_menu_and_the_last_choice_counts) {
+    start.open();
+    pupil.press(start, '1');
+    pupil.press(start, '2');
+    EXPECT_FALSE(start.CLgekozen.selected);
+    pupil.press(start, '\r');
+    EXPECT_EQ(globalen.gekozen_pakket, "SOMMENWERF");
+    pupil.press(forms.get<colofonsw>(), '\r');
+    EXPECT_EQ(on_screen(), names{"menusw"});
+    EXPECT_EQ(sw.focus, &sw.plaatje[1]);
+}
+
+TEST_F(shell, every_booklet_opens_the_practice_screen_under_its_own_heading) {
+    for (int i = 1; i <= 12; ++i) {
+        open_menu(booklet_set);
+        const std::string heading = boekjes[i - 1];
+        EXPECT_EQ(one_line(cl.boekje[i].caption), heading);
+        pupil.click(cl.boekje[i]);
+        EXPECT_EQ(on_screen(), names{"mama"});
+        EXPECT_EQ(globalen.gekozen_onderdeel, key("boekje", i));
+        EXPECT_EQ(screen.opschriftbalk.caption, heading);
+        EXPECT_EQ(screen.caption, "TELMORA's CIJFERLOOP");
+        EXPECT_TRUE(screen.info.enabled && screen.info.visible);
+        EXPECT_FALSE(screen.presentatielijst.items.empty());
+        pupil.click(screen.terug);
+        EXPECT_EQ(on_screen(), names{"menucl"});
+        pupil.click(cl.terug);
+    }
+}
+
+TEST_F(shell, every_task_opens_the_practice_screen_and_only_a_review_has_no_info) {
+    for (int i = 1; i <= 20; ++i) {
+        open_menu(task_set);
+        const std::string heading = taken[i - 1];
+        EXPECT_EQ(one_line(sw.plaatje[i].caption), heading);
+        pupil.click(sw.plaatje[i]);
+        EXPECT_EQ(on_screen(), names{"mama"});
+        EXPECT_EQ(globalen.gekozen_onderdeel, key("taak", i));
+        EXPECT_EQ(screen.opschriftbalk.caption, heading);
+        EXPECT_EQ(screen.caption, "SOMMENWERF");
+        EXPECT_EQ(screen.info.enabled, i % 5 != 0) << heading;
+        EXPECT_FALSE(screen.presentatielijst.items.empty());
+        pupil.click(screen.terug);
+        EXPECT_EQ(on_screen(), names{"menusw"});
+        pupil.click(sw.terug);
+    }
+}
+
+TEST_F(shell, an_index_outside_picks_nothing) {
+    for (const int i : {-1, 0, 13, 21}) {
+        open_menu(booklet_set);
+        cl.boekje_click(i);
+        if (i != 13) sw.plaatje_click(i);
+        EXPECT_EQ(globalen.gekozen_onderdeel, "") << i;
+        EXPECT_EQ(screen.opschriftbalk.caption, "") << i;
+        EXPECT_EQ(on_screen(), names{"menucl"}) << i;
+    }
+}
+
+TEST_F(shell, picking_a_booklet_again_blanks_the_score) {
+    open_menu(booklet_set);
+    pupil.click(cl.boekje[1]);
+    pupil.pick(screen.presentatielijst, 0);
+    pupil.click(screen.knop[screen.juiste_letter[0] - 'A' + 1]);
+    pupil.click(screen.uitleggeven);
+    ASSERT_EQ(globalen.aantalvragengedaan, 1);
+    pupil.click(screen.terug);
+    pupil.click(cl.boekje[1]);
+    EXPECT_EQ(globalen.aantalvragengedaan, 0);
+    EXPECT_EQ(globalen.goed_poging_1, 0);
+    EXPECT_EQ(globalen.titellijst[0], "");
+    EXPECT_EQ(globalen.scoretabel[0][0], 0);
+}
+
+TEST_F(shell, closing_a_window_or_stopping_asks_first) {
+    open_menu(booklet_set);
+    const std::function<void()> ways[]{
+        [&] { pupil.close(start); },
+        [&] { pupil.close(forms.get<colofoncl>()); },
+        [&] { pupil.close(forms.get<colofonsw>()); },
+        [&] { pupil.close(cl); },
+        [&] { pupil.close(sw); },
+        [&] { pupil.close(screen); },
+        [&] { pupil.close(forms.get<infoscherm>()); },
+        [&] { pupil.click(start.stoppen); },
+        [&] { pupil.click(cl.stoppen); },
+        [&] { pupil.click(sw.stoppen); },
+    };
+    for (const auto& way : ways)
+        for (const bool sure : {false, true}) {
+            pupil.ended = false;
+            pupil.boxes.clear();
+            pupil.answers = {sure ? box_answer::yes : box_answer::no};
+            way();
+            ASSERT_EQ(pupil.boxes.size(), 1U);
+            EXPECT_EQ(pupil.boxes[0].text, "Wil je echt stoppen?");
+            EXPECT_EQ(pupil.boxes[0].buttons, box_buttons::yes_no);
+            EXPECT_EQ(pupil.ended, sure);
+            EXPECT_EQ(on_screen(), names{"menucl"});
+        }
+}
+
+TEST_F(shell, closing_the_background_form_ends_without_asking) {
+    pupil.close(forms.get<achtergrond>());
+    EXPECT_TRUE(pupil.ended);
+    EXPECT_TRUE(pupil.boxes.empty());
+}
+
+TEST_F(shell, the_booklet_menus_own_question_ignores_its_answer) {
+    pupil.answers = {box_answer::yes};
+    cl.bevestig_stoppen();
+    EXPECT_EQ(pupil.boxes.at(0).text, "Wil je echt stoppen?");
+    EXPECT_EQ(pupil.boxes.at(0).buttons, box_buttons::yes_no);
+    EXPECT_FALSE(pupil.ended);
+}
+
+// ---- what the menus look like ----
+
+TEST_F(shell, every_line_of_an_entry_fits_on_its_button) {
+    const auto check = [](auto& entries) {
+        for (const button& entry : entries) {
+            constexpr int margin = 105;
+            std::string rest = entry.caption + '\r';
+            for (auto end = rest.find('\r'); end != std::string::npos; end = rest.find('\r')) {
+                EXPECT_LE(text_width(rest.substr(0, end), entry.font_size, 1.0), entry.width - 2 * margin)
+                    << entry.caption;
+                rest.erase(0, end + 1);
+            }
+        }
+    };
+    check(cl.boekje);
+    check(sw.plaatje);
+}
+
+TEST_F(shell, no_two_controls_of_a_menu_overlap) {
+    for (const menu* shown : std::initializer_list<const menu*>{&cl, &sw}) {
+        std::vector<const control*> buttons;
+        for (const control* each : shown->controls())
+            if (each->kind == control_kind::button) buttons.push_back(each);
+        for (const control* a : buttons) {
+            EXPECT_LE(a->left + a->width, shown->width) << a->caption;
+            EXPECT_LE(a->top + a->height, shown->height) << a->caption;
+            for (const control* b : buttons)
+                EXPECT_TRUE(a == b || a->left + a->width <= b->left || b->left + b->width <= a->left ||
+                            a->top + a->height <= b->top || b->top + b->height <= a->top)
+                    << a->caption << " and " << b->caption;
+        }
+    }
+}
+
+TEST_F(shell, booklets_and_tasks_have_marks_of_their_own_and_reviews_share_one_apart) {
+    std::set<std::vector<std::string>> of_booklets, of_tasks, of_reviews;
+    for (button& entry : cl.boekje) of_booklets.insert(as_texts(*entry.mark));
+    for (int i = 1; i <= 20; ++i) (i % 5 == 0 ? of_reviews : of_tasks).insert(as_texts(*sw.plaatje[i].mark));
+    EXPECT_EQ(of_booklets.size(), 12U);
+    EXPECT_EQ(of_tasks.size(), 16U);
+    EXPECT_EQ(of_reviews.size(), 1U);
+    EXPECT_FALSE(of_tasks.contains(*of_reviews.begin()));
+    EXPECT_NE(sw.plaatje[5].role, sw.plaatje[4].role);
+    EXPECT_FALSE(of_booklets.contains({}) || of_tasks.contains({}) || of_reviews.contains({}));
+}
+
+// ---- the introductions ----
+
+TEST_F(shell, an_introduction_speaks_of_its_booklet_and_7_and_8_share_one) {
+    auto& info = forms.get<infoscherm>();
+    std::set<std::string> texts;
+    for (int i = 1; i <= 12; ++i) {
+        open_menu(booklet_set);
+        pupil.click(cl.boekje[i]);
+        ASSERT_TRUE(pupil.click(screen.info));
+        EXPECT_TRUE(info.loaded());
+        EXPECT_EQ(info.opschriftbalk.caption, boekjes[i - 1]);
+        std::string text;
+        for (label& line : info.regels) {
+            EXPECT_LE(text_width(line.caption, line.font_size, 1.0), line.width) << line.caption;
+            text += line.caption;
+        }
+        EXPECT_EQ(texts.contains(text), i == 8) << i;
+        texts.insert(text);
+        pupil.click(info.sommen_maken);
+        EXPECT_FALSE(info.loaded());
+        pupil.click(screen.terug);
+        pupil.click(cl.terug);
+    }
+    EXPECT_EQ(texts.size(), 11U);
+}
+
+TEST_F(shell, looking_at_the_introduction_leaves_score_and_exercise_as_they_are) {
+    open_menu(booklet_set);
+    pupil.click(cl.boekje[1]);
+    pupil.pick(screen.presentatielijst, 2);
+    pupil.click(screen.knop[screen.juiste_letter[0] - 'A' + 1]);
+    pupil.click(screen.uitleggeven);
+    const std::string asked = screen.vraag[2].caption;
+    const auto drawn = screen.plaatje.operations().size();
+    ASSERT_GT(drawn, 0U);
+
+    pupil.click(screen.info);
+    EXPECT_TRUE(screen.loaded());
+    pupil.press(forms.get<infoscherm>(), '\r');
+    EXPECT_EQ(globalen.aantalvragengedaan, 1);
+    EXPECT_EQ(screen.vraag[2].caption, asked);
+    EXPECT_EQ(screen.plaatje.operations().size(), drawn);
+    EXPECT_EQ(pupil.shown.back(), &screen);
+}
+
+TEST_F(shell, no_heading_but_a_booklets_opens_an_introduction) {
+    for (const char* heading : {"", "TAAK", "BOEKJE ", "BOEKJE 0", "BOEKJE 13", "TAAK 11 - MACHTSVERHEFFEN"}) {
+        screen.opschriftbalk.caption = heading;
+        screen.info_click();
+        EXPECT_FALSE(forms.get<infoscherm>().loaded()) << heading;
+    }
+}
+
+} // namespace
+} // namespace cijferwerf
