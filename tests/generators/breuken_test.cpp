@@ -1,12 +1,7 @@
 // The fraction exercises of booklet 3, worked out again from what a pupil sees: the question, the picture, the answers.
-#include "forms/practice/explanation.h"
-#include "generators/breuk.h"
-#include "generators/oefeningen.h"
+#include "tests/support/seen.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
 #include <map>
-#include <regex>
 #include <set>
 
 namespace cijferwerf {
@@ -14,72 +9,10 @@ namespace {
 
 using enum oefening_id;
 
-int whole(const std::string& text) { return static_cast<int>(lees_getal(text)); }
-
-// "1 3/8", "3/4" or "12".
-breuk value(const std::string& text) {
-    static const std::regex number(R"( ?(?:(\d+)(?: |$))?(?:(\d+)/(\d+))?)");
-    std::smatch part;
-    EXPECT_TRUE(std::regex_match(text, part, number)) << text;
-    return gemengd_getal(whole(part[1]), whole(part[2]), part[3].matched ? whole(part[3]) : 1);
-}
-
 bool in_simplest_form(breuk b) {
     for (int i = 2; i <= b.teller; ++i)
         if (b.teller % i == 0 && b.noemer % i == 0) return false;
     return true;
-}
-
-struct seen {
-    const oefening& made;
-    std::string question;
-    std::vector<std::string> words; // of the picture
-    std::vector<box_op> blocks;     // its filled boxes
-    std::string right;
-    std::string last; // line of the explanation
-
-    explicit seen(const oefening& exercise) : made(exercise) {
-        for (const std::string& line : made.vraagregels) question += line + ' ';
-        for (const std::string& line : made.uitlegregels)
-            if (line != leeg) last = line;
-        look_at(made.plaatje);
-        right = answer(std::max(made.juiste_positie, 1));
-    }
-    void look_at(const drawing& drawn) {
-        words.clear();
-        blocks.clear();
-        for (const drawing_op& operation : drawn.operations()) {
-            if (const auto* text = std::get_if<text_op>(&operation)) words.push_back(text->text);
-            if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled)
-                blocks.push_back(*box);
-        }
-    }
-    std::string answer(int which) const {
-        const std::array all{made.antwoord_1, made.antwoord_2, made.antwoord_3, made.antwoord_4};
-        return all[static_cast<std::size_t>(which - 1)].substr(1);
-    }
-    // The groups of a pattern that is found in the question.
-    std::vector<std::string> asked(const char* pattern) const {
-        std::smatch found;
-        EXPECT_TRUE(std::regex_search(question, found, std::regex(pattern))) << question;
-        return {found.begin(), found.end()};
-    }
-    breuk fraction_at(std::size_t word) const { return {whole(words[word]), whole(words[word + 1])}; }
-    auto of_colour(kleur colour) const {
-        return std::ranges::count_if(blocks, [&](const box_op& box) { return box.pen.colour == colour; });
-    }
-};
-
-template<class Check>
-void each(oefening_id generator, Check check) {
-    oefeningen maker([] { return 43'200.0F; });
-    maker.toeval.restart(1971);
-    for (int i = 0; i < 420 && !testing::Test::HasFailure(); ++i) {
-        maker.maak(generator);
-        const seen exercise(maker);
-        SCOPED_TRACE(exercise.question + " -> " + exercise.right + " | " + exercise.last);
-        check(exercise);
-    }
 }
 
 TEST(fractions, chocolate_is_shared_by_the_children_that_the_question_and_the_picture_show) {
@@ -87,15 +20,15 @@ TEST(fractions, chocolate_is_shared_by_the_children_that_the_question_and_the_pi
                                                   {"zeven", 7}, {"negen", 9}, {"elf", 11}};
     std::set<std::string> forms;
     each(B_chocolade_03_03_click, [&](const seen& e) {
-        const bool passive = e.question.starts_with("  Er moeten");
+        const bool passive = e.question.starts_with("Er moeten");
         const auto part = passive ? e.asked("moeten (\\d+) repen over (\\w+) kinderen")
                                   : e.asked("([A-Z]\\w+) kinderen verdelen (\\d+) repen,");
         std::string word = part[passive ? 2 : 1];
         forms.insert(word);
         word[0] = static_cast<char>(word[0] | 0x20);
         const int children = number_words.at(word), bars = whole(part[passive ? 1 : 2]);
-        EXPECT_EQ(value(e.right), (breuk{bars, children}));
-        EXPECT_TRUE(in_simplest_form(value(e.right)));
+        EXPECT_EQ(fraction(e.right), (breuk{bars, children}));
+        EXPECT_TRUE(in_simplest_form(fraction(e.right)));
         EXPECT_EQ(e.of_colour(donkerrood), bars);
         EXPECT_TRUE(e.last.ends_with(" is " + e.right + " deel."));
     });
@@ -121,38 +54,32 @@ TEST(fractions, the_red_squares_are_counted) {
     each(B_vlakjes_03_03_click, [](const seen& e) {
         EXPECT_EQ(e.blocks.size(), 36U + 2U) << "and two in the legend";
         const int red = static_cast<int>(e.of_colour(rood)) - 1;
-        EXPECT_EQ(value(e.right), (breuk{red, 36}));
-        EXPECT_TRUE(in_simplest_form(value(e.right)));
-        EXPECT_EQ(value(e.answer(2)), (breuk{36 - red, 36})) << "the yellow ones";
+        EXPECT_EQ(fraction(e.right), (breuk{red, 36}));
+        EXPECT_TRUE(in_simplest_form(fraction(e.right)));
+        EXPECT_EQ(fraction(e.answer(2)), (breuk{36 - red, 36})) << "the yellow ones";
         EXPECT_EQ(in_simplest_form({red, 36}), e.made.variant % 2 == 0);
         EXPECT_EQ(e.last, "Het juiste antwoord is dus " + e.right + ".");
     });
 }
 
 TEST(fractions, the_explanation_writes_what_makes_the_whole_over_the_dots) {
-    each(L_helen_maken_03_03_click, [](seen e) {
+    each(L_helen_maken_03_03_click, [](const seen& e) {
         const breuk first = gemengd_getal(whole(e.words[0]), whole(e.words[1]), whole(e.words[2]));
         EXPECT_EQ(e.words[3] + e.words[4] + e.words[6], "+=..");
-        EXPECT_EQ(first + value(e.right), (breuk{whole(e.words[5]), 1}));
+        EXPECT_EQ(first + fraction(e.right), (breuk{whole(e.words[5]), 1}));
         EXPECT_EQ(e.last, "Dan heb je dus nog " + e.right + " nodig.");
-        drawing board = e.made.plaatje;
-        teken_opdrachten(board, e.made.uitlegopdrachten);
-        e.look_at(board);
-        EXPECT_EQ(e.words[e.words.size() - 2] + "/" + e.words.back(), e.right);
+        const auto written = e.when_explained().words;
+        EXPECT_EQ(written[written.size() - 2] + "/" + written.back(), e.right);
     });
 }
 
 TEST(fractions, a_part_of_the_starters_has_finished) {
-    const auto people = [](std::string text) {
-        std::erase(text, '.');
-        return whole(text);
-    };
     each(L_marathon_03_03_click, [&](const seen& e) {
         const auto part = e.asked(R"(moment ([\d.]+) deelnemers door de finish\. Dat is (\d+)/(\d+) van)");
-        const int finished = people(part[1]);
-        EXPECT_EQ(people(e.right) * whole(part[2]), finished * whole(part[3]));
-        EXPECT_LT(people(e.answer(2)), finished) << "told that no more can finish than started";
-        EXPECT_GT(people(e.answer(3)), finished) << "told of a slip only";
+        const int finished = whole(part[1]);
+        EXPECT_EQ(whole(e.right) * whole(part[2]), finished * whole(part[3]));
+        EXPECT_LT(whole(e.answer(2)), finished) << "told that no more can finish than started";
+        EXPECT_GT(whole(e.answer(3)), finished) << "told of a slip only";
         EXPECT_TRUE(e.last.ends_with(" = " + e.right + " te doen."));
     });
 }
@@ -161,10 +88,10 @@ TEST(fractions, all_prizes_together_are_the_whole) {
     std::set<bool> simplified;
     each(L_prijzen_03_03_click, [&](const seen& e) {
         const auto part = e.asked(R"(jaar (\d+/\d+) deel.* het (\d+/\d+) deel\.)");
-        const breuk first = value(part[1]), second = value(part[2]);
+        const breuk first = fraction(part[1]), second = fraction(part[2]);
         EXPECT_GT(first, second);
-        EXPECT_EQ(first + second + value(e.right), (breuk{1, 1}));
-        EXPECT_TRUE(in_simplest_form(value(e.right)));
+        EXPECT_EQ(first + second + fraction(e.right), (breuk{1, 1}));
+        EXPECT_TRUE(in_simplest_form(fraction(e.right)));
         EXPECT_EQ(first.noemer == second.noemer, e.made.uitlegregels[1].find("hoeven niet") != std::string::npos);
         EXPECT_EQ(whole(e.words[4]) % first.teller, 0) << "of the cheque, whole thousands are a part";
         EXPECT_TRUE(e.last.ends_with(" = " + e.right + " deel."));
@@ -214,14 +141,10 @@ TEST(fractions, the_largest_or_smallest_of_the_board_is_one_alone) {
 
 TEST(fractions, what_is_left_in_the_drum_has_quarters_of_a_litre) {
     std::set<double> quarters;
-    const auto litres = [](std::string text) {
-        std::ranges::replace(text, ',', '.');
-        return lees_getal(text); // exact: quarters
-    };
     each(M_olievat_03_06_click, [&](const seen& e) {
         const auto part = e.asked(R"(eerst ([\d,]+) liter olie\. .* daar (\d+) (\d)/(\d) liter)");
         const double out = lees_getal(part[2]) + lees_getal(part[3]) / lees_getal(part[4]);
-        EXPECT_EQ(litres(e.right), litres(part[1]) - out);
+        EXPECT_EQ(decimal(e.right), decimal(part[1]) - out);
         EXPECT_TRUE(std::regex_search(e.right, std::regex(",(25|5|75)$")));
         EXPECT_TRUE(e.last.ends_with(" is aan " + e.right + " liter."));
         quarters.insert(out - lees_getal(part[2]));
@@ -231,13 +154,13 @@ TEST(fractions, what_is_left_in_the_drum_has_quarters_of_a_litre) {
 
 TEST(fractions, quick_simplifying_goes_as_far_as_it_can) {
     each(M_snel_03_03_click, [](const seen& e) {
-        const breuk shown = value(e.words[0].substr(std::string("Vereenvoudig: ").size()));
-        EXPECT_EQ(value(e.right), shown);
-        EXPECT_TRUE(in_simplest_form(value(e.right)));
-        EXPECT_EQ(value(e.answer(2)), shown) << "told that it can be simplified further";
-        EXPECT_NE(value(e.answer(3)), shown);
-        EXPECT_NE(value(e.answer(4)), shown);
-        EXPECT_NE(value(e.answer(3)), value(e.answer(4)));
+        const breuk shown = fraction(e.words[0].substr(std::string("Vereenvoudig: ").size()));
+        EXPECT_EQ(fraction(e.right), shown);
+        EXPECT_TRUE(in_simplest_form(fraction(e.right)));
+        EXPECT_EQ(fraction(e.answer(2)), shown) << "told that it can be simplified further";
+        EXPECT_NE(fraction(e.answer(3)), shown);
+        EXPECT_NE(fraction(e.answer(4)), shown);
+        EXPECT_NE(fraction(e.answer(3)), fraction(e.answer(4)));
         EXPECT_EQ(e.made.tijdlimiet, e.made.variant == 1 ? 8 : 15);
         EXPECT_TRUE(e.last.ends_with(" De breuk wordt dus " + e.right + "."));
     });
