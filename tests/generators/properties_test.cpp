@@ -5,11 +5,11 @@
 
 #include "tests/support/fake_outside.h"
 #include "tests/support/operation_text.h"
+#include "tests/support/seen.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
+#include <cmath>
 #include <map>
-#include <regex>
+#include <numbers>
 #include <set>
 
 namespace cijferwerf {
@@ -27,6 +27,10 @@ const std::set<std::string_view> equal_answers_meant{
 
 const std::set<std::string_view> simplest_form_asked{
     "M_snel_03_03_click", // a fraction of the same value that can still be simplified is wrong
+};
+
+const std::set<std::string_view> answer_not_in_last_line{
+    "M_blessures_01_08_click", // the line before names the sport, the last one its percentage
 };
 
 constexpr int rounds = 420; // a multiple of all numbers of sub-variants up to 7, and many of each other
@@ -71,19 +75,6 @@ std::vector<std::string> sentences(const oefening& made) {
 
 std::array<std::string, 4> answers(const oefening& made) {
     return {made.antwoord_1, made.antwoord_2, made.antwoord_3, made.antwoord_4};
-}
-
-std::vector<text_op> texts(const drawing& drawn) {
-    std::vector<text_op> found;
-    for (const drawing_op& operation : drawn.operations())
-        if (const auto* text = std::get_if<text_op>(&operation)) found.push_back(*text);
-    return found;
-}
-
-drawing explained(const oefening& made) {
-    drawing board = made.plaatje;
-    teken_opdrachten(board, made.uitlegopdrachten);
-    return board;
 }
 
 // ---- answers ----
@@ -205,9 +196,46 @@ TEST_P(every_exercise, writes_numbers_as_pupils_do_and_single_blanks) {
             EXPECT_EQ(fault(answer), "") << answer;
             EXPECT_FALSE(answer.starts_with("  ")) << answer;
         }
-        for (const text_op& text : texts(explained(made))) EXPECT_EQ(fault(text.text), "") << text.text;
+        for (const std::string& word : seen(made).when_explained().words) EXPECT_EQ(fault(word), "") << word;
         EXPECT_EQ(made.vraagregels[0], leeg);
         EXPECT_TRUE(made.hulpmiddel == "REKENMACHINE" || made.hulpmiddel == leeg);
+    });
+}
+
+// The numbers of a text as they stand there: "3.600 - 5 1/2 = ..." has "3.600", "5" and "1/2".
+std::set<std::string> numbers_in(const std::string& text) {
+    static const std::regex between(R"([\s=():;']+)");
+    std::set<std::string> numbers;
+    for (std::sregex_token_iterator i(text.begin(), text.end(), between, -1), end; i != end; ++i) {
+        std::string word = *i;
+        while (!word.empty() && std::string_view(".,!?%").find(word.back()) != std::string_view::npos) word.pop_back();
+        if (std::ranges::any_of(word, [](char c) { return c >= '0' && c <= '9'; })) numbers.insert(word);
+    }
+    return numbers;
+}
+
+// Whether a line gives an answer: all its numbers, or its words where it has none.
+bool names(const std::string& line, const std::string& answer) {
+    const std::set<std::string> wanted = numbers_in(answer);
+    return wanted.empty() ? line.find(answer) != std::string::npos : std::ranges::includes(numbers_in(line), wanted);
+}
+
+TEST(properties, know_a_line_that_names_another_answer) {
+    EXPECT_TRUE(names("Je krijgt 11/2 = 5 1/2: dus 5 1/2.", "5 1/2"));
+    EXPECT_TRUE(names("prijs: 3.600 - 180 = 3.420 euro.", "3.420 euro"));
+    EXPECT_TRUE(names("De juiste kleur is dus geel.", "geel"));
+    EXPECT_FALSE(names("Je krijgt 15 1/2.", "5 1/2"));
+    EXPECT_FALSE(names("prijs: 3.600 - 180 = 13.420 euro.", "3.420 euro"));
+    EXPECT_FALSE(names("Het is dus 5.", "-5"));
+    EXPECT_FALSE(names("Het is dus 2,50.", "2,5"));
+    EXPECT_FALSE(names("De juiste kleur is dus rood.", "geel"));
+}
+
+TEST_P(every_exercise, ends_its_explanation_with_the_right_answer) {
+    if (answer_not_in_last_line.contains(generator())) return;
+    each([&](const oefening& made) {
+        const seen exercise(made);
+        EXPECT_TRUE(names(exercise.last, exercise.right)) << exercise.right << " | " << exercise.last;
     });
 }
 
@@ -261,6 +289,8 @@ TEST_P(every_exercise, tells_a_pupil_something_after_a_wrong_answer_and_in_the_e
 struct ink {
     double left, top, right, bottom;
     std::string word;
+    kleur colour = zwart;
+    std::size_t operation = 0; // that printed it
 
     bool meets(const ink& other) const {
         constexpr double slack = 8; // half a pixel
@@ -273,7 +303,7 @@ struct ink {
 };
 
 // Where the words of a text leave ink: from the top of its digits to its base line, or to the end of its tails.
-void add_words(std::vector<ink>& to, const text_op& text) {
+void add_words(std::vector<ink>& to, const text_op& text, std::size_t operation) {
     constexpr double base_line = 0.905, tail = 0.21;
     const double em = text.size * 20;
     for (std::size_t at = text.text.find_first_not_of(' '); at != std::string::npos;) {
@@ -282,7 +312,7 @@ void add_words(std::vector<ink>& to, const text_op& text) {
         const bool tailed = word.find_first_of("gjpqyQ,;()") != std::string::npos;
         const double left = text.x + text_width(text.text.substr(0, at), text.size);
         to.push_back({left, text.y + digit_top(text.size), left + text_width(word, text.size),
-                      text.y + em * (base_line + (tailed ? tail : 0)), word});
+                      text.y + em * (base_line + (tailed ? tail : 0)), word, text.colour, operation});
         at = text.text.find_first_not_of(' ', end);
     }
 }
@@ -290,8 +320,9 @@ void add_words(std::vector<ink>& to, const text_op& text) {
 // The words that are still to be seen when all is drawn: filled boxes and pictures cover what lies beneath.
 std::vector<ink> visible_words(const drawing& drawn) {
     std::vector<ink> words;
-    for (const drawing_op& operation : drawn.operations()) {
-        if (const auto* text = std::get_if<text_op>(&operation)) add_words(words, *text);
+    for (std::size_t i = 0; i < drawn.operations().size(); ++i) {
+        const drawing_op& operation = drawn.operations()[i];
+        if (const auto* text = std::get_if<text_op>(&operation)) add_words(words, *text, i);
         if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled)
             std::erase_if(words, [&](const ink& word) { return word.within(box->x, box->y, box->width, box->height); });
         if (std::holds_alternative<picture_op>(operation)) words.clear();
@@ -337,6 +368,83 @@ TEST_P(every_exercise, has_a_picture_whose_texts_can_be_read_also_when_explained
         const double bar_left = 2700 - made.tijdlimiet * 100, bar_right = 2700 + made.tijdlimiet * 100;
         for (const ink& word : visible_words(made.plaatje))
             EXPECT_FALSE(word.meets({bar_left, bar_top, bar_right, bar_bottom, ""})) << word.word << " under the bar";
+    });
+}
+
+// Whether a filled operation lies beneath a place, and in what colour (of a picture file: none that is known).
+struct covering {
+    double x, y;
+
+    bool operator()(const text_op&) const { return false; }
+    bool operator()(const line_op&) const { return false; }
+    bool operator()(const picture_op&) const { return true; }
+    bool operator()(const box_op& box) const {
+        return box.filled && x >= box.x && x <= box.x + box.width && y >= box.y && y <= box.y + box.height;
+    }
+    bool operator()(const circle_op& circle) const {
+        const double right = (x - circle.centre.x) / circle.radius_x, up = (circle.centre.y - y) / circle.radius_y;
+        const double beyond_start = std::atan2(up, right) * 180 / std::numbers::pi - circle.start;
+        return circle.filled && right * right + up * up <= 1 &&
+               beyond_start - std::floor(beyond_start / 360) * 360 <= circle.sweep;
+    }
+    bool operator()(const polygon_op& shape) const {
+        bool inside = false;
+        for (std::size_t i = 0, j = shape.corners.size() - 1; i < shape.corners.size(); j = i++) {
+            const point &a = shape.corners[i], &b = shape.corners[j];
+            if ((a.y > y) != (b.y > y) && x < (b.x - a.x) * (y - a.y) / (b.y - a.y) + a.x) inside = !inside;
+        }
+        return shape.filled && inside;
+    }
+};
+
+struct fill_colour {
+    std::optional<kleur> operator()(const picture_op&) const { return {}; }
+    std::optional<kleur> operator()(const text_op& text) const { return text.colour; }
+    std::optional<kleur> operator()(const auto& drawn) const { return drawn.pen.colour; }
+};
+
+// The first word in the colour of what it is printed on, or nothing.
+std::string invisible(const drawing& drawn) {
+    for (const ink& word : visible_words(drawn)) {
+        const covering middle{(word.left + word.right) / 2, (word.top + word.bottom) / 2};
+        std::optional<kleur> beneath = drawn.ground;
+        for (std::size_t i = 0; i < word.operation; ++i)
+            if (std::visit(middle, drawn.operations()[i])) beneath = std::visit(fill_colour{}, drawn.operations()[i]);
+        if (beneath == word.colour) return "\"" + word.word + "\" in the colour of its ground";
+    }
+    return "";
+}
+
+TEST(properties, know_texts_in_the_colour_of_their_ground) {
+    const auto on = [](kleur text, auto draw) {
+        drawing board;
+        board.ground = geel;
+        draw(board);
+        board.fore_colour = text;
+        board.print_at(1000, 1000, "8");
+        return invisible(board) != "";
+    };
+    EXPECT_TRUE(on(geel, [](drawing&) {}));
+    EXPECT_FALSE(on(zwart, [](drawing&) {}));
+    const auto box = [](drawing& board) { board.filled_box(900, 900, 500, 500, rood); };
+    EXPECT_TRUE(on(rood, box));
+    EXPECT_FALSE(on(geel, box));
+    const auto other_slice = [](drawing& board) { board.sector(900, 1200, 500, 90, 180, blauw, true); };
+    EXPECT_TRUE(on(blauw, [](drawing& board) { board.sector(900, 1200, 500, 0, 90, blauw, true); }));
+    EXPECT_FALSE(on(blauw, other_slice));
+    EXPECT_TRUE(on(groen, [](drawing& board) {
+        board.polygon({{900, 900}, {1400, 900}, {1400, 1400}, {900, 1400}}, groen, true);
+    }));
+    EXPECT_FALSE(on(rood, [&](drawing& board) {
+        box(board);
+        board.picture("a.bmp");
+    }));
+}
+
+TEST_P(every_exercise, prints_nothing_in_the_colour_of_its_ground) {
+    each([&](const oefening& made) {
+        EXPECT_EQ(invisible(made.plaatje), "");
+        EXPECT_EQ(invisible(explained(made)), "") << "with the explanation drawn";
     });
 }
 
