@@ -248,7 +248,8 @@ void oefeningen::M_aftrekken_03_14_click() {
           "Welke streepbreuk moet op de", "stippeltjes staan?");
 
     goed(met_helen(helen, over.vereenvoudigd()));
-    fout(met_helen(helen, over), "Je hebt niet vereenvoudigd.", "De teller en de noemer kun je nog delen.");
+    fout(met_helen(helen, over), "Je hebt niet vereenvoudigd.", "De teller en de noemer kun je nog door",
+         regel("hetzelfde getal delen, namelijk door", over.deler(), "."));
     fout(met_helen(helen, {s.links.teller - s.rechts.teller, noemer}), "Je hebt de breuken niet gelijknamig gemaakt:",
          regel("als de noemer", noemer, " wordt, verandert de teller ook."));
     fout(met_helen(s.helen_links, over.vereenvoudigd()), "Je hebt alleen de streepbreuken van elkaar afgetrokken.",
@@ -313,7 +314,7 @@ void oefeningen::M_vereenvoudigen_03_14_click() {
     fout(en(noemer, teller), "De getallen zijn goed, maar de volgorde niet.",
          "Het getal in de middelste breuk moet eerst.");
     fout(en(k.eerste().teller, noemer),
-         "Je hebt geen hele uit de eerste breuk gehaald:", regel("bij de middelste breuk staat al een hele meer."));
+         "Je hebt geen hele uit de eerste breuk gehaald:", "bij de middelste breuk staat al een hele meer.");
     fout(en(teller, k.midden().noemer), "De laatste breuk is vereenvoudigd: de teller is al gedeeld.",
          "Je moet de noemer door hetzelfde getal delen.");
     if (variant == 2) {
