@@ -99,7 +99,7 @@ public:
                 screen_.presentatielijst.selected = offered->place;
                 screen_.presentatielijst_click();
             });
-            if (screen_.variant != variant) break; // wrapped: all have been seen
+            if (screen_.variant != variant) break;                      // wrapped: all have been seen
             if (kaal(screen_.antwoord_1).empty() && !also_blank) break; // not written yet
             save(generator, variant, "vraag");
             outside_.run([this] { screen_.knop_click(screen_.juiste_letter[0] - 'A' + 1); });
