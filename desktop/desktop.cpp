@@ -144,6 +144,7 @@ void desktop::show(form& shown) {
             const double unit = beside != nullptr ? beside->unit() : 0;
             made->resize(unit > 0 ? (QSizeF(shown.width, shown.height) * unit).toSize() : comfortable_size(shown));
             made->setMinimumSize((QSizeF(shown.width, shown.height) * smallest_unit).toSize());
+            if (beside != nullptr) made->move(window_->geometry().center() - made->rect().center());
         }
         made->show();
         made->raise();
@@ -194,6 +195,7 @@ box_answer desktop::box_with(const std::string& text, const std::string& title, 
     if (buttons == box_buttons::yes_no) {
         QPushButton* const escape = box.addButton("Nee", QMessageBox::NoRole);
         box.setEscapeButton(escape);
+        box.setDefaultButton(escape); // a stray Enter ends nothing
         no = escape;
     }
 
