@@ -100,7 +100,7 @@ int links_van(int midden, int getal) {
 }
 
 // Prints numbers in one line of 8 points, each as near as blanks allow to its middle.
-std::string rij(int y, const std::vector<int>& middens, std::initializer_list<int> getallen) {
+std::string getallenrij(int y, const std::vector<int>& middens, std::initializer_list<int> getallen) {
     const double blank = text_width(" ", 8);
     std::string line;
     int start = 0;
@@ -187,7 +187,7 @@ void oefeningen::L_optellen_03_14_click() {
     };
     kies_variant(3);
     zaai();
-    const som s = kies(sommen[static_cast<std::size_t>(variant - 1)]);
+    const som s = kies(rij(sommen, variant));
     const int noemer = s.gelijke_noemer();
     const int helen = s.helen_links + s.helen_rechts;
     const breuk samen = s.links + s.rechts;
@@ -235,7 +235,7 @@ void oefeningen::M_aftrekken_03_14_click() {
     };
     kies_variant(2);
     zaai();
-    const som s = kies(sommen[static_cast<std::size_t>(variant - 1)]);
+    const som s = kies(rij(sommen, variant));
     const int noemer = s.gelijke_noemer();
     const int helen = s.helen_links - s.helen_rechts;
     const breuk over = s.links - s.rechts;
@@ -360,7 +360,7 @@ void oefeningen::Z_delen_03_14_click() {
     static const std::array sommen{met_kruis(true, false), met_kruis(false, true)};
     kies_variant(4);
     zaai();
-    const som s = kies(sommen[static_cast<std::size_t>((variant - 1) % 2)]);
+    const som s = kies(rij(sommen, (variant - 1) % 2 + 1));
     const std::array waarden = quotienten(s);
     const std::array uitkomsten = geschud(std::array<uitkomst, 4>{
         {{waarden[0]},
@@ -405,8 +405,8 @@ void oefeningen::Z_delen_03_14_click() {
                      velden(links_van(midden, getal), teller ? 1050 : 1850, getal));
     };
     opdrachten("LINE_3000_0_2380_2130_1_BF_1", regel("PRINT_520_1350_15_15_", strepen, "      ---"),
-               rij(1250, x, {a.teller, b.teller, a.teller, om.teller, waarden[0].teller}),
-               rij(1650, x, {a.noemer, b.noemer, a.noemer, om.noemer, waarden[0].noemer}),
+               getallenrij(1250, x, {a.teller, b.teller, a.teller, om.teller, waarden[0].teller}),
+               getallenrij(1650, x, {a.noemer, b.noemer, a.noemer, om.noemer, waarden[0].noemer}),
                breuk_opdracht("BREUK1_4250_1420_", waarden[0].geheel(), waarden[0].rest()),
                streep_door(x[2], tellers, tellers ? a.teller / k.eerste : a.noemer / k.tweede),
                streep_door(x[3], !tellers, tellers ? om.noemer / k.eerste : om.teller / k.tweede));
@@ -428,7 +428,7 @@ void oefeningen::Z_vermenigvuldigen_03_14_click() {
     static const std::array sommen{met_kruis(true, false), met_kruis(false, true), met_kruis(true, true)};
     kies_variant(3);
     zaai();
-    const som s = kies(sommen[static_cast<std::size_t>(variant - 1)]);
+    const som s = kies(rij(sommen, variant));
     const std::array waarden = producten(s);
     const std::array uitkomsten = geschud(
         std::array<uitkomst, 4>{{{waarden[0]},
@@ -489,8 +489,8 @@ void oefeningen::Z_vermenigvuldigen_03_14_click() {
     }
     opdrachten("LINE_3000_0_2380_2130_1_BF_1",
                regel("PRINT_520_1350_15_15_---  x  ---  =  ---  x   ---  =  ---   =", "      ---"),
-               rij(1250, x, {a.teller, b.teller, klein_a.teller, klein_b.teller, waarden[0].teller}),
-               rij(1650, x, {a.noemer, b.noemer, klein_a.noemer, klein_b.noemer, waarden[0].noemer}),
+               getallenrij(1250, x, {a.teller, b.teller, klein_a.teller, klein_b.teller, waarden[0].teller}),
+               getallenrij(1650, x, {a.noemer, b.noemer, klein_a.noemer, klein_b.noemer, waarden[0].noemer}),
                breuk_opdracht("BREUK1_4300_1400_", waarden[0].geheel(), waarden[0].rest()),
                variant == 1 ? door_teller_a : door_noemer_a, variant == 1 ? door_noemer_b : door_teller_b);
 }
