@@ -149,6 +149,11 @@ bool is_button(const control& shown) {
     return shown.kind == control_kind::button || shown.kind == control_kind::option_button;
 }
 
+// Enter on such a button presses it, also where the form lists Enter for another.
+bool is_action(const control& shown) {
+    return shown.role == theme_role::action || shown.role == theme_role::main_action;
+}
+
 bool usable(const control& shown) { return shown.visible && shown.enabled; }
 
 } // namespace
@@ -344,8 +349,8 @@ void form_page::select(option_button& selected) {
     });
 }
 
-// True when the key is dealt with. The list box keeps Enter; a key that a control of the form lists presses that one
-// wherever the focus is; Enter then presses the button that has the focus, as the blank does.
+// True when the key is dealt with. A list box and an action button keep Enter; a key that a control of the form lists
+// presses that one wherever the focus is; Enter then presses what has the focus, as the blank does.
 bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
     const char key = form_key(event);
     const bool chosen = key == '\r' || (event.key() == Qt::Key_Space && focused != nullptr && !is_button(*focused));
@@ -358,7 +363,8 @@ bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
         return true;
     }
     bool pressed = false;
-    if (key != 0) run_([&] { pressed = form_.press(key); });
+    const bool kept = key == '\r' && focused != nullptr && is_action(*focused);
+    if (key != 0 && !kept) run_([&] { pressed = form_.press(key); });
     if (pressed) return true;
     if (!chosen || focused == nullptr || !usable(*focused) || focused->kind == control_kind::list_box) return false;
     if (focused->kind == control_kind::option_button)

@@ -19,6 +19,7 @@ public:
         add(lijst, "lijst", {200, 2000, 3000, 3000}, list);
         add(links, "links", {4000, 200, 2000, 1000}, choice, "links");
         add(rechts, "rechts", {4000, 1400, 2000, 1000}, choice, "rechts");
+        add(uitgang, "uitgang", {6500, 200, 2000, 1000}, action, "uitgang");
         add(plaatje, "plaatje", {4000, 3000, drawing::inner_width, drawing::inner_height}, picture);
         add(klok, "klok", 20);
         lijst.items = {"eerste", "tweede", "derde"};
@@ -32,6 +33,7 @@ public:
         };
         lijst.click = [this] { log += "lijst" + std::to_string(lijst.selected) + " "; };
         lijst.keypress = [this](int key) { log += "toets" + std::to_string(key) + " "; };
+        uitgang.click = [this] { log += "uitgang "; };
         links.click = [this] { log += rechts.selected ? "beide " : "links "; };
         klok.tick = [this] {
             log += busy ? "TIK-BINNENIN " : "tik ";
@@ -43,7 +45,7 @@ public:
 
     frame grond;
     label tekst, klik;
-    button knop;
+    button knop, uitgang;
     list_box lijst;
     option_button links, rechts;
     picture_box plaatje;
@@ -110,8 +112,13 @@ TEST_F(events, keys_go_to_the_list_the_form_or_the_focused_button) {
     EXPECT_EQ(screen.log, "toets13 knop klik knop ");
     EXPECT_EQ(screen.lijst.selected, 1);
 
+    widget("uitgang").setFocus();
+    type(outside, screen, Qt::Key_Return); // but an action button keeps Enter
+    EXPECT_EQ(screen.log, "toets13 knop klik knop uitgang ");
+
     screen.knop.keys.clear();
     screen.log.clear();
+    widget("klik").setFocus();
     type(outside, screen, Qt::Key_Return);
     widget("links").setFocus();
     type(outside, screen, Qt::Key_Return);
