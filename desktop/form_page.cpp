@@ -228,6 +228,7 @@ void form_page::make_widget(control& shown) {
     case control_kind::list_box: {
         auto& list = static_cast<list_box&>(shown);
         auto* made = new list_widget(list, *this);
+        made->viewport()->installEventFilter(this);
         connect(made, &QListWidget::currentRowChanged, this, [&list](int row) { list.selected = row; });
         connect(made, &QListWidget::itemClicked, this, [this, made, &list](QListWidgetItem* item) {
             list.selected = made->row(item);
@@ -374,7 +375,14 @@ bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
     return true;
 }
 
+// The second press of a double click whose first opened this page: meant for what stood there before.
+bool form_page::stray_click(QObject* on, const QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress) pressed_ = on;
+    return event.type() == QEvent::MouseButtonDblClick && pressed_ != on;
+}
+
 bool form_page::eventFilter(QObject* watched, QEvent* event) {
+    if (stray_click(watched, *event)) return true;
     const auto placed = std::ranges::find(placed_, watched, &placed_control::widget);
     if (placed == placed_.end() || updating_) return false;
     control& on = placed->shown;
@@ -391,7 +399,8 @@ bool form_page::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::MouseButtonRelease: {
         const auto& mouse = static_cast<QMouseEvent&>(*event);
-        if (!is_button(on) && mouse.button() == Qt::LeftButton && placed->widget->rect().contains(mouse.pos()))
+        if (!is_button(on) && pressed_ == watched && mouse.button() == Qt::LeftButton &&
+            placed->widget->rect().contains(mouse.pos()))
             clicked(on);
         break;
     }

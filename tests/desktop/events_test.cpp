@@ -131,6 +131,23 @@ TEST_F(events, a_list_entry_is_selected_before_its_click_is_handled) {
     EXPECT_EQ(screen.log, "lijst2 ");
 }
 
+TEST_F(events, the_second_half_of_a_double_click_is_not_for_the_screen_that_the_first_opened) {
+    const auto second_half = [](QWidget& on, QPoint at) {
+        for (const auto type : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, on.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, {});
+            QApplication::sendEvent(&on, &event);
+        }
+    };
+    auto& list = widget<QListWidget>("lijst");
+    second_half(widget("knop"), {5, 5});
+    second_half(widget("klik"), {5, 5});
+    second_half(*list.viewport(), list.visualItemRect(list.item(1)).center());
+    EXPECT_EQ(screen.log, "");
+    click(widget("knop"));
+    second_half(widget("knop"), {5, 5});
+    EXPECT_EQ(screen.log, "knop knop ");
+}
+
 TEST_F(events, at_most_one_option_is_selected) {
     click(widget("rechts"));
     click(widget("links"));
