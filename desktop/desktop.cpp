@@ -143,6 +143,7 @@ void desktop::show(form& shown) {
             const double unit = beside != nullptr ? beside->unit() : 0;
             made->resize(unit > 0 ? (QSizeF(shown.width, shown.height) * unit).toSize() : comfortable_size(shown));
             made->setMinimumSize((QSizeF(shown.width, shown.height) * smallest_unit).toSize());
+            if (beside != nullptr) made->move(window_->geometry().center() - made->rect().center());
         }
         made->show();
         made->raise();
@@ -185,7 +186,11 @@ box_answer desktop::ask(const std::string& text, const std::string& title, box_b
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     const QAbstractButton* const yes = box.addButton(buttons == box_buttons::ok ? "OK" : "Ja", QMessageBox::YesRole);
-    if (buttons == box_buttons::yes_no) box.setEscapeButton(box.addButton("Nee", QMessageBox::NoRole));
+    if (buttons == box_buttons::yes_no) {
+        QPushButton* const no = box.addButton("Nee", QMessageBox::NoRole);
+        box.setEscapeButton(no);
+        box.setDefaultButton(no); // a stray Enter ends nothing
+    }
 
     // As large as the screens are.
     const double unit = pages_.empty() ? 1.0 / 15 : pages_.back()->unit();

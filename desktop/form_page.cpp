@@ -204,7 +204,10 @@ form_page::form_page(form& of, event_runner run, QWidget* window) : QWidget(wind
         if (shown->kind != control_kind::timer) make_widget(*shown);
 }
 
-form_page::~form_page() = default;
+// The form may be gone already: what its widgets still report goes nowhere.
+form_page::~form_page() {
+    for (const placed_control& placed : placed_) placed.widget->disconnect(this);
+}
 
 void form_page::make_widget(control& shown) {
     QWidget* widget = nullptr;

@@ -135,7 +135,7 @@ private:
 } // namespace
 
 QFont twip_font(double points, bool bold) {
-    QFont font(QStringList{"Arial", "Liberation Sans", "Helvetica"});
+    QFont font(QStringList{"Liberation Sans", "Arial", "Helvetica"});
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 20))));
     font.setBold(bold);

@@ -104,6 +104,7 @@ void paint_focus(QPainter& on, const QRectF& box, const look& drawn, double unit
 
 void paint_text(QPainter& on, const QRectF& box, double unit, int flags, const QString& text, const QFont& with,
                 QColor colour) {
+    if (text.trimmed().isEmpty()) return; // so that no face is loaded for a blank line
     on.save();
     on.translate(box.topLeft());
     on.scale(unit, unit);

@@ -39,7 +39,7 @@ void oefeningen::B_chocolade_03_03_click() {
     static constexpr std::array<kleur, 4> truien{blauw, rood, groen, paars};
     kies_variant(14);
     zaai();
-    const telwoord& woord = telwoorden[static_cast<std::size_t>((variant - 1) / 2)];
+    const telwoord& woord = rij(telwoorden, (variant + 1) / 2);
     const int kinderen = woord.getal;
     const int repen =
         trek_tot([this] { return trek(11) + 2; }, [&](int drawn) { return std::gcd(drawn, kinderen) == 1; });
@@ -253,7 +253,7 @@ void oefeningen::L_marathon_03_03_click() {
     kies_variant(4);
     zaai();
     const std::string_view stad = kies(steden);
-    const breuk deel = kies(vormen[static_cast<std::size_t>(variant - 1)]);
+    const breuk deel = kies(rij(vormen, variant));
     const int een_deel = deel.noemer * 10 * (trek(30) + 5); // what one part of so many parts is
     const int gefinisht = een_deel * deel.teller;
     const int gestart = een_deel * deel.noemer;
@@ -543,7 +543,7 @@ void oefeningen::M_olievat_03_06_click() {
                                                  {2, 3, "Zet de streepbreuk eerst om in een kommagetal."}}};
     kies_variant(5);
     zaai();
-    const vorm& kwarten = vormen[static_cast<std::size_t>(variant - 1)];
+    const vorm& kwarten = rij(vormen, variant);
     const int liters_eruit = trek(18) + 2;
     const int liters = liters_eruit + trek(60) + 10;
     const int in_vat = liters * 100 + kwarten.in_vat * 25; // hundredths of a litre, like all that follow

@@ -74,7 +74,7 @@ void oefeningen::L_stukken_03_14_click() {
     kies_variant(14);
     zaai();
     const bool vraag_AB = variant % 2 == 1;
-    const int stukken = delingen[static_cast<std::size_t>((variant - 1) / 2)];
+    const int stukken = rij(delingen, (variant + 1) / 2);
     const int tot_B = trek(stukken - 1) + 1;
     // The length between two marks: a fraction up to 5, or a whole number.
     const breuk stuk = trek_tot(
@@ -247,17 +247,17 @@ void oefeningen::M_tussen_in_03_14_click() {
     // By colour, where the two numbers begin: the right step, and others near it or some tenths away.
     const int stap = b.teller * schaal / b.noemer;
     std::array<int, 4> begin{};
-    begin[static_cast<std::size_t>(juist - 1)] = stap;
+    rij(begin, juist) = stap;
     const auto afstanden = geschud(variant == 1 ? std::array{-3, -2, -1, 1, 2, 3} : std::array{-10, -2, -1, 1, 2, 10});
     auto volgende = afstanden.begin();
     for (int i = 1; i <= 4; ++i) {
         if (i == juist) continue;
-        int& hier = begin[static_cast<std::size_t>(i - 1)];
+        int& hier = rij(begin, i);
         do hier = stap + *volgende++;
         while (hier < 0 || hier > schaal - 2);
     }
     const auto tussen = [&](int i) {
-        const int van = begin[static_cast<std::size_t>(i - 1)];
+        const int van = rij(begin, i);
         return regel(komma(van, decimalen), " en", komma(van + 1, decimalen));
     };
 
@@ -266,7 +266,7 @@ void oefeningen::M_tussen_in_03_14_click() {
     teken_breuk(plaatje, 1050 - breedte / 2, 1065, 0, b.teller, b.noemer);
     plaatje.text_size = 14;
     for (int i = 1; i <= 4; ++i) {
-        const auto& [naam, vlak, letters] = kleuren[static_cast<std::size_t>(i - 1)];
+        const auto& [naam, vlak, letters] = rij(kleuren, i);
         const int y = 105 + (i - 1) * 490;
         plaatje.filled_box(2000, y, 3200, 440, vlak);
         plaatje.fore_colour = letters;
@@ -277,7 +277,7 @@ void oefeningen::M_tussen_in_03_14_click() {
     vraag("Kijk hiernaast...", leeg, "Tussen welke twee getallen", "ligt de breuk?", leeg, "Kies de juiste kleur.");
 
     juist_op(juist);
-    for (int i = 1; i <= 4; ++i) op_plaats(i, kleuren[static_cast<std::size_t>(i - 1)].naam);
+    for (int i = 1; i <= 4; ++i) op_plaats(i, rij(kleuren, i).naam);
     if (variant == 1) {
         tip_1("Eerste stap: zet de gegeven breuk in een kommagetal om.");
         tip_2("Tweede stap: vergelijk dat kommagetal met de gegeven", "getallen...");
@@ -292,7 +292,7 @@ void oefeningen::M_tussen_in_03_14_click() {
     uitleg("Je kunt het beste die breuk in een kommagetal",
            regel("omzetten:", b.teller, " delen door", b.noemer, " geeft", kommagetal, deelbaar ? "." : "..."),
            "Als je alle mogelijkheden bekijkt zie je dat dat getal", regel("alleen tussen", tussen(juist), " ligt."),
-           regel("De juiste kleur is dus ", kleuren[static_cast<std::size_t>(juist - 1)].naam, "."));
+           regel("De juiste kleur is dus ", rij(kleuren, juist).naam, "."));
     opdrachten(regel("PRINT_550_1690_0_14_=", kommagetal, deelbaar ? "" : "..."));
 }
 

@@ -100,7 +100,7 @@ int links_van(int midden, int getal) {
 }
 
 // Prints numbers in one line of 8 points, each as near as blanks allow to its middle.
-std::string rij(int y, const std::vector<int>& middens, std::initializer_list<int> getallen) {
+std::string getallenrij(int y, const std::vector<int>& middens, std::initializer_list<int> getallen) {
     const double blank = text_width(" ", 8);
     std::string line;
     int start = 0;
@@ -177,17 +177,17 @@ void oefeningen::L_optellen_03_14_click() {
     // The fractions together are more than 1, and what is left above 1 can be simplified.
     static const auto past = [](const som& s) {
         const breuk samen = s.links + s.rechts;
-        return s.links.noemer != s.rechts.noemer && s.gelijke_noemer() <= 40 && samen > breuk{1, 1} &&
-               samen.rest().vereenvoudigbaar() && samen.rest().teller > 0;
+        return s.links.noemer != s.rechts.noemer && s.gelijke_noemer() <= 60 && samen > breuk{1, 1} &&
+               samen.teller <= 99 && samen.rest().vereenvoudigbaar() && samen.rest().teller > 0;
     };
     static const std::array sommen{
-        alle_sommen(15, 0, [](const som& s) { return past(s) && s.noemers_passen(); }),
+        alle_sommen(20, 0, [](const som& s) { return past(s) && s.noemers_passen(); }),
         alle_sommen(15, 0, [](const som& s) { return past(s) && !s.noemers_passen(); }),
         alle_sommen(10, 4, past),
     };
     kies_variant(3);
     zaai();
-    const som s = kies(sommen[static_cast<std::size_t>(variant - 1)]);
+    const som s = kies(rij(sommen, variant));
     const int noemer = s.gelijke_noemer();
     const int helen = s.helen_links + s.helen_rechts;
     const breuk samen = s.links + s.rechts;
@@ -235,7 +235,7 @@ void oefeningen::M_aftrekken_03_14_click() {
     };
     kies_variant(2);
     zaai();
-    const som s = kies(sommen[static_cast<std::size_t>(variant - 1)]);
+    const som s = kies(rij(sommen, variant));
     const int noemer = s.gelijke_noemer();
     const int helen = s.helen_links - s.helen_rechts;
     const breuk over = s.links - s.rechts;
@@ -248,7 +248,8 @@ void oefeningen::M_aftrekken_03_14_click() {
           "Welke streepbreuk moet op de", "stippeltjes staan?");
 
     goed(met_helen(helen, over.vereenvoudigd()));
-    fout(met_helen(helen, over), "Je hebt niet vereenvoudigd.", "De teller en de noemer kun je nog delen.");
+    fout(met_helen(helen, over), "Je hebt niet vereenvoudigd.", "De teller en de noemer kun je nog door",
+         regel("hetzelfde getal delen, namelijk door", over.deler(), "."));
     fout(met_helen(helen, {s.links.teller - s.rechts.teller, noemer}), "Je hebt de breuken niet gelijknamig gemaakt:",
          regel("als de noemer", noemer, " wordt, verandert de teller ook."));
     fout(met_helen(s.helen_links, over.vereenvoudigd()), "Je hebt alleen de streepbreuken van elkaar afgetrokken.",
@@ -313,7 +314,7 @@ void oefeningen::M_vereenvoudigen_03_14_click() {
     fout(en(noemer, teller), "De getallen zijn goed, maar de volgorde niet.",
          "Het getal in de middelste breuk moet eerst.");
     fout(en(k.eerste().teller, noemer),
-         "Je hebt geen hele uit de eerste breuk gehaald:", regel("bij de middelste breuk staat al een hele meer."));
+         "Je hebt geen hele uit de eerste breuk gehaald:", "bij de middelste breuk staat al een hele meer.");
     fout(en(teller, k.midden().noemer), "De laatste breuk is vereenvoudigd: de teller is al gedeeld.",
          "Je moet de noemer door hetzelfde getal delen.");
     if (variant == 2) {
@@ -330,13 +331,14 @@ void oefeningen::M_vereenvoudigen_03_14_click() {
            regel("en de noemer van de middelste breuk nog door", k.deler, " delen."),
            regel("De noemer wordt dan", k.midden().noemer, " :", k.deler, " =", noemer, "."),
            regel("Op de stippeltjes staan dus ", antwoord_1, "."));
-    // The dots give way to the numbers.
-    const auto wis = [](int einde, int boven) {
-        return regel("LINE_", velden(einde - 385, boven, 385, 330, int{cyaan}), "_BF_0");
+    // The dots give way to the numbers; they are as wide as the bar but for 60 units.
+    const auto streep = std::lround(text_width(stippels, 18)) + 60;
+    const auto wis = [streep](int einde, int boven) {
+        return regel("LINE_", velden(einde - streep, boven, streep, 330, int{cyaan}), "_BF_0");
     };
-    const auto vul_in = [](int einde, int boven, int getal) {
+    const auto vul_in = [streep](int einde, int boven, int getal) {
         const auto breedte = std::lround(text_width(kaal(getal), 18));
-        return regel("PRINT_", velden(einde - 192 - breedte / 2, boven, int{geel}, 18), "_", kaal(getal));
+        return regel("PRINT_", velden(einde - (streep + breedte) / 2, boven, int{geel}, 18), "_", kaal(getal));
     };
     opdrachten(wis(einde_midden, y - 365), vul_in(einde_midden, y - 409, teller), wis(einde_laatste, y + 40),
                vul_in(einde_laatste, y + 20, noemer));
@@ -349,21 +351,16 @@ void oefeningen::Z_delen_03_14_click() {
         return is_mooie_uitkomst(uitkomsten[0]) && uitkomsten[1].noemer <= 40 && s.eerste().teller <= 40 &&
                s.tweede().teller <= 40 && zijn_verschillend(uitkomsten);
     };
-    static const std::array sommen{
-        alle_sommen(8, 5,
-                    [](const som& s) {
-                        const kruis k(s.eerste(), s.tweede().omgekeerd());
-                        return k.eerste > 1 && k.tweede == 1 && past(s);
-                    }),
-        alle_sommen(8, 5,
-                    [](const som& s) {
-                        const kruis k(s.eerste(), s.tweede().omgekeerd());
-                        return k.eerste == 1 && k.tweede > 1 && past(s);
-                    }),
+    static const auto met_kruis = [](bool eerste, bool tweede) {
+        return alle_sommen(8, 5, [=](const som& s) {
+            const kruis k(s.eerste(), s.tweede().omgekeerd());
+            return (k.eerste > 1) == eerste && (k.tweede > 1) == tweede && past(s);
+        });
     };
+    static const std::array sommen{met_kruis(true, false), met_kruis(false, true)};
     kies_variant(4);
     zaai();
-    const som s = kies(sommen[static_cast<std::size_t>((variant - 1) % 2)]);
+    const som s = kies(rij(sommen, (variant - 1) % 2 + 1));
     const std::array waarden = quotienten(s);
     const std::array uitkomsten = geschud(std::array<uitkomst, 4>{
         {{waarden[0]},
@@ -408,8 +405,8 @@ void oefeningen::Z_delen_03_14_click() {
                      velden(links_van(midden, getal), teller ? 1050 : 1850, getal));
     };
     opdrachten("LINE_3000_0_2380_2130_1_BF_1", regel("PRINT_520_1350_15_15_", strepen, "      ---"),
-               rij(1250, x, {a.teller, b.teller, a.teller, om.teller, waarden[0].teller}),
-               rij(1650, x, {a.noemer, b.noemer, a.noemer, om.noemer, waarden[0].noemer}),
+               getallenrij(1250, x, {a.teller, b.teller, a.teller, om.teller, waarden[0].teller}),
+               getallenrij(1650, x, {a.noemer, b.noemer, a.noemer, om.noemer, waarden[0].noemer}),
                breuk_opdracht("BREUK1_4250_1420_", waarden[0].geheel(), waarden[0].rest()),
                streep_door(x[2], tellers, tellers ? a.teller / k.eerste : a.noemer / k.tweede),
                streep_door(x[3], !tellers, tellers ? om.noemer / k.eerste : om.teller / k.tweede));
@@ -422,26 +419,16 @@ void oefeningen::Z_vermenigvuldigen_03_14_click() {
         return is_mooie_uitkomst(uitkomsten[0]) && uitkomsten[1].noemer <= 40 && uitkomsten[2].noemer <= 40 &&
                s.eerste().teller <= 40 && s.tweede().teller <= 40 && zijn_verschillend(uitkomsten);
     };
-    static const std::array sommen{
-        alle_sommen(9, 4,
-                    [](const som& s) {
-                        const kruis k(s.eerste(), s.tweede());
-                        return k.eerste > 1 && k.tweede == 1 && past(s);
-                    }),
-        alle_sommen(9, 4,
-                    [](const som& s) {
-                        const kruis k(s.eerste(), s.tweede());
-                        return k.eerste == 1 && k.tweede > 1 && past(s);
-                    }),
-        alle_sommen(9, 4,
-                    [](const som& s) {
-                        const kruis k(s.eerste(), s.tweede());
-                        return k.eerste > 1 && k.tweede > 1 && past(s);
-                    }),
+    static const auto met_kruis = [](bool eerste, bool tweede) {
+        return alle_sommen(9, 4, [=](const som& s) {
+            const kruis k(s.eerste(), s.tweede());
+            return (k.eerste > 1) == eerste && (k.tweede > 1) == tweede && past(s);
+        });
     };
+    static const std::array sommen{met_kruis(true, false), met_kruis(false, true), met_kruis(true, true)};
     kies_variant(3);
     zaai();
-    const som s = kies(sommen[static_cast<std::size_t>(variant - 1)]);
+    const som s = kies(rij(sommen, variant));
     const std::array waarden = producten(s);
     const std::array uitkomsten = geschud(
         std::array<uitkomst, 4>{{{waarden[0]},
@@ -494,7 +481,7 @@ void oefeningen::Z_vermenigvuldigen_03_14_click() {
             return regel(kaal(links_van(midden, getal)), "_", "1650_", kaal(getal), "_");
         };
         opdrachten("PRINT_520_1350_15_15_---  x  ---  =     ---",
-                   breuk_opdracht("BREUK1_1950_1420_", waarden[0].geheel(), waarden[0].rest()),
+                   breuk_opdracht("BREUK1_1920_1420_", waarden[0].geheel(), waarden[0].rest()),
                    regel("TELLERSNOEMERS_", teller(x[0], a.teller), noemer(x[0], a.noemer), teller(x[1], b.teller),
                          noemer(x[1], b.noemer)),
                    door_teller_a, door_noemer_b, door_noemer_a, door_teller_b);
@@ -502,8 +489,8 @@ void oefeningen::Z_vermenigvuldigen_03_14_click() {
     }
     opdrachten("LINE_3000_0_2380_2130_1_BF_1",
                regel("PRINT_520_1350_15_15_---  x  ---  =  ---  x   ---  =  ---   =", "      ---"),
-               rij(1250, x, {a.teller, b.teller, klein_a.teller, klein_b.teller, waarden[0].teller}),
-               rij(1650, x, {a.noemer, b.noemer, klein_a.noemer, klein_b.noemer, waarden[0].noemer}),
+               getallenrij(1250, x, {a.teller, b.teller, klein_a.teller, klein_b.teller, waarden[0].teller}),
+               getallenrij(1650, x, {a.noemer, b.noemer, klein_a.noemer, klein_b.noemer, waarden[0].noemer}),
                breuk_opdracht("BREUK1_4300_1400_", waarden[0].geheel(), waarden[0].rest()),
                variant == 1 ? door_teller_a : door_noemer_a, variant == 1 ? door_noemer_b : door_teller_b);
 }

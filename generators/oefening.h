@@ -54,6 +54,12 @@ protected:
     const auto& kies(const List& list) {
         return list[static_cast<std::size_t>(trek(static_cast<int>(std::size(list))))];
     }
+    // Element n of a list, counted from 1 as sub-variants and places are; outside the list ends the run.
+    template<class List>
+    static auto& rij(List& list, int n) {
+        if (n < 1 || n > static_cast<int>(std::size(list))) throw checked_error("no row " + std::to_string(n));
+        return list[static_cast<std::size_t>(n - 1)];
+    }
     // The result of the first draw that fits; the draw is meant to fit nearly always at once.
     template<class Draw, class Fits>
     auto trek_tot(Draw draw, Fits fits) {

@@ -91,7 +91,7 @@ void oefeningen::L_examen_01_08_click() {
     kies_variant(8);
     zaai();
     const bool gezakt = variant % 2 == 1;
-    const groep& vorm = groepen[static_cast<std::size_t>((variant - 1) / 2)];
+    const groep& vorm = rij(groepen, (variant + 1) / 2);
     struct uitslag {
         int leerlingen, procent;
         int aantal() const { return leerlingen * procent / 100; }
@@ -281,7 +281,7 @@ void oefeningen::M_blessures_01_08_click() {
                    plaats_van(drawn, grootst, &sport::blessures) != plaats_van(drawn, grootst, &sport::procent);
         });
     const int juist = plaats_van(o, grootst, &sport::procent);
-    const sport& gezocht = o[static_cast<std::size_t>(juist - 1)];
+    const sport& gezocht = rij(o, juist);
 
     bord(wit, donkerblauw, 11);
     druk(250, 60, "Overzicht van het aantal sportblessures in");
@@ -293,12 +293,12 @@ void oefeningen::M_blessures_01_08_click() {
     druk_rechts(3300, 640, "sporters");
     druk_rechts(4900, 640, "blessures");
     plaatje.fore_colour = zwart;
-    for (int i = 0; i < 4; ++i) {
-        const sport& rij = o[static_cast<std::size_t>(i)];
-        const int y = 950 + i * 285;
-        druk(400, y, rij.naam);
-        druk_rechts(3300, y, duizend(rij.sporters()));
-        druk_rechts(4900, y, duizend(rij.blessures()));
+    for (int i = 1; i <= 4; ++i) {
+        const sport& deze = rij(o, i);
+        const int y = 665 + i * 285;
+        druk(400, y, deze.naam);
+        druk_rechts(3300, y, duizend(deze.sporters()));
+        druk_rechts(4900, y, duizend(deze.blessures()));
         plaatje.line(250, y + 265, 5130, y + 265, lichtgrijs);
     }
 
@@ -308,10 +308,10 @@ void oefeningen::M_blessures_01_08_click() {
 
     juist_op(juist);
     for (int i = 1; i <= 4; ++i) {
-        const sport& rij = o[static_cast<std::size_t>(i - 1)];
-        op_plaats(i, rij.naam,
-                  regel("Bij ", rij.naam, " is 1 % van de sporters", rij.een_procent, ", dus het percentage is"),
-                  regel(kaal(duizend(rij.blessures())), " :", rij.een_procent, " =", rij.procent,
+        const sport& deze = rij(o, i);
+        op_plaats(i, deze.naam,
+                  regel("Bij ", deze.naam, " is 1 % van de sporters", deze.een_procent, ", dus het percentage is"),
+                  regel(kaal(duizend(deze.blessures())), " :", deze.een_procent, " =", deze.procent,
                         " %. Dat is niet het ", grootst ? "grootste." : "kleinste."));
     }
     if (variant % 2 == 1) {
@@ -397,7 +397,7 @@ void oefeningen::M_rente_01_08_click() {
     const bool volwassen = variant == 1;
     const int oud = volwassen ? trek(80) * 100 + 1000 : trek(8) * 100 + 100;
     const int p = trek(7) + 3;
-    const houder& wie = houders[static_cast<std::size_t>(trek(10) + (volwassen ? 0 : 10))];
+    const houder& wie = rij(houders, trek(10) + (volwassen ? 1 : 11));
     const int juist = trek(4) + 1;
     const std::string_view hij = wie.man ? "hij" : "zij";
     const std::string_view zijn = wie.man ? "zijn" : "haar";
@@ -514,7 +514,7 @@ void oefeningen::B_alcohol_01_08_Click() {
                                                 {40, "2/5", 20, "1/4"}}};
     kies_variant(4);
     zaai();
-    const paar& deel = paren[static_cast<std::size_t>(2 * (variant - 1) + (munt() ? 0 : 1))];
+    const paar& deel = rij(paren, 2 * variant - (munt() ? 1 : 0));
     const int noemer = 100 / deel.gedeeld_door;
     const int getrokken = trek(850) + 150;
     const int n = getrokken - getrokken % noemer; // so that the fraction of it is whole
@@ -577,7 +577,7 @@ void oefeningen::L_bevolking_01_08_click() {
 
     kies_variant(10);
     zaai();
-    const gebied& plaats = gebieden[static_cast<std::size_t>(variant - 1)];
+    const gebied& plaats = rij(gebieden, variant);
     const auto groepen = geschud(plaats.groepen);
     const int juist = trek(4) + 1;
     struct diagram {
@@ -636,7 +636,7 @@ void oefeningen::B_grasveld_01_08_click() {
     zaai();
     const auto [n, m] = trek_tot(
         [this] {
-            const int baantjes = aantallen[static_cast<std::size_t>(trek(7))];
+            const int baantjes = rij(aantallen, trek(7) + 1);
             return veld{baantjes, trek(baantjes - 1) + 1};
         },
         [](const veld& v) {

@@ -125,6 +125,16 @@ TEST_F(events, keys_go_to_the_list_the_form_or_the_focused_button) {
     EXPECT_EQ(screen.log, "klik links ");
 }
 
+TEST_F(events, the_tab_key_goes_through_the_controls_in_the_order_of_the_form) {
+    widget("klik").setFocus();
+    QStringList order;
+    for (int i = 0; i < 4; ++i) {
+        type(outside, screen, Qt::Key_Tab);
+        order << outside.page(screen)->focusWidget()->objectName();
+    }
+    EXPECT_EQ(order, QStringList({"knop", "lijst", "links", "rechts"})) << order.join(' ').toStdString();
+}
+
 TEST_F(events, a_list_entry_is_selected_before_its_click_is_handled) {
     auto& list = widget<QListWidget>("lijst");
     click(*list.viewport(), list.visualItemRect(list.item(2)).center());

@@ -26,8 +26,8 @@ const std::set<std::string_view> equal_answers_meant{
 };
 
 const std::set<std::string_view> simplest_form_asked{
-    "M_snel_03_03_click", // a fraction of the same value that can still be simplified is wrong
-};
+    // A fraction of the same value that can still be simplified, or lose a whole, is wrong.
+    "M_snel_03_03_click", "L_optellen_03_14_click", "M_aftrekken_03_14_click"};
 
 constexpr int rounds = 420; // a multiple of all numbers of sub-variants up to 7, and many of each other
 
