@@ -95,6 +95,10 @@ TEST(picture_box, lines_along_the_axes_are_sharp) {
     shown.line(1500, 150, 1500, 1650, groen);
     EXPECT_EQ(count(painted(shown), groen), 100 * 3);
     shown.clear();
+    shown.style = line_style::dot; // not of a line as wide as this
+    shown.line(1500, 150, 1500, 1650, groen);
+    EXPECT_EQ(count(painted(shown), groen), 100 * 3);
+    shown.clear();
     shown.style = line_style::transparent;
     shown.line(1500, 150, 1500, 1650, groen);
     EXPECT_EQ(count(painted(shown), groen), 0);
