@@ -87,7 +87,7 @@ TEST_F(keypad, a_digit_typed_beside_an_exercise_does_not_answer_it) {
     const auto& titles = screen.presentatielijst.items;
     screen.presentatielijst.selected = static_cast<int>(std::ranges::find(titles, "controle") - titles.begin());
     screen.presentatielijst_click();
-    if (screen.vraag[1].caption == " ") GTEST_SKIP() << "the exercise is not written yet";
+    if (screen.antwoord_1 == " ") GTEST_SKIP() << "the exercise is not written yet";
     type("1234");
     EXPECT_EQ(screen.display.caption, "1234,");
     EXPECT_EQ(screen.pogingen, 0);
