@@ -67,8 +67,7 @@ void desktop::guarded(Event event) {
         --running_;
         failed_ = true;
         wake_up_.stop();
-        box_with(std::string("Het programma moet stoppen door een fout:\n\n") + error.what(), program_name,
-                 box_buttons::ok);
+        ask(std::string("Het programma moet stoppen door een fout:\n\n") + error.what(), program_name, box_buttons::ok);
         stop(1);
     }
 }
@@ -181,22 +180,16 @@ void desktop::unload(form& gone) {
 
 box_answer desktop::ask(const std::string& text, const std::string& title, box_buttons buttons) {
     update_screen();
-    return box_with(text, title, buttons);
-}
-
-box_answer desktop::box_with(const std::string& text, const std::string& title, box_buttons buttons) {
     QWidget* const over = QApplication::activeWindow() != nullptr ? QApplication::activeWindow() : window_.get();
     QMessageBox box(over);
     box.setWindowTitle(QString::fromStdString(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
-    box.addButton(buttons == box_buttons::ok ? "OK" : "Ja", QMessageBox::YesRole);
-    const QAbstractButton* no = nullptr;
+    const QAbstractButton* const yes = box.addButton(buttons == box_buttons::ok ? "OK" : "Ja", QMessageBox::YesRole);
     if (buttons == box_buttons::yes_no) {
-        QPushButton* const escape = box.addButton("Nee", QMessageBox::NoRole);
-        box.setEscapeButton(escape);
-        box.setDefaultButton(escape); // a stray Enter ends nothing
-        no = escape;
+        QPushButton* const no = box.addButton("Nee", QMessageBox::NoRole);
+        box.setEscapeButton(no);
+        box.setDefaultButton(no); // a stray Enter ends nothing
     }
 
     // As large as the screens are.
@@ -213,7 +206,7 @@ box_answer desktop::box_with(const std::string& text, const std::string& title, 
 
     box.exec();
     over->activateWindow(); // where no window manager gives it back
-    return buttons == box_buttons::ok ? box_answer::ok : box.clickedButton() == no ? box_answer::no : box_answer::yes;
+    return buttons == box_buttons::ok ? box_answer::ok : box.clickedButton() == yes ? box_answer::yes : box_answer::no;
 }
 
 print_result desktop::print(const report& printed) { return print_report(printed); }

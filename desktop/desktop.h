@@ -39,7 +39,6 @@ private:
     void after_event();
     void stop(int status);
     void update_screen();
-    box_answer box_with(const std::string& text, const std::string& title, box_buttons buttons);
     void close_top();
     QSize comfortable_size(const form& of) const;
 

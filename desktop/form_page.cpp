@@ -149,6 +149,11 @@ bool is_button(const control& shown) {
     return shown.kind == control_kind::button || shown.kind == control_kind::option_button;
 }
 
+// Enter on such a button presses it, also where the form lists Enter for another.
+bool is_action(const control& shown) {
+    return shown.role == theme_role::action || shown.role == theme_role::main_action;
+}
+
 bool usable(const control& shown) { return shown.visible && shown.enabled; }
 
 } // namespace
@@ -226,6 +231,7 @@ void form_page::make_widget(control& shown) {
     case control_kind::list_box: {
         auto& list = static_cast<list_box&>(shown);
         auto* made = new list_widget(list, *this);
+        made->viewport()->installEventFilter(this);
         connect(made, &QListWidget::currentRowChanged, this, [&list](int row) { list.selected = row; });
         connect(made, &QListWidget::itemClicked, this, [this, made, &list](QListWidgetItem* item) {
             list.selected = made->row(item);
@@ -347,8 +353,8 @@ void form_page::select(option_button& selected) {
     });
 }
 
-// True when the key is dealt with. The list box keeps Enter; a key that a control of the form lists presses that one
-// wherever the focus is; Enter then presses the button that has the focus, as the blank does.
+// True when the key is dealt with. A list box and an action button keep Enter; a key that a control of the form lists
+// presses that one wherever the focus is; Enter then presses what has the focus, as the blank does.
 bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
     const char key = form_key(event);
     const bool chosen = key == '\r' || (event.key() == Qt::Key_Space && focused != nullptr && !is_button(*focused));
@@ -361,7 +367,8 @@ bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
         return true;
     }
     bool pressed = false;
-    if (key != 0) run_([&] { pressed = form_.press(key); });
+    const bool kept = key == '\r' && focused != nullptr && is_action(*focused);
+    if (key != 0 && !kept) run_([&] { pressed = form_.press(key); });
     if (pressed) return true;
     if (!chosen || focused == nullptr || !usable(*focused) || focused->kind == control_kind::list_box) return false;
     if (focused->kind == control_kind::option_button)
@@ -371,7 +378,14 @@ bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
     return true;
 }
 
+// The second press of a double click whose first opened this page: meant for what stood there before.
+bool form_page::stray_click(QObject* on, const QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress) pressed_ = on;
+    return event.type() == QEvent::MouseButtonDblClick && pressed_ != on;
+}
+
 bool form_page::eventFilter(QObject* watched, QEvent* event) {
+    if (stray_click(watched, *event)) return true;
     const auto placed = std::ranges::find(placed_, watched, &placed_control::widget);
     if (placed == placed_.end() || updating_) return false;
     control& on = placed->shown;
@@ -388,7 +402,8 @@ bool form_page::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::MouseButtonRelease: {
         const auto& mouse = static_cast<QMouseEvent&>(*event);
-        if (!is_button(on) && mouse.button() == Qt::LeftButton && placed->widget->rect().contains(mouse.pos()))
+        if (!is_button(on) && pressed_ == watched && mouse.button() == Qt::LeftButton &&
+            placed->widget->rect().contains(mouse.pos()))
             clicked(on);
         break;
     }

@@ -43,12 +43,14 @@ private:
     void clicked(control& on);
     void select(option_button& selected);
     bool key_pressed(control* focused, const QKeyEvent& event);
+    bool stray_click(QObject* on, const QEvent& event);
 
     form& form_;
     event_runner run_;
     std::vector<placed_control> placed_;
     double unit_ = 1.0 / 15;
-    QPointF corner_; // the top-left corner of the form on the page
+    QPointF corner_;             // the top-left corner of the form on the page
+    QObject* pressed_ = nullptr; // what the pointer pressed last; only compared
     bool updating_ = false;
 };
 

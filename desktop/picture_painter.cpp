@@ -15,8 +15,10 @@ constexpr double twips_per_pixel = 15;
 
 QColor rgb(kleur colour) { return QColor::fromRgb(kleur_rgb[colour]); }
 
-Qt::PenStyle pen_style(line_style style) {
-    switch (style) {
+// A line of more than a pixel has no gaps.
+Qt::PenStyle pen_style(const pen& with) {
+    if (with.width > 1 && with.style != line_style::transparent) return Qt::SolidLine;
+    switch (with.style) {
     case line_style::dash: return Qt::DashLine;
     case line_style::dot: return Qt::DotLine;
     case line_style::dash_dot: return Qt::DashDotLine;
@@ -119,7 +121,7 @@ private:
     // Filled shapes get a hairline in their own colour, which closes the seam between neighbours.
     void take_up(const pen& with, bool filled) {
         on_.setPen(QPen(rgb(with.colour), filled ? 1 / pixels_ : thickness(with),
-                        filled ? Qt::SolidLine : pen_style(with.style), Qt::FlatCap, Qt::MiterJoin));
+                        filled ? Qt::SolidLine : pen_style(with), Qt::FlatCap, Qt::MiterJoin));
         on_.setBrush(filled ? QBrush(rgb(with.colour)) : QBrush(Qt::NoBrush));
     }
 

@@ -20,7 +20,8 @@ struct point {
     bool operator==(const point&) const = default;
 };
 
-// How a line of one pixel wide is drawn. A transparent line is not drawn at all; inside_solid looks like solid.
+// How a line of one pixel wide is drawn; a wider one is solid. A transparent line of any width is not drawn at all;
+// inside_solid looks like solid.
 enum class line_style : std::uint8_t { solid, dash, dot, dash_dot, dash_dot_dot, transparent, inside_solid };
 
 // The pen of lines and outlines. The width is in pixels at 96 dpi (15 twips each).

@@ -22,7 +22,7 @@ constexpr double least_scale = 0.6, most_scale = 8;
 struct bad_usage {
     std::string message;
 };
-struct cannot_write {
+struct failure {
     std::string message;
 };
 
@@ -64,10 +64,12 @@ options read_options(const std::vector<std::string_view>& arguments) {
     return chosen;
 }
 
-// The desktop with a clock that stands still, so that the same seed gives the same pictures.
+// The desktop with a clock that stands still, so that the same seed gives the same pictures. Nobody is there to answer
+// a message box: one that comes up, such as that of a failing exercise, ends it.
 class gallery_desktop : public desktop {
 public:
     float seconds_since_midnight() const override { return 0; }
+    box_answer ask(const std::string& text, const std::string&, box_buttons) override { throw failure{text}; }
 };
 
 // A list of the catalogue that offers a generator, and its place in it.
@@ -85,7 +87,7 @@ std::optional<offer> find_offer(oefening_id generator) {
 class gallery {
 public:
     explicit gallery(const options& chosen) : chosen_(chosen), folder_(QString::fromStdString(chosen.out)) {
-        if (!folder_.mkpath(".")) throw cannot_write{"cannot make the folder " + chosen_.out};
+        if (!folder_.mkpath(".")) throw failure{"cannot make the folder " + chosen_.out};
     }
 
     void write(oefening_id generator, bool also_blank) {
@@ -133,7 +135,7 @@ private:
                 .arg(variant, 2, 10, QChar('0'))
                 .arg(moment);
         if (!page().grab().save(folder_.filePath(file), "PNG"))
-            throw cannot_write{"cannot write " + folder_.filePath(file).toStdString()};
+            throw failure{"cannot write " + folder_.filePath(file).toStdString()};
     }
 
     const options& chosen_;
@@ -163,7 +165,7 @@ int main(int argc, char** argv) {
         std::cerr << "exercise_gallery: " << error.message << "\n"
                   << "usage: exercise_gallery --out DIR [--generator NAME]... [--seed S] [--scale F]\n";
         return 2;
-    } catch (const cannot_write& error) {
+    } catch (const failure& error) {
         std::cerr << "exercise_gallery: " << error.message << "\n";
         return 1;
     }

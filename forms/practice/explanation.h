@@ -16,8 +16,8 @@ namespace cijferwerf {
 //     LINE_x_y_dx_dy_colour_kind_style            kind B a box, BF a filled one; a box with dy 0 is a line
 //     BREUK1_x_y_whole_numerator_denominator      a white mixed number; the bar is drawn by a LINE
 //     TELLERSNOEMERS_x_y_number_ (four times)     numbers in the colour and size that are set
-//     DOORSTREPEN_x_y_px_py_value                 a red stroke of 300 units, and the value that replaces what it
-//     strikes PARTJES_x_y_n_                              n spokes that cut a circle with radius 770 into equal slices
+//     DOORSTREPEN_x_y_px_py_value                 a red stroke of 300 units, and the value written in its place
+//     PARTJES_x_y_n_                              n spokes that cut a circle with radius 770 into equal slices
 //
 // A missing or malformed number reads as 0, a colour outside 0 to 15 is wrapped, places are held within a million
 // units and sizes within 1 to 200 points. Any other keyword, or a line without "_", draws nothing.

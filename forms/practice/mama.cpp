@@ -279,12 +279,7 @@ void mama::knop_click(int i) {
     bericht[0].caption = oordelen[i - 1][right - 1];
 
     if (i == right) {
-        uitleg_bericht.caption = "UITLEG";
-        uitleg_bericht.colour = bericht[0].colour = kleur_goed;
-        presentatielijst.enabled = true;
-        uitleggeven.visible = true;
-        for (int j = 1; j <= 4; ++j) keuze_uit(j);
-        focus = &uitleggeven;
+        rond_af();
         return;
     }
     uitleg_bericht.caption = "BERICHT";
@@ -301,6 +296,16 @@ void mama::knop_click(int i) {
         bericht[1].caption = nog_een_over[i - 1];
     }
     keuze_uit(i);
+}
+
+// The exercise has ended, by the right answer or by the clock: what is left is its explanation, or the next title.
+void mama::rond_af() {
+    uitleg_bericht.caption = "UITLEG";
+    uitleg_bericht.colour = bericht[0].colour = kleur_goed;
+    for (int i = 1; i <= 4; ++i) keuze_uit(i);
+    presentatielijst.enabled = true;
+    if (!uitleggeven.visible) focus = &uitleggeven; // the clock leaves a pupil be who answered and went on
+    uitleggeven.visible = true;
 }
 
 void mama::keuze_uit(int i) { knop[i].enabled = alternatief[i].enabled = false; }
@@ -344,15 +349,10 @@ void mama::Timer1_tick() {
     plaatje.fore_colour = geel;
     plaatje.print_at(1800, 1500, "Jammer....!");
     Timer1.stop();
-    for (int j = 1; j <= 4; ++j) keuze_uit(j);
     pogingen = 4;
     ++globalen_.goed_poging_4;
-    uitleggeven.visible = true;
-    uitleg_bericht.caption = "UITLEG";
-    uitleg_bericht.colour = bericht[0].colour = kleur_goed;
     bericht[0].caption.clear();
-    presentatielijst.enabled = true;
-    focus = &uitleggeven;
+    rond_af();
 }
 
 // ---- leaving ----

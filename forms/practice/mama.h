@@ -61,6 +61,7 @@ private:
     void toon_berichten(const tekstregels& lines, kleur colour);
     void plaats_antwoorden();
     void toon_rekenmachine(bool shown);
+    void rond_af();
     void keuze_uit(int i);
 
     formulieren& forms_;

@@ -19,6 +19,7 @@ public:
         add(lijst, "lijst", {200, 2000, 3000, 3000}, list);
         add(links, "links", {4000, 200, 2000, 1000}, choice, "links");
         add(rechts, "rechts", {4000, 1400, 2000, 1000}, choice, "rechts");
+        add(uitgang, "uitgang", {6500, 200, 2000, 1000}, action, "uitgang");
         add(plaatje, "plaatje", {4000, 3000, drawing::inner_width, drawing::inner_height}, picture);
         add(klok, "klok", 20);
         lijst.items = {"eerste", "tweede", "derde"};
@@ -32,6 +33,7 @@ public:
         };
         lijst.click = [this] { log += "lijst" + std::to_string(lijst.selected) + " "; };
         lijst.keypress = [this](int key) { log += "toets" + std::to_string(key) + " "; };
+        uitgang.click = [this] { log += "uitgang "; };
         links.click = [this] { log += rechts.selected ? "beide " : "links "; };
         klok.tick = [this] {
             log += busy ? "TIK-BINNENIN " : "tik ";
@@ -43,7 +45,7 @@ public:
 
     frame grond;
     label tekst, klik;
-    button knop;
+    button knop, uitgang;
     list_box lijst;
     option_button links, rechts;
     picture_box plaatje;
@@ -110,8 +112,13 @@ TEST_F(events, keys_go_to_the_list_the_form_or_the_focused_button) {
     EXPECT_EQ(screen.log, "toets13 knop klik knop ");
     EXPECT_EQ(screen.lijst.selected, 1);
 
+    widget("uitgang").setFocus();
+    type(outside, screen, Qt::Key_Return); // but an action button keeps Enter
+    EXPECT_EQ(screen.log, "toets13 knop klik knop uitgang ");
+
     screen.knop.keys.clear();
     screen.log.clear();
+    widget("klik").setFocus();
     type(outside, screen, Qt::Key_Return);
     widget("links").setFocus();
     type(outside, screen, Qt::Key_Return);
@@ -132,6 +139,23 @@ TEST_F(events, a_list_entry_is_selected_before_its_click_is_handled) {
     auto& list = widget<QListWidget>("lijst");
     click(*list.viewport(), list.visualItemRect(list.item(2)).center());
     EXPECT_EQ(screen.log, "lijst2 ");
+}
+
+TEST_F(events, the_second_half_of_a_double_click_is_not_for_the_screen_that_the_first_opened) {
+    const auto second_half = [](QWidget& on, QPoint at) {
+        for (const auto type : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
+            QMouseEvent event(type, at, on.mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, {});
+            QApplication::sendEvent(&on, &event);
+        }
+    };
+    auto& list = widget<QListWidget>("lijst");
+    second_half(widget("knop"), {5, 5});
+    second_half(widget("klik"), {5, 5});
+    second_half(*list.viewport(), list.visualItemRect(list.item(1)).center());
+    EXPECT_EQ(screen.log, "");
+    click(widget("knop"));
+    second_half(widget("knop"), {5, 5});
+    EXPECT_EQ(screen.log, "knop knop ");
 }
 
 TEST_F(events, at_most_one_option_is_selected) {

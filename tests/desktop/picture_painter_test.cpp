@@ -6,6 +6,7 @@
 #include <QFontMetricsF>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace cijferwerf {
@@ -71,6 +72,19 @@ TEST(picture_box, a_flat_box_is_still_a_line) {
     EXPECT_EQ(count(image, blauw), 300);
 }
 
+TEST(picture_box, a_flat_outline_has_the_gaps_of_its_style) {
+    drawing shown;
+    shown.style = line_style::dot;
+    shown.box(150, 300, 4500, 0, rood);
+    shown.box(150, 600, 0, 1200, blauw);
+    for (const double scale : {1.0, 1.37, 2.0, 3.0}) {
+        const QImage image = painted(shown, scale);
+        EXPECT_LT(count(image, wit), image.width() * image.height());
+        EXPECT_LT(count(image, rood), 0.8 * 300 * scale * std::floor(scale)) << scale;
+        EXPECT_LT(count(image, blauw), 0.8 * 80 * scale * std::floor(scale)) << scale;
+    }
+}
+
 TEST(picture_box, lines_along_the_axes_are_sharp) {
     drawing shown;
     shown.line(150, 300, 4650, 300, rood);
@@ -78,6 +92,10 @@ TEST(picture_box, lines_along_the_axes_are_sharp) {
     EXPECT_EQ(count(painted(shown, 2), rood), 600 * 2);
     shown.clear();
     shown.line_width = 3;
+    shown.line(1500, 150, 1500, 1650, groen);
+    EXPECT_EQ(count(painted(shown), groen), 100 * 3);
+    shown.clear();
+    shown.style = line_style::dot; // not of a line as wide as this
     shown.line(1500, 150, 1500, 1650, groen);
     EXPECT_EQ(count(painted(shown), groen), 100 * 3);
     shown.clear();

@@ -103,6 +103,12 @@ TEST_F(practice_screen, stopping_asks_first) {
     EXPECT_EQ(seen, "Wil je echt stoppen?");
     EXPECT_TRUE(outside.page(screen)->window()->isVisible());
 
+    // A box that goes without an answer is no Yes.
+    answer_box("geen van beide", seen);
+    box_answer answer = box_answer::yes;
+    outside.run([&] { answer = outside.ask("Zeker weten?", "", box_buttons::yes_no); });
+    EXPECT_EQ(answer, box_answer::no);
+
     answer_box("Ja", seen);
     QTimer::singleShot(0, &widget<QAbstractButton>("stopteken"), &QAbstractButton::click);
     EXPECT_EQ(run_program(), 0);

@@ -417,6 +417,17 @@ TEST_F(quick, a_right_answer_does_not_stop_the_clock_but_the_explanation_does) {
     EXPECT_EQ(forms.globalen.goed_poging_4, 1);
 }
 
+TEST_F(quick, time_up_sends_to_the_explanation_only_who_was_still_at_it) {
+    pupil.wait(60'000);
+    EXPECT_EQ(screen.focus, &screen.uitleggeven);
+    present("snel!");
+    answer_right();
+    screen.focus = nullptr; // taken by the front end
+    pupil.wait(60'000);
+    EXPECT_EQ(screen.pogingen, 4);
+    EXPECT_EQ(screen.focus, nullptr);
+}
+
 TEST_F(quick, another_quick_exercise_gets_its_full_time) {
     pupil.wait(900);
     answer_right();
