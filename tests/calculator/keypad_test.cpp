@@ -1,111 +1,74 @@
 // The calculator as the practice screen carries it: its keys, its display and its message boxes.
-#include "forms/practice/mama.h"
-
-#include <functional>
-#include <gtest/gtest.h>
+#include "tests/support/practising.h"
 
 namespace cijferwerf {
 namespace {
 
-struct desk : outside {
-    void show(form&) override {}
-    void unload(form&) override {}
-    box_answer ask(const std::string& text, const std::string& title, box_buttons buttons) override {
-        EXPECT_EQ(buttons, box_buttons::ok);
-        asked = title + ": " + text;
-        return box_answer::ok;
-    }
-    print_result print(const report&) override { return {}; }
-    float seconds_since_midnight() const override {
-        if (when_seeding) when_seeding();
-        return 36000;
-    }
-    local_time now() const override { return {}; }
-    void end() override {}
-
-    std::string asked;
-    std::function<void()> when_seeding;
-};
-
-struct keypad : testing::Test {
-    keypad() {
-        forms.globalen.gekozen_pakket = "SOMMENWERF";
-        screen.show();
-        for (button& key : screen.k) key.visible = true; // as beside an exercise that asks for it
+class keypad : public practising {
+protected:
+    keypad() { present_with_calculator(true); }
+    // The clock is read when an exercise is made, and that is when one asks for the calculator.
+    void present_with_calculator(bool asked_for) {
+        pupil.when_clock_is_read = [=, this] { screen.hulpmiddel = asked_for ? "REKENMACHINE" : " "; };
+        open();
+        present("hele procenten");
     }
     void type(std::string_view keys) {
-        for (const char key : keys) EXPECT_TRUE(screen.press(key)) << key;
+        for (const char key : keys) EXPECT_TRUE(pupil.press(screen, key)) << key;
     }
-
-    desk outer;
-    formulieren forms{outer};
-    mama screen{outer, forms};
 };
 
 TEST_F(keypad, every_key_of_the_keyboard_presses_the_key_of_that_face) {
-    EXPECT_EQ(screen.display.caption, "0,");
-    type("1234567890");
-    EXPECT_EQ(screen.display.caption, "1234567890,");
-    type("\x1b"
-         "12.5*4\r");
-    EXPECT_EQ(screen.display.caption, "50,");
-    type("-0,5=");
-    EXPECT_EQ(screen.display.caption, "49,5");
-    type("M\x1b"
-         "200+10%=");
-    EXPECT_EQ(screen.display.caption, "220,");
-    type("/8=:5=");
-    EXPECT_EQ(screen.display.caption, "5,5");
-    type("XR=");
-    EXPECT_EQ(screen.display.caption, "272,25"); // 5,5 x 49,5
-    type("\x7fR");
-    EXPECT_EQ(screen.display.caption, "0,");
+    static constexpr std::pair<std::string_view, std::string_view> rows[]{
+        {"", "0,"},
+        {"1234567890", "1234567890,"},
+        {"\x1b"
+         "12.5*4\r",
+         "50,"},
+        {"-0,5=", "49,5"},
+        {"M\x1b"
+         "200+10%=",
+         "220,"},
+        {"/8=:5=", "5,5"},
+        {"XR=", "272,25"}, // 5,5 x 49,5
+        {"\x7fR", "0,"},
+    };
+    for (const auto& [keys, display] : rows) {
+        type(keys);
+        EXPECT_EQ(screen.display.caption, display) << keys;
+    }
 }
 
 TEST_F(keypad, what_goes_wrong_is_told_in_a_box_titled_with_the_course_set) {
     type("12345678901");
-    EXPECT_EQ(outer.asked, "SOMMENWERF: te veel cijfers");
     type("\x1b"
          "7/0=");
-    EXPECT_EQ(outer.asked, "SOMMENWERF: delen door nul kan niet!");
+    ASSERT_EQ(pupil.boxes.size(), 2U);
+    EXPECT_EQ(pupil.boxes[0].text, "te veel cijfers");
+    EXPECT_EQ(pupil.boxes[1].text, "delen door nul kan niet!");
+    EXPECT_EQ(pupil.boxes[1].title, "TELMORA's CIJFERLOOP");
+    EXPECT_EQ(pupil.boxes[1].buttons, box_buttons::ok);
     EXPECT_EQ(screen.display.caption, "7,");
 }
 
 TEST_F(keypad, what_was_worked_out_outlives_the_exercise) {
     type("5M\x1b");
-    screen.presentatielijst.items = {"een titel"};
-    screen.presentatielijst.selected = 0;
-    screen.presentatielijst_click();
-    screen.unload();
-    screen.show();
-    screen.k_click(18);
+    present_with_calculator(true);
+    type("R");
     EXPECT_EQ(screen.display.caption, "5,");
 }
 
-TEST_F(keypad, a_digit_typed_beside_an_exercise_does_not_answer_it) {
-    const auto present = [this] {
-        screen.unload();
-        screen.show();
-        screen.presentatielijst.selected = 0;
-        screen.presentatielijst_click();
-    };
-    forms.globalen.gekozen_pakket = booklet_set;
-    forms.globalen.gekozen_onderdeel = "boekje01";
-    // An exercise asks for the calculator while it is made, which is when it seeds its draws.
-    outer.when_seeding = [this] { screen.hulpmiddel = "REKENMACHINE"; };
-    present();
-    EXPECT_TRUE(screen.k[5].visible);
+TEST_F(keypad, a_digit_typed_beside_an_exercise_answers_it_only_without_a_calculator) {
     type("1234");
     EXPECT_EQ(screen.display.caption, "1234,");
     EXPECT_EQ(screen.pogingen, 0);
     type("A");
     EXPECT_EQ(screen.pogingen, 1);
 
-    outer.when_seeding = nullptr;
-    present();
+    present_with_calculator(false);
     EXPECT_FALSE(screen.k[5].visible);
     type("2");
-    EXPECT_EQ(screen.pogingen, 1) << "without a calculator digits answer";
+    EXPECT_EQ(screen.pogingen, 1);
 }
 
 } // namespace

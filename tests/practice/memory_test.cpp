@@ -1,10 +1,7 @@
 // A pupil's day must not cost more memory than a pupil's first minutes.
-#include "forms/practice/mama.h"
-
-#include "tests/support/fake_outside.h"
+#include "tests/support/practising.h"
 
 #include <fstream>
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 namespace cijferwerf {
@@ -16,24 +13,21 @@ long resident_kib() {
     return resident * (sysconf(_SC_PAGESIZE) / 1024);
 }
 
-TEST(memory, a_hundred_thousand_exercises_leave_it_where_a_thousand_did) {
+class memory : public practising {};
+
+TEST_F(memory, a_hundred_thousand_exercises_leave_it_where_a_thousand_did) {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "the sanitizer keeps what is freed";
 #endif
     if (resident_kib() == 0) GTEST_SKIP() << "this system does not tell";
-    fake_outside pupil;
-    formulieren forms(pupil);
-    forms.globalen.gekozen_pakket = booklet_set;
-    forms.globalen.gekozen_onderdeel = "boekje01";
-    mama& screen = forms.get<mama>();
-    screen.open();
+    open();
     const int titles = static_cast<int>(screen.presentatielijst.items.size());
     long early = 0;
     for (int i = 0; i < 100'000; ++i) {
         if (i == 1000) early = resident_kib();
         ASSERT_TRUE(pupil.pick(screen.presentatielijst, i % titles));
-        pupil.click(screen.knop[screen.juiste_letter[0] - 'A' + 1]);
-        pupil.click(screen.uitleggeven);
+        answer_right();
+        explain();
     }
     EXPECT_LE(resident_kib(), early + 512);
 }

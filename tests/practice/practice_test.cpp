@@ -1,11 +1,7 @@
 // The practice screen as a pupil goes through it, on a front end without a screen.
-#include "forms/practice/mama.h"
-
-#include "tests/support/fake_outside.h"
 #include "tests/support/operation_text.h"
+#include "tests/support/practising.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
 #include <set>
 
 namespace cijferwerf {
@@ -13,41 +9,16 @@ namespace {
 
 using lines = std::vector<std::string>;
 
-class practice : public testing::Test {
-protected:
-    practice() { open(booklet_set, "boekje01"); }
+lines captions(auto& labels) {
+    lines shown;
+    for (label& line : labels) shown.push_back(line.caption);
+    return shown;
+}
 
-    void open(std::string_view set, std::string_view key) {
-        forms.globalen.gekozen_pakket = set;
-        forms.globalen.gekozen_onderdeel = key;
-        screen.unload();
-        screen.kies("BOEKJE 1 - PROCENTEN", "", true);
-        screen.open();
-    }
-    int position(std::string_view title) const {
-        const auto& items = screen.presentatielijst.items;
-        return static_cast<int>(std::ranges::find(items, title) - items.begin());
-    }
-    bool present(std::string_view title) { return pupil.pick(screen.presentatielijst, position(title)); }
-    int right() const { return screen.juiste_letter[0] - 'A' + 1; }
-    bool answer(int i) { return pupil.click(screen.knop[i]); }
-    bool answer_right() { return answer(right()); }
-    // The n-th wrong button, from A on.
-    int wrong(int n) const {
-        int i = 1;
-        for (;; ++i)
-            if (i != right() && --n == 0) return i;
-    }
-    lines messages() {
-        lines shown;
-        for (label& line : screen.bericht) shown.push_back(line.caption);
-        return shown;
-    }
-    lines questions() {
-        lines shown;
-        for (label& line : screen.vraag) shown.push_back(line.caption);
-        return shown;
-    }
+class practice : public practising {
+protected:
+    practice() { open(); }
+
     // A record whose texts tell where they come from.
     void write_feedback(bool tips) {
         const auto fill = [](tekstregels& text, const std::string& name) {
@@ -68,8 +39,9 @@ protected:
         for (int i = 1; i <= 6; ++i) of.push_back(name + std::to_string(i));
         return of;
     }
-    lines six_messages() {
-        lines shown = messages();
+    // What stands under the verdict.
+    lines messages() {
+        lines shown = captions(screen.bericht);
         shown.erase(shown.begin());
         return shown;
     }
@@ -79,10 +51,6 @@ protected:
                 return false;
         return true;
     }
-
-    fake_outside pupil;
-    formulieren forms{pupil};
-    mama& screen = forms.get<mama>();
 };
 
 // ---- presenting ----
@@ -133,19 +101,8 @@ TEST_F(practice, an_open_exercise_locks_the_list_the_score_and_the_introduction)
     answer_right();
     EXPECT_TRUE(screen.presentatielijst.enabled);
     EXPECT_FALSE(screen.score.enabled || screen.info.enabled);
-    pupil.click(screen.uitleggeven);
+    explain();
     EXPECT_TRUE(screen.score.enabled && screen.info.enabled);
-}
-
-TEST_F(practice, info_is_not_for_the_task_set_nor_where_the_menu_forbids_it) {
-    open(task_set, "taak08");
-    EXPECT_FALSE(screen.info.visible);
-    open(booklet_set, "boekje01");
-    screen.kies("BOEKJE 1 - PROCENTEN", "", false);
-    present("rente");
-    answer_right();
-    pupil.click(screen.uitleggeven);
-    EXPECT_FALSE(screen.info.enabled);
 }
 
 TEST_F(practice, enter_presents_like_a_click_and_no_other_key_does) {
@@ -159,25 +116,25 @@ TEST_F(practice, enter_presents_like_a_click_and_no_other_key_does) {
 
 TEST_F(practice, nothing_of_the_exercise_before_is_left) {
     present("snel!");
-    answer(wrong(1));
+    answer(wrong());
     answer_right();
-    pupil.click(screen.uitleggeven);
+    explain();
     const int variant = screen.variant;
 
     // A title without a generator presents a blank record.
     screen.presentatielijst.items.emplace_back("onbekend");
     ASSERT_TRUE(present("onbekend"));
-    EXPECT_EQ(questions(), lines(7, " "));
-    EXPECT_EQ(messages(), lines(7, " "));
+    EXPECT_EQ(captions(screen.vraag), lines(7, " "));
+    EXPECT_EQ(captions(screen.bericht), lines(7, " "));
+    EXPECT_EQ(captions(screen.alternatief), lines(4, " "));
     EXPECT_EQ(as_texts(screen.plaatje), lines{});
     EXPECT_EQ(screen.plaatje.ground, wit);
     EXPECT_EQ(screen.pogingen, 0);
     EXPECT_EQ(screen.variant, variant + 1);
     EXPECT_EQ(screen.tijdlimiet, 0);
     EXPECT_FALSE(screen.Timer1.enabled);
-    for (int i = 1; i <= 4; ++i) EXPECT_EQ(screen.alternatief[i].caption, " ");
     answer_right();
-    pupil.click(screen.uitleggeven);
+    explain();
     EXPECT_EQ(forms.globalen.titellijst[1], "onbekend");
 }
 
@@ -200,28 +157,22 @@ TEST_F(practice, a_task_that_does_not_exist_has_an_empty_list_and_presents_nothi
     EXPECT_TRUE(choices_enabled({}));
 }
 
-TEST_F(practice, a_title_that_a_review_shows_twice_runs_the_same_exercise_from_both_places) {
-    screen.unload();
-    forms.globalen.gekozen_pakket = task_set;
-    forms.globalen.gekozen_onderdeel = "taak05";
+TEST_F(practice, a_review_runs_a_title_that_it_shows_twice_as_the_first_of_its_places_says) {
     screen.toeval.put_in({0.1F, 0.5F, 0.5F, 0.5F});
-    screen.open();
+    open(task_set, "taak05");
+    const int first = position("getallenlijn");
     const auto& titles = screen.presentatielijst.items;
-    const auto first = std::ranges::find(titles, "getallenlijn");
-    const auto second = std::find(first + 1, titles.end(), "getallenlijn");
+    const auto second = std::find(titles.begin() + first + 1, titles.end(), "getallenlijn");
     ASSERT_NE(second, titles.end());
-    for (const auto at : {first, second}) {
+    lines asked[2];
+    for (const bool again : {false, true}) {
         screen.variant = 0;
         screen.toeval.restart(5);
-        ASSERT_TRUE(pupil.pick(screen.presentatielijst, static_cast<int>(at - titles.begin())));
-        const lines asked = questions();
-        oefeningen alone([] { return 36'000.0F; });
-        alone.toeval.restart(5);
-        alone.maak(oefening_id::B_getallenlijn_11_01_click);
-        EXPECT_EQ(asked, lines(alone.vraagregels.begin(), alone.vraagregels.end()));
-        EXPECT_EQ(screen.antwoord_1, alone.antwoord_1);
+        ASSERT_TRUE(pupil.pick(screen.presentatielijst, again ? static_cast<int>(second - titles.begin()) : first));
+        asked[again] = captions(screen.vraag);
         answer_right();
     }
+    EXPECT_EQ(asked[0], asked[1]);
 }
 
 // ---- answering ----
@@ -247,7 +198,7 @@ TEST_F(practice, each_button_has_its_own_words_for_right_and_wrong) {
             EXPECT_EQ(screen.uitleg_bericht.caption, i == j ? "UITLEG" : "BERICHT");
             EXPECT_EQ(screen.uitleg_bericht.colour, i == j ? groen : rood);
             if (i != j) {
-                EXPECT_EQ(six_messages(), six(std::string("fout") + feedback[i - 1][j - 1] + "."));
+                EXPECT_EQ(messages(), six(std::string("fout") + feedback[i - 1][j - 1] + "."));
                 EXPECT_EQ(screen.bericht[6].colour, rood);
             }
             answer_right();
@@ -259,16 +210,16 @@ TEST_F(practice, comments_follow_the_answer_chosen_whatever_the_attempt) {
     write_feedback(false);
     screen.juiste_letter = "B";
     answer(4);
-    EXPECT_EQ(six_messages(), six("fout3."));
+    EXPECT_EQ(messages(), six("fout3."));
     EXPECT_FALSE(answer(4));
     answer(1);
-    EXPECT_EQ(six_messages(), six("fout2."));
+    EXPECT_EQ(messages(), six("fout2."));
     answer(3);
-    EXPECT_EQ(six_messages(), six("fout4."));
+    EXPECT_EQ(messages(), six("fout4."));
     EXPECT_TRUE(choices_enabled({2}));
     answer(2);
     EXPECT_EQ(screen.bericht[0].caption, "Goed!");
-    EXPECT_EQ(six_messages(), six("fout4."));
+    EXPECT_EQ(messages(), six("fout4."));
     EXPECT_EQ(screen.pogingen, 4);
 }
 
@@ -279,35 +230,26 @@ TEST_F(practice, tips_follow_the_attempt_and_end_with_the_words_of_the_third_but
         present("hele procenten");
         write_feedback(true);
         screen.juiste_letter = last == 1 ? "D" : "A";
-        lines shown;
         for (int i = 1; i <= 4; ++i)
             if (i != last && i != right()) {
                 answer(i);
-                EXPECT_EQ(six_messages(), six(screen.pogingen == 1 ? "tip1." : "tip2."));
+                EXPECT_EQ(messages(), six(screen.pogingen == 1 ? "tip1." : "tip2."));
             }
         answer(last);
         lines expected(6, " ");
         expected[0] = one_left[last - 1];
-        EXPECT_EQ(six_messages(), expected);
+        EXPECT_EQ(messages(), expected);
         EXPECT_EQ(screen.bericht[1].colour, rood);
         answer_right();
         EXPECT_EQ(screen.pogingen, 4);
     }
 }
 
-TEST_F(practice, an_empty_first_tip_is_a_tip) {
-    present("hele procenten");
-    write_feedback(true);
-    screen.tipregels_1.fill("");
-    answer(wrong(1));
-    EXPECT_EQ(six_messages(), lines(6, ""));
-}
-
 TEST_F(practice, an_answer_text_is_clicked_like_its_button_and_keys_answer_too) {
     present("hele procenten");
-    pupil.click(screen.alternatief[wrong(1)]);
+    pupil.click(screen.alternatief[wrong()]);
     EXPECT_EQ(screen.pogingen, 1);
-    EXPECT_FALSE(pupil.click(screen.alternatief[wrong(1)]));
+    EXPECT_FALSE(pupil.click(screen.alternatief[wrong()]));
     pupil.press(screen, static_cast<char>('0' + wrong(2)));
     EXPECT_EQ(screen.pogingen, 2);
     pupil.press(screen, screen.juiste_letter[0]);
@@ -322,14 +264,14 @@ TEST_F(practice, the_explanation_shows_six_lines_draws_and_scores_each_time_it_i
     present("hele procenten");
     write_feedback(false);
     screen.uitlegopdrachten = {"PRINT_10_20_1_8_x", " ", "PRINT_10_20_1_8_y", " ", " ", " ", " "};
-    answer(wrong(1));
+    answer(wrong());
     answer_right();
     const auto before = screen.plaatje.operations().size();
-    pupil.click(screen.uitleggeven);
-    EXPECT_EQ(six_messages(), six("uitleg."));
+    explain();
+    EXPECT_EQ(messages(), six("uitleg."));
     EXPECT_EQ(screen.bericht[3].colour, donkerblauw);
     EXPECT_EQ(screen.plaatje.operations().size(), before + 1);
-    pupil.click(screen.uitleggeven);
+    explain();
     EXPECT_EQ(forms.globalen.aantalvragengedaan, 2);
     EXPECT_EQ(forms.globalen.goed_poging_2, 2);
     EXPECT_EQ(forms.globalen.scoretabel[0], (std::array{0, 2, 0, 0}));
@@ -338,7 +280,7 @@ TEST_F(practice, the_explanation_shows_six_lines_draws_and_scores_each_time_it_i
 TEST_F(practice, activation_blanks_the_score_and_showing_again_does_not) {
     present("rente");
     answer_right();
-    pupil.click(screen.uitleggeven);
+    explain();
     pupil.click(screen.score);
     EXPECT_EQ(screen.score_bekeken, "ja");
     screen.show();
@@ -352,15 +294,9 @@ TEST_F(practice, activation_blanks_the_score_and_showing_again_does_not) {
 
 class quick : public practice {
 protected:
-    quick() {
+    quick() { start(); }
+    void start() {
         present("snel!");
-        limit = screen.tijdlimiet;
-        drawn_before = screen.plaatje.operations().size();
-    }
-    void five_ticks() {
-        answer_right();
-        present("snel!");
-        screen.tijdlimiet = 5;
         drawn_before = screen.plaatje.operations().size();
     }
     lines drawn_since() {
@@ -368,14 +304,15 @@ protected:
         all.erase(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(drawn_before));
         return all;
     }
-    int limit = 0;
     std::size_t drawn_before = 0;
 };
 
 TEST_F(quick, the_bar_is_drawn_yellow_and_filled_black_tick_by_tick) {
-    EXPECT_EQ(limit, 12);
+    EXPECT_EQ(screen.tijdlimiet, 12);
     EXPECT_EQ(as_texts(screen.plaatje).back(), "filled box 1500,1100 2200x300 colour 14 width 1 style 0");
-    five_ticks();
+    answer_right();
+    start();
+    screen.tijdlimiet = 5;
     pupil.wait(4999);
     EXPECT_EQ(drawn_since(), (lines{"filled box 2200,1100 200x350 colour 0 width 1 style 6",
                                     "filled box 2200,1100 400x350 colour 0 width 1 style 6",
@@ -385,17 +322,17 @@ TEST_F(quick, the_bar_is_drawn_yellow_and_filled_black_tick_by_tick) {
 }
 
 TEST_F(quick, time_up_ends_it_as_a_fourth_attempt_and_its_explanation_counts_once_more) {
-    answer(wrong(1));
+    answer(wrong());
     answer(wrong(2));
     pupil.wait(60'000);
     EXPECT_EQ(screen.pogingen, 4);
-    EXPECT_EQ(screen.tijdteller, limit);
+    EXPECT_EQ(screen.tijdteller, screen.tijdlimiet);
     EXPECT_TRUE(choices_enabled({}));
     EXPECT_EQ(forms.globalen.goed_poging_4, 1);
     EXPECT_EQ(screen.uitleg_bericht.caption, "UITLEG");
     EXPECT_EQ(screen.bericht[0].caption, "");
     EXPECT_TRUE(screen.presentatielijst.enabled && screen.uitleggeven.visible);
-    pupil.click(screen.uitleggeven);
+    explain();
     EXPECT_EQ(forms.globalen.goed_poging_4, 2);
     EXPECT_EQ(forms.globalen.scoretabel[0], (std::array{0, 0, 0, 1}));
     EXPECT_EQ(forms.globalen.aantalvragengedaan, 1);
@@ -405,7 +342,7 @@ TEST_F(quick, a_right_answer_does_not_stop_the_clock_but_the_explanation_does) {
     answer_right();
     pupil.wait(2000);
     EXPECT_EQ(screen.tijdteller, 2);
-    pupil.click(screen.uitleggeven);
+    explain();
     pupil.wait(60'000);
     EXPECT_EQ(screen.tijdteller, 2);
     EXPECT_EQ(forms.globalen.goed_poging_4, 0);
@@ -436,21 +373,6 @@ TEST_F(quick, another_quick_exercise_gets_its_full_time) {
     EXPECT_EQ(screen.tijdteller, 0);
     pupil.wait(50);
     EXPECT_EQ(screen.tijdteller, 1);
-}
-
-TEST_F(quick, asking_to_stop_and_going_on_changes_nothing_and_loses_no_second) {
-    pupil.while_box_is_open = [this] { pupil.wait(3000); };
-    pupil.answers = {box_answer::no, box_answer::yes};
-    pupil.click(screen.stopteken);
-    ASSERT_EQ(pupil.boxes.size(), 1U);
-    EXPECT_EQ(pupil.boxes[0].text, "Wil je echt stoppen?");
-    EXPECT_EQ(pupil.boxes[0].buttons, box_buttons::yes_no);
-    pupil.wait(50);
-    EXPECT_FALSE(pupil.ended);
-    EXPECT_EQ(screen.tijdteller, 3);
-    EXPECT_TRUE(choices_enabled({1, 2, 3, 4}));
-    screen.close_requested();
-    EXPECT_TRUE(pupil.ended);
 }
 
 // ---- leaving ----

@@ -1,12 +1,10 @@
 // The score: its sheet, its report on paper, and the ways out of the practice screen beside it.
-#include "forms/practice/mama.h"
 #include "forms/practice/score_report.h"
 #include "forms/practice/scoreblad.h"
 #include "forms/shell/menu.h"
 
-#include "tests/support/fake_outside.h"
+#include "tests/support/practising.h"
 
-#include <gtest/gtest.h>
 #include <sstream>
 
 namespace cijferwerf {
@@ -79,27 +77,17 @@ TEST(score_report, has_a_row_for_every_title_that_ended_at_some_attempt_in_the_o
     EXPECT_EQ(printed.back(), "9| 0:t98 30:0 35:1 40:0 45:0");
 }
 
-class score : public testing::Test {
+class score : public practising {
 protected:
-    score() {
-        forms.globalen.gekozen_pakket = booklet_set;
-        forms.globalen.gekozen_onderdeel = "boekje01";
-        screen.kies("BOEKJE 1 - PROCENTEN", std::string(booklet_set), true);
-        screen.open();
-    }
-    int right() const { return screen.juiste_letter[0] - 'A' + 1; }
-    void present(int position = 8) { ASSERT_TRUE(pupil.pick(screen.presentatielijst, position)); }
-    void answer_wrong() { ASSERT_TRUE(pupil.click(screen.knop[right() % 4 + 1])); }
-    void answer_right() { ASSERT_TRUE(pupil.click(screen.knop[right()])); }
-    void explain() { ASSERT_TRUE(pupil.click(screen.uitleggeven)); }
+    score() { open(); }
     lines values() const {
         return {sheet.aantal_label.caption, sheet.nulfout_label.caption, sheet.eenfout_label.caption,
                 sheet.tweefout_label.caption};
     }
 
-    fake_outside pupil;
-    formulieren forms{pupil};
-    mama& screen = forms.get<mama>();
+    // Goes past the time of the exercise that is open.
+    void time_out() { pupil.wait(1000 * screen.tijdlimiet); }
+
     scoreblad& sheet = forms.get<scoreblad>();
 };
 
@@ -111,8 +99,8 @@ TEST_F(score, the_sheet_shows_the_counts_of_the_moment_it_is_opened) {
     EXPECT_EQ(sheet.caption, "SCORE");
     EXPECT_EQ(values(), (lines{" 0", " 0", " 0", " 0"}));
 
-    present();
-    answer_wrong();
+    present("rente");
+    answer(wrong());
     answer_right();
     explain();
     EXPECT_EQ(values(), (lines{" 0", " 0", " 0", " 0"}));
@@ -125,22 +113,20 @@ TEST_F(score, the_sheet_shows_the_counts_of_the_moment_it_is_opened) {
 
 TEST_F(score, the_sheet_beside_an_exercise_leaves_it_as_it_is) {
     pupil.click(screen.score);
-    present(5); // against the clock
-    ASSERT_GT(screen.tijdlimiet, 3);
+    present("snel!");
     pupil.wait(2000);
-    answer_wrong();
+    answer(wrong());
     pupil.close(sheet);
     EXPECT_FALSE(sheet.loaded());
-    EXPECT_EQ(screen.pogingen, 1);
-    EXPECT_EQ(screen.tijdteller, 2);
     pupil.wait(1000);
+    EXPECT_EQ(screen.pogingen, 1);
     EXPECT_EQ(screen.tijdteller, 3);
     EXPECT_FALSE(pupil.ended);
 }
 
 TEST_F(score, a_time_out_that_is_explained_counts_twice_in_the_fourth_total_and_once_for_its_title) {
-    present(5);
-    pupil.wait(1000 * screen.tijdlimiet);
+    present("snel!");
+    time_out();
     explain();
     pupil.click(screen.score);
     EXPECT_EQ(values(), (lines{" 1", " 0", " 0", " 0"}));
@@ -168,12 +154,11 @@ TEST_F(score, printing_that_does_not_succeed_says_why) {
 }
 
 TEST_F(score, the_sheets_own_diagnostic_tells_the_count) {
-    present();
+    present("rente");
     answer_right();
     explain();
     explain();
     pupil.click(screen.score);
-    EXPECT_EQ(sheet.Command1.caption, "aantalopgavengedaan");
     pupil.click(sheet.Command1);
     EXPECT_EQ(pupil.boxes.at(0).text, "aantalvragengedaan = 2");
 }
@@ -185,36 +170,19 @@ protected:
     // Runs the check at every moment of an exercise, each on a screen of its own.
     template<class Check>
     void at_every_moment(Check check) {
-        const std::vector<std::pair<const char*, std::function<void()>>> moments{
-            {"nothing presented", [] {}},
-            {"before an answer", [this] { present(5); }},
-            {"after a wrong one",
-             [this] {
-                 present(5);
-                 answer_wrong();
-             }},
-            {"after the right one",
-             [this] {
-                 present(5);
-                 answer_right();
-             }},
-            {"after the explanation",
-             [this] {
-                 present(5);
-                 answer_right();
-                 explain();
-             }},
-            {"after a time-out",
-             [this] {
-                 present(5);
-                 pupil.wait(1000 * screen.tijdlimiet);
-             }},
+        const auto asked = [this] { present("snel!"); };
+        const auto wronged = [=, this] { asked(), answer(wrong()); };
+        const auto righted = [=, this] { asked(), answer_right(); };
+        const auto explained = [=, this] { righted(), explain(); };
+        const auto timed_out = [=, this] { asked(), time_out(); };
+        const std::pair<const char*, std::function<void()>> moments[]{
+            {"nothing presented", [] {}},     {"before an answer", asked},     {"after a wrong one", wronged},
+            {"after the right one", righted}, {"after a time-out", timed_out}, {"after the explanation", explained},
         };
         for (const auto& [name, reach] : moments) {
             SCOPED_TRACE(name);
-            screen.unload();
             pupil.boxes.clear();
-            screen.open();
+            open();
             reach();
             check(std::string(name));
         }
@@ -234,8 +202,7 @@ TEST_F(leaving, back_goes_to_the_menu_unasked_and_takes_clock_and_sheet_along) {
         EXPECT_EQ(forms.globalen.goed_poging_4, ended);
         forms.get<menucl>().unload();
     });
-    forms.globalen.gekozen_pakket = task_set;
-    screen.open();
+    open(task_set, "taak01");
     pupil.click(screen.terug);
     EXPECT_TRUE(forms.get<menusw>().loaded());
 }

@@ -1,67 +1,59 @@
 // From the start to the practice screen: the choice of a set, the credits, the menus, and the ways to stop.
 #include "forms/introduction/infoscherm.h"
-#include "forms/practice/mama.h"
 #include "forms/shell/achtergrond.h"
 #include "forms/shell/codering.h"
 #include "forms/shell/colofon.h"
 #include "forms/shell/marks.h"
 #include "forms/shell/menu.h"
 
-#include "tests/support/fake_outside.h"
 #include "tests/support/operation_text.h"
+#include "tests/support/practising.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
 #include <set>
+#include <sstream>
 
 namespace cijferwerf {
 namespace {
 
-constexpr const char* boekjes[]{
-    "BOEKJE 1 - PROCENTEN",
-    "BOEKJE 2 - VERHOUDINGEN",
-    "BOEKJE 3 - BREUKEN",
-    "BOEKJE 4 - GRAFIEKEN",
-    "BOEKJE 5 - GELD",
-    "BOEKJE 6 - TIJD",
-    "BOEKJE 7 - METEN EN MEETKUNDE (1)",
-    "BOEKJE 8 - METEN EN MEETKUNDE (2)",
-    "BOEKJE 9 - HOOFDREKENEN",
-    "BOEKJE 10 - SCHATTEN",
-    "BOEKJE 11 - GETALKENNIS",
-    "BOEKJE 12 - CIJFEREN",
-};
-constexpr const char* taken[]{
-    "TAAK 1 - GETALLEN",
-    "TAAK 2 - VERMENIGVULDIGEN EN DELEN",
-    "TAAK 3 - BREUKEN (1)",
-    "TAAK 4 - TIJD",
-    "HERHALING TAAK 1 t/m 4",
-    "TAAK 6 - KOMMAGETALLEN",
-    "TAAK 7 - GELD",
-    "TAAK 8 - PROCENTEN",
-    "TAAK 9 - LENGTEMATEN",
-    "HERHALING TAAK 6 t/m 9",
-    "TAAK 11 - MACHTSVERHEFFEN",
-    "TAAK 12 - OMTREK EN OPPERVLAKTE",
-    "TAAK 13 - DE CIRKEL",
-    "TAAK 14 - BREUKEN (2)",
-    "HERHALING TAAK 11 t/m 14",
-    "TAAK 16 - VERHOUDINGEN",
-    "TAAK 17 - INHOUD EN GEWICHT",
-    "TAAK 18 - GETALLEN IN BEELD",
-    "TAAK 19 - MATEN EN METEN",
-    "HERHALING TAAK 16 t/m 19",
-};
+constexpr const char* boekjes[]{"BOEKJE 1 - PROCENTEN",
+                                "BOEKJE 2 - VERHOUDINGEN",
+                                "BOEKJE 3 - BREUKEN",
+                                "BOEKJE 4 - GRAFIEKEN",
+                                "BOEKJE 5 - GELD",
+                                "BOEKJE 6 - TIJD",
+                                "BOEKJE 7 - METEN EN MEETKUNDE (1)",
+                                "BOEKJE 8 - METEN EN MEETKUNDE (2)",
+                                "BOEKJE 9 - HOOFDREKENEN",
+                                "BOEKJE 10 - SCHATTEN",
+                                "BOEKJE 11 - GETALKENNIS",
+                                "BOEKJE 12 - CIJFEREN"};
+constexpr const char* taken[]{"TAAK 1 - GETALLEN",
+                              "TAAK 2 - VERMENIGVULDIGEN EN DELEN",
+                              "TAAK 3 - BREUKEN (1)",
+                              "TAAK 4 - TIJD",
+                              "HERHALING TAAK 1 t/m 4",
+                              "TAAK 6 - KOMMAGETALLEN",
+                              "TAAK 7 - GELD",
+                              "TAAK 8 - PROCENTEN",
+                              "TAAK 9 - LENGTEMATEN",
+                              "HERHALING TAAK 6 t/m 9",
+                              "TAAK 11 - MACHTSVERHEFFEN",
+                              "TAAK 12 - OMTREK EN OPPERVLAKTE",
+                              "TAAK 13 - DE CIRKEL",
+                              "TAAK 14 - BREUKEN (2)",
+                              "HERHALING TAAK 11 t/m 14",
+                              "TAAK 16 - VERHOUDINGEN",
+                              "TAAK 17 - INHOUD EN GEWICHT",
+                              "TAAK 18 - GETALLEN IN BEELD",
+                              "TAAK 19 - MATEN EN METEN",
+                              "HERHALING TAAK 16 t/m 19"};
 
 std::string one_line(std::string caption) {
     std::ranges::replace(caption, '\r', ' ');
     return caption;
 }
 
-std::string key(const std::string& kind, int i) { return kind + (i < 10 ? "0" : "") + std::to_string(i); }
-
-class shell : public testing::Test {
+class shell : public practising {
 protected:
     void choose(std::string_view set) {
         start.open();
@@ -82,13 +74,26 @@ protected:
         return loaded;
     }
 
-    fake_outside pupil;
-    formulieren forms{pupil};
+    // Opens every entry of a menu and comes back to the start each time.
+    template<class Check>
+    void at_every_entry(menu& of, auto& entries, Check check) {
+        const std::string_view set = &of == &cl ? booklet_set : task_set;
+        for (int i = 0; button & entry : entries) {
+            SCOPED_TRACE(entry.caption);
+            open_menu(set);
+            pupil.click(entry);
+            EXPECT_EQ(on_screen(), names{"mama"});
+            check(++i);
+            pupil.click(screen.terug);
+            EXPECT_EQ(on_screen(), names{of.name()});
+            pupil.click(of.terug);
+        }
+    }
+
     GLOBALEN& globalen = forms.globalen;
     codering& start = forms.get<codering>();
     menucl& cl = forms.get<menucl>();
     menusw& sw = forms.get<menusw>();
-    mama& screen = forms.get<mama>();
 };
 
 TEST_F(shell, the_background_form_brings_up_the_start_form_once) {
@@ -149,40 +154,24 @@ TEST_F(shell, the_keyboard_alone_reaches_the_menu_and_the_last_choice_counts) {
     EXPECT_EQ(sw.focus, &sw.plaatje[1]);
 }
 
-TEST_F(shell, every_booklet_opens_the_practice_screen_under_its_own_heading) {
-    for (int i = 1; i <= 12; ++i) {
-        open_menu(booklet_set);
-        const std::string heading = boekjes[i - 1];
-        EXPECT_EQ(one_line(cl.boekje[i].caption), heading);
-        pupil.click(cl.boekje[i]);
-        EXPECT_EQ(on_screen(), names{"mama"});
-        EXPECT_EQ(globalen.gekozen_onderdeel, key("boekje", i));
+TEST_F(shell, every_entry_opens_the_practice_screen_under_its_own_heading_and_only_a_review_has_no_info) {
+    const auto opened = [this](std::string_view set, std::string_view kind, int i, const char* heading) {
+        EXPECT_EQ(globalen.gekozen_onderdeel, regel(kind, i < 10 ? "0" : "", kaal(i)));
         EXPECT_EQ(screen.opschriftbalk.caption, heading);
-        EXPECT_EQ(screen.caption, "TELMORA's CIJFERLOOP");
-        EXPECT_TRUE(screen.info.enabled && screen.info.visible);
+        EXPECT_EQ(screen.caption, set);
+        EXPECT_EQ(screen.info.visible, set == booklet_set);
         EXPECT_FALSE(screen.presentatielijst.items.empty());
-        pupil.click(screen.terug);
-        EXPECT_EQ(on_screen(), names{"menucl"});
-        pupil.click(cl.terug);
-    }
-}
-
-TEST_F(shell, every_task_opens_the_practice_screen_and_only_a_review_has_no_info) {
-    for (int i = 1; i <= 20; ++i) {
-        open_menu(task_set);
-        const std::string heading = taken[i - 1];
-        EXPECT_EQ(one_line(sw.plaatje[i].caption), heading);
-        pupil.click(sw.plaatje[i]);
-        EXPECT_EQ(on_screen(), names{"mama"});
-        EXPECT_EQ(globalen.gekozen_onderdeel, key("taak", i));
-        EXPECT_EQ(screen.opschriftbalk.caption, heading);
-        EXPECT_EQ(screen.caption, "SOMMENWERF");
-        EXPECT_EQ(screen.info.enabled, i % 5 != 0) << heading;
-        EXPECT_FALSE(screen.presentatielijst.items.empty());
-        pupil.click(screen.terug);
-        EXPECT_EQ(on_screen(), names{"menusw"});
-        pupil.click(sw.terug);
-    }
+    };
+    at_every_entry(cl, cl.boekje, [&](int i) {
+        opened("TELMORA's CIJFERLOOP", "boekje", i, boekjes[i - 1]);
+        EXPECT_EQ(one_line(cl.boekje[i].caption), boekjes[i - 1]);
+        EXPECT_TRUE(screen.info.enabled);
+    });
+    at_every_entry(sw, sw.plaatje, [&](int i) {
+        opened("SOMMENWERF", "taak", i, taken[i - 1]);
+        EXPECT_EQ(one_line(sw.plaatje[i].caption), taken[i - 1]);
+        EXPECT_EQ(screen.info.enabled, i % 5 != 0);
+    });
 }
 
 TEST_F(shell, an_index_outside_picks_nothing) {
@@ -194,21 +183,6 @@ TEST_F(shell, an_index_outside_picks_nothing) {
         EXPECT_EQ(screen.opschriftbalk.caption, "") << i;
         EXPECT_EQ(on_screen(), names{"menucl"}) << i;
     }
-}
-
-TEST_F(shell, picking_a_booklet_again_blanks_the_score) {
-    open_menu(booklet_set);
-    pupil.click(cl.boekje[1]);
-    pupil.pick(screen.presentatielijst, 0);
-    pupil.click(screen.knop[screen.juiste_letter[0] - 'A' + 1]);
-    pupil.click(screen.uitleggeven);
-    ASSERT_EQ(globalen.aantalvragengedaan, 1);
-    pupil.click(screen.terug);
-    pupil.click(cl.boekje[1]);
-    EXPECT_EQ(globalen.aantalvragengedaan, 0);
-    EXPECT_EQ(globalen.goed_poging_1, 0);
-    EXPECT_EQ(globalen.titellijst[0], "");
-    EXPECT_EQ(globalen.scoretabel[0][0], 0);
 }
 
 TEST_F(shell, closing_a_window_or_stopping_asks_first) {
@@ -239,36 +213,27 @@ TEST_F(shell, closing_a_window_or_stopping_asks_first) {
         }
 }
 
-TEST_F(shell, closing_the_background_form_ends_without_asking) {
-    pupil.close(forms.get<achtergrond>());
-    EXPECT_TRUE(pupil.ended);
-    EXPECT_TRUE(pupil.boxes.empty());
-}
-
-TEST_F(shell, the_booklet_menus_own_question_ignores_its_answer) {
+TEST_F(shell, the_background_form_ends_without_asking_and_the_booklet_menus_own_question_ends_nothing) {
     pupil.answers = {box_answer::yes};
     cl.bevestig_stoppen();
     EXPECT_EQ(pupil.boxes.at(0).text, "Wil je echt stoppen?");
     EXPECT_EQ(pupil.boxes.at(0).buttons, box_buttons::yes_no);
     EXPECT_FALSE(pupil.ended);
+    pupil.close(forms.get<achtergrond>());
+    EXPECT_TRUE(pupil.ended);
+    EXPECT_EQ(pupil.boxes.size(), 1U);
 }
 
 // ---- what the menus look like ----
 
 TEST_F(shell, every_line_of_an_entry_fits_on_its_button) {
-    const auto check = [](auto& entries) {
-        for (const button& entry : entries) {
+    for (const menu* shown : {static_cast<const menu*>(&cl), static_cast<const menu*>(&sw)})
+        for (const control* entry : shown->controls()) {
             constexpr int margin = 105;
-            std::string rest = entry.caption + '\r';
-            for (auto end = rest.find('\r'); end != std::string::npos; end = rest.find('\r')) {
-                EXPECT_LE(text_width(rest.substr(0, end), entry.font_size, 1.0), entry.width - 2 * margin)
-                    << entry.caption;
-                rest.erase(0, end + 1);
-            }
+            std::istringstream lines(entry->caption);
+            for (std::string line; std::getline(lines, line, '\r');)
+                EXPECT_LE(text_width(line, entry->font_size, 1.0), entry->width - 2 * margin) << line;
         }
-    };
-    check(cl.boekje);
-    check(sw.plaatje);
 }
 
 TEST_F(shell, no_two_controls_of_a_menu_overlap) {
@@ -304,9 +269,7 @@ TEST_F(shell, booklets_and_tasks_have_marks_of_their_own_and_reviews_share_one_a
 TEST_F(shell, an_introduction_speaks_of_its_booklet_and_7_and_8_share_one) {
     auto& info = forms.get<infoscherm>();
     std::set<std::string> texts;
-    for (int i = 1; i <= 12; ++i) {
-        open_menu(booklet_set);
-        pupil.click(cl.boekje[i]);
+    at_every_entry(cl, cl.boekje, [&](int i) {
         ASSERT_TRUE(pupil.click(screen.info));
         EXPECT_TRUE(info.loaded());
         EXPECT_EQ(info.opschriftbalk.caption, boekjes[i - 1]);
@@ -315,22 +278,18 @@ TEST_F(shell, an_introduction_speaks_of_its_booklet_and_7_and_8_share_one) {
             EXPECT_LE(text_width(line.caption, line.font_size, 1.0), line.width) << line.caption;
             text += line.caption;
         }
-        EXPECT_EQ(texts.contains(text), i == 8) << i;
-        texts.insert(text);
+        EXPECT_EQ(texts.insert(text).second, i != 8);
         pupil.click(info.sommen_maken);
         EXPECT_FALSE(info.loaded());
-        pupil.click(screen.terug);
-        pupil.click(cl.terug);
-    }
-    EXPECT_EQ(texts.size(), 11U);
+    });
 }
 
 TEST_F(shell, looking_at_the_introduction_leaves_score_and_exercise_as_they_are) {
     open_menu(booklet_set);
     pupil.click(cl.boekje[1]);
-    pupil.pick(screen.presentatielijst, 2);
-    pupil.click(screen.knop[screen.juiste_letter[0] - 'A' + 1]);
-    pupil.click(screen.uitleggeven);
+    present("hele procenten");
+    answer_right();
+    explain();
     const std::string asked = screen.vraag[2].caption;
     const auto drawn = screen.plaatje.operations().size();
     ASSERT_GT(drawn, 0U);

@@ -27,7 +27,7 @@ public:
     local_time date{2024, 3, 9, 14, 5};
     std::deque<box_answer> answers; // to the boxes that will open; without one: No, or OK
     print_result print_outcome;
-    std::function<void()> while_box_is_open;
+    std::function<void()> while_box_is_open, when_clock_is_read;
 
     // ---- what a pupil does; false when the screen does not let it happen ----
     bool click(control& clicked) {
@@ -82,7 +82,10 @@ public:
         printed.push_back(page);
         return print_outcome;
     }
-    float seconds_since_midnight() const override { return seconds; }
+    float seconds_since_midnight() const override {
+        if (when_clock_is_read) when_clock_is_read();
+        return seconds;
+    }
     local_time now() const override { return date; }
     void end() override { ended = true; }
 
