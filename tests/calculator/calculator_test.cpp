@@ -38,65 +38,40 @@ TEST(calculator, a_number_is_entered_with_at_most_ten_digits) {
     check({
         {"", "0,"},
         {"007", "7,"},
-        {"0,", "0,"},
-        {"0,0", "0,0"},
         {"0,05", "0,05"},
         {",5", "0,5"},
-        {"12,5", "12,5"},
         {"12,,5", "12,5"},
         {"1,2,5", "1,25"},
-        {"1234567890", "1234567890,"},
         {"12345678901", "1234567890,", too_many_digits},
         {"12345678900", "1234567890,", too_many_digits},
         {"1234567890,", "1234567890,"},
-        {"1234567890,1", "1234567890,", too_many_digits},
         {"123456789,0", "123456789,0"},
         {"123456789,01", "123456789,0", too_many_digits},
-        {"0,123456789", "0,123456789"},
         {"0,1234567891", "0,123456789", too_many_digits},
         {"12345678901 + 5", "5,"},
     });
-}
-
-TEST(calculator, a_comma_refused_at_ten_digits_is_forgotten) {
-    calculator full;
-    press(full, "1234567890,");
-    EXPECT_EQ(full.stand().komma_gezet, "nee");
 }
 
 TEST(calculator, results_are_those_of_a_pocket_calculator) {
     check({
         {"12,5 + 3 =", "15,5"},
         {"0,1 + 0,2 =", "0,3"},
-        {"1,1 x 1,1 =", "1,21"},
-        {"0,7 + 0,3 =", "1,"},
         {"99,99 + 0,01 =", "100,"},
-        {"1,15 - 0,15 =", "1,"},
         {"1000000000 - 0,1 =", "999999999,9"},
-        {"25 x 4 =", "100,"},
+        {"5 - 5 =", "0,"},
+        {"1,1 x 1,1 =", "1,21"},
         {"2,5 x 0,4 =", "1,"},
-        {"8 / 2 =", "4,"},
+        {"0 x 5 =", "0,"},
         {"1 / 8 =", "0,125"},
         {"100 / 8 =", "12,5"},
         {"0,5 / 0,25 =", "2,"},
-        {"144 / 12 =", "12,"},
         {"9876543210 / 9876543210 =", "1,"},
-        {"0 x 5 =", "0,"},
         {"0 / 5 =", "0,"},
-        {"5 - 5 =", "0,"},
-    });
-}
-
-TEST(calculator, a_negative_result_is_shown_and_counted_on_with) {
-    check({
-        {"2 - 5 =", "-3,"},
-        {"2 - 2,5 =", "-0,5"},
+        {"2 - 2,5 =", "-0,5"}, // and a negative one is counted on with
         {"0,25 - 2 =", "-1,75"},
-        {"2 - 5 = x 4 =", "-12,"},
         {"2 - 2,5 = x 4 =", "-2,"},
         {"2 - 2,5 = + 1 =", "0,5"},
         {"2 - 5 = + 3 =", "0,"},
-        {"2 - 5 = / 4 =", "-0,75"},
         {"4 M C 2 - 5 = / R =", "-0,75"},
         {"2 - 5 = M x R =", "9,"},
         {"2 - 5 = M 12 - R =", "0,"}, // the 12 is ignored: -3 is a result still
@@ -105,30 +80,19 @@ TEST(calculator, a_negative_result_is_shown_and_counted_on_with) {
     });
 }
 
-TEST(calculator, too_many_decimals_are_cut_and_not_rounded) {
+TEST(calculator, too_many_decimals_are_cut_and_neither_rounded_nor_turned_into_an_exponent) {
     check({
         {"2 / 3 =", "0,666666666"},
-        {"20 / 3 =", "6,666666666"},
         {"1000000000 / 3 =", "333333333,3"},
         {"2 - 5 = / 9 =", "-0,33333333"},
         {"1 / 3 = x 3 =", "0,999999999"},
-        {"1 / 3 = / 3 = / 3 =", "0,037037037"},
-        {"0,999999999 x 0,999999999 =", "0,999999998"},
-        {"9999999998 / 9999999999 =", "0,999999999"},
         {"1,000000001 x 0,999999999 =", "0,999999999"}, // 0,999999999999999999
         {"9999999999 + 0,1 =", "9999999999,"},          // no place is left for a decimal
         {"123456789 + 0,04 =", "123456789,"},           // what is left is a decimal part of "0"
         {"12345678 + 0,004 =", "12345678,00"},
-    });
-}
-
-TEST(calculator, a_small_number_never_turns_into_an_exponent) {
-    check({
         {"0,001 x 0,001 =", "0,000001"},
-        {"0,00001 x 0,0001 =", "0,000000001"},
         {"0,000001 x 0,000001 =", "0,000000000"},
         {"1 / 1000000000 =", "0,000000001"},
-        {"1 / 3000000 =", "0,000000333"},
         {"1 / 9999999999 =", "0,000000000"},
         {"0 - 0,00001 = x 0,000001 =", "-0,00000000"},
         {"0,000001 x 0,000001 = + 5 =", "5,"},
@@ -145,27 +109,10 @@ TEST(calculator, a_result_past_ten_digits_is_refused_and_kept) {
         {"9999999999 + 1 = - 1 =", "9999999999,"},            // the next key counts on with what was kept
         {"9999999999 + 1 = 5", "1,", too_many_digits},
         {"9999999999 + 1 = C 5", "5,"},
+        {"9999999999 + 1 = + C = M R", "0,"}, // beneath a blank display it is gone at the next key
+        {"99999,5 x 999999,5 = M R", "99999450000,25"},
+        {"99999,5 x 999999,5 = M R / 100 =", "999994500,"}, // 999994500,0025 is cut to 999994500,0
     });
-
-    calculator overflown;
-    press(overflown, "99999,5 x 999999,5 =");
-    EXPECT_EQ(overflown.stand().invoer_geheel, "99999450000"); // 99999450000,25
-    EXPECT_EQ(overflown.stand().invoer_decimalen, "25");
-    EXPECT_EQ(overflown.stand().uitkomst_getoond, "ja");
-    EXPECT_EQ(overflown.stand().procent, "nee");
-    press(overflown, "M R");
-    EXPECT_EQ(overflown.display(), "99999450000,25");
-    press(overflown, "/ 100 =");
-    EXPECT_EQ(overflown.display(), "999994500,"); // 999994500,0025 is cut to 999994500,0
-}
-
-TEST(calculator, an_overflow_beneath_a_blank_display_is_forgotten_at_the_next_key) {
-    calculator pressed;
-    press(pressed, "9999999999 + 1 = + C =");
-    EXPECT_EQ(pressed.display(), "0,");
-    EXPECT_EQ(pressed.stand().invoer_geheel, "10000000000");
-    press(pressed, ",");
-    EXPECT_EQ(pressed.stand().invoer_geheel, "0");
 }
 
 TEST(calculator, squaring_for_ever_neither_ends_in_an_exponent_nor_in_endless_digits) {
@@ -184,15 +131,13 @@ TEST(calculator, squaring_for_ever_neither_ends_in_an_exponent_nor_in_endless_di
 
 TEST(calculator, per_cent_adds_and_waits_for_the_next_result) {
     check({
-        {"200 + 15 % =", "230,"},
         {"200 + 15 %", "15,"},
+        {"200 + 15 % =", "230,"},
         {"200 % + 15 =", "230,"},
         {"19,99 + 6 % =", "21,1894"},
-        {"0,1 + 10 % =", "0,11"},
         {"2 - 5 = + 50 % =", "-4,5"},
         {"200 + 15 % = + 15 =", "245,"}, // gone after "="
-        {"200 - 15 % =", "185,"},        // only plus looks at it
-        {"200 x 15 % =", "3000,"},
+        {"200 x 15 % =", "3000,"},       // only plus looks at it
         {"200 - 15 % = + 10 =", "195,"}, // and yet it is used up
         {"% C 200 + 15 =", "230,"},
         {"% A 200 + 15 =", "230,"}, // AC leaves it
@@ -206,7 +151,6 @@ TEST(calculator, an_operator_keeps_the_display_and_takes_over_the_entry) {
         {"12,5 + 3", "3,"},
         {"12,5 + ,", "12,5"},
         {"12,5 + ,3", "0,3"},
-        {"7 / 0", "7,"},
         {"7 / 05", "5,"},
         {"8 + / 4 =", "0,"},     // the second operator takes the empty entry over
         {"2 + 3 + 4 =", "7,"},   // an operator does not compute
@@ -214,42 +158,28 @@ TEST(calculator, an_operator_keeps_the_display_and_takes_over_the_entry) {
         {"2 + 3 = x 4 = - 1 =", "19,"},
         {"5 =", "0,"},
         {"5 + =", "5,"},
-    });
-}
-
-TEST(calculator, a_repeated_is_computes_again_with_the_first_number) {
-    check({
-        {"2 + 3 = =", "7,"},
+        {"2 + 3 = =", "7,"}, // a repeated "=" computes again with the first number
         {"2 x 3 = = =", "24,"},
         {"10 - 3 = =", "3,"},
         {"8 / 2 = =", "2,"},
         {"100 + 10 % = =", "210,"},
-        {"3 - 3 = =", "3,"},
     });
 }
 
 TEST(calculator, division_by_zero_is_reported_and_changes_nothing) {
     check({
         {"7 / 0 =", "7,", division_by_zero},
-        {"7 / =", "7,", division_by_zero},
         {"7 / 0,00 =", "0,00", division_by_zero},
         {"0 / 0 =", "0,", division_by_zero},
         {"7 / 0 = 2 =", "3,5"},
         {"0,000001 x 0,000001 = M C 7 / R =", "0,", division_by_zero},
     });
-    calculator pressed;
-    press(pressed, "7 / % 0 =");
-    EXPECT_EQ(pressed.stand().uitkomst_getoond, "nee");
-    EXPECT_EQ(pressed.stand().procent, "ja");
-    EXPECT_EQ(pressed.stand().bewerking, "DELEN");
-    EXPECT_EQ(pressed.stand().eerste_geheel, "7");
 }
 
 TEST(calculator, a_result_ignores_digits_until_it_is_cleared_or_counted_on_with) {
     check({
         {"2 + 3 = 4", "5,"},
         {"2 + 3 = ,4", "5,"},
-        {"2 + 3 = C 4", "4,"},
         {"2 + 3 = , C 4", "4,"},
         {"2 + 3 = A 4", "4,"},
         {"2 + 3 = + 4", "4,"},
@@ -262,30 +192,21 @@ TEST(calculator, the_memory_adds_up_and_comes_back) {
     check({
         {"R", "0,"},
         {"5 M M R", "10,"},
-        {"5 M C R", "5,"},
         {"5 M C 3 R", "5,"},
         {"1,5 M C 2,25 M R", "3,75"},
         {"1,5 M C 2,5 M R", "4,"},
-        {"0,1 M C 0,2 M R", "0,3"},
         {"5 M C 3 + R =", "8,"},
-        {"5 M C R M R", "10,"},
         {"12 + 8 = M C 9 - 4 = M C 6 x 7 = M C 81 / 9 = M R", "76,"},
         {"5 M A R", "0,"},
         {"5 M + 3 = M R", "13,"},
         {"5 + M R", "0,"},    // the entry after an operator is 0
         {"5 M C R 2", "52,"}, // digits go on behind a recalled number
-        {"9999999999 M M R", "19999999998,"},
         {"9999999999 M C 0,123456789 M R", "9999999999,123456789"},
     });
-    calculator pressed;
-    press(pressed, "5 M M");
-    EXPECT_EQ(pressed.stand().geheugen_geheel, "10");
-    EXPECT_EQ(pressed.stand().uitkomst_getoond, "ja");
 }
 
 TEST(calculator, clearing_leaves_what_it_should) {
     check({
-        {"12,5 C", "0,"},
         {"12,5 C 3", "3,"}, // the comma is gone as well
         {"12,5 A 3", "3,"},
         {"8 + 9 C 2 =", "10,"}, // C leaves the operator
@@ -297,10 +218,9 @@ TEST(calculator, clearing_leaves_what_it_should) {
 
 TEST(calculator, a_key_that_is_not_there_does_nothing) {
     calculator pressed;
-    press(pressed, "12");
     EXPECT_EQ(pressed.press(-1), none);
     EXPECT_EQ(pressed.press(calculator::keys), none);
-    EXPECT_EQ(pressed.display(), "12,");
+    EXPECT_EQ(pressed.display(), "0,");
 }
 
 } // namespace

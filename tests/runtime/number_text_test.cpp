@@ -18,13 +18,10 @@ TEST(number_text, writes_each_form_as_it_is_shown) {
         std::string_view expected;
     } rows[]{
         {tekst(0), " 0"},
-        {tekst(7), " 7"},
         {tekst(-7), "-7"},
         {tekst(least), "-9223372036854775808"},
-        {duizend(0), " 0"},
         {duizend(999), " 999"},
         {duizend(1000), " 1.000"},
-        {duizend(31'900), " 31.900"},
         {duizend(315'810), " 315.810"},
         {duizend(1'000'007), " 1000.007"},
         {duizend(-1'050), "-1.050"},
@@ -34,19 +31,16 @@ TEST(number_text, writes_each_form_as_it_is_shown) {
         {komma(1250, 2), " 12,50"},
         {komma(12, 0), " 12"},
         {komma_kort(1250, 2), " 12,5"},
-        {komma_kort(1200, 2), " 12"},
         {komma_kort(1005, 3), " 1,005"},
         {komma_kort(-50, 2), "-0,5"},
         {komma_kort(0, 3), " 0"},
         {punt(925, 2), " 9.25"},
         {punt(-40, 0), "-40"},
-        {geld(0), " 0"},
         {geld(5), " 0,05"},
         {geld(1250), " 12,50"},
         {geld(123'405), " 1.234,05"},
         {geld(123'400), " 1.234"},
         {geld(-50), "-0,50"},
-        {kaal(31), "31"},
         {kaal(-31), "-31"},
         {kaal(duizend(1000)), "1.000"},
     };
@@ -80,36 +74,10 @@ TEST(number_text, reads_what_a_number_begins_with_and_never_fails) {
     const struct {
         std::string_view text;
         double expected;
-    } rows[]{
-        {"12", 12},
-        {"   12", 12},
-        {"-3.5", -3.5},
-        {"+4", 4},
-        {".5", 0.5},
-        {"-.5", -0.5},
-        {"5.", 5},
-        {"12abc", 12},
-        {"1.2.3", 1.2},
-        {"1,5", 1},
-        {"1e5", 1},
-        {"0x10", 0},
-        {"", 0},
-        {" ", 0},
-        {"abc", 0},
-        {"-", 0},
-        {".", 0},
-        {"--5", 0},
-        {"+-5", 0},
-        {"- 5", 0},
-        {"inf", 0},
-        {"-infty", 0},
-        {"nan", 0},
-        {"007", 7},
-        {"9_9", 9},
-        {"\xC2\xA0"
-         "5",
-         0},
-    };
+    } rows[]{{"12", 12},    {"   12", 12},  {"-3.5", -3.5}, {"+4", 4},  {".5", 0.5},   {"-.5", -0.5}, {"5.", 5},
+             {"12abc", 12}, {"1.2.3", 1.2}, {"1,5", 1},     {"1e5", 1}, {"0x10", 0},   {"", 0},       {" ", 0},
+             {"abc", 0},    {"-", 0},       {".", 0},       {"--5", 0}, {"+-5", 0},    {"- 5", 0},    {"inf", 0},
+             {"-infty", 0}, {"nan", 0},     {"007", 7},     {"9_9", 9}, {"\u00A05", 0}};
     for (const auto& row : rows) EXPECT_EQ(lees_getal(row.text), row.expected) << row.text;
     EXPECT_EQ(lees_getal(std::string(400, '9')), 0);
 }
