@@ -135,12 +135,6 @@ TEST_F(events, the_tab_key_goes_through_the_controls_in_the_order_of_the_form) {
     EXPECT_EQ(order, QStringList({"knop", "lijst", "links", "rechts"})) << order.join(' ').toStdString();
 }
 
-TEST_F(events, a_list_entry_is_selected_before_its_click_is_handled) {
-    auto& list = widget<QListWidget>("lijst");
-    click(*list.viewport(), list.visualItemRect(list.item(2)).center());
-    EXPECT_EQ(screen.log, "lijst2 ");
-}
-
 TEST_F(events, the_second_half_of_a_double_click_is_not_for_the_screen_that_the_first_opened) {
     const auto second_half = [](QWidget& on, QPoint at) {
         for (const auto type : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
@@ -191,18 +185,6 @@ TEST_F(events, a_form_shown_over_another_is_uncovered_again) {
     outside.run([&] { above.unload(); });
     EXPECT_EQ(outside.page(above), nullptr);
     EXPECT_TRUE(outside.page(screen)->isVisible());
-}
-
-TEST_F(events, the_first_list_entry_is_selected_when_the_list_gets_the_focus_of_a_new_form) {
-    try_out above(outside, "above");
-    outside.run([&] {
-        above.show();
-        above.focus = &above.lijst;
-    });
-    type(outside, above, Qt::Key_Return);
-    EXPECT_EQ(above.log, "toets13 ");
-    EXPECT_EQ(above.lijst.selected, 0);
-    outside.run([&] { above.unload(); });
 }
 
 TEST_F(events, a_side_window_is_a_window_of_its_own) {

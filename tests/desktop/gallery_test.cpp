@@ -1,7 +1,10 @@
-// exercise_gallery as a developer calls it.
+// exercise_gallery, and what exercise_dump writes, as a developer calls them.
 #include <QCoreApplication>
 #include <QDir>
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -10,14 +13,30 @@ namespace {
 
 struct outcome {
     int status;
+    QByteArray written;
     QString said;
 };
 
-outcome gallery(const QStringList& arguments) {
+outcome run(const QString& name, const QStringList& arguments) {
     QProcess program;
-    program.start(QCoreApplication::applicationDirPath() + "/exercise_gallery", arguments);
+    program.start(QCoreApplication::applicationDirPath() + "/" + name, arguments);
     program.waitForFinished();
-    return {program.exitCode(), QString::fromUtf8(program.readAllStandardError())};
+    const QByteArray written = program.readAllStandardOutput();
+    return {program.exitCode(), written, QString::fromUtf8(program.readAllStandardError())};
+}
+outcome gallery(const QStringList& arguments) { return run("exercise_gallery", arguments); }
+
+TEST(exercise_dump, writes_a_json_object_a_line) {
+    for (const QStringList& arguments : {QStringList{"--catalogue"}, QStringList{"--count", "3"}}) {
+        const outcome dump = run("exercise_dump", arguments);
+        const QList<QByteArray> lines = dump.written.trimmed().split('\n');
+        EXPECT_EQ(lines.size(), arguments.size() == 1 ? 32 : 3 * 178);
+        for (const QByteArray& line : lines) {
+            const QJsonObject object = QJsonDocument::fromJson(line).object();
+            EXPECT_FALSE(object.isEmpty()) << line.toStdString();
+            EXPECT_EQ(object.value("uitlegregels").toArray().size(), arguments.size() == 1 ? 0 : 7);
+        }
+    }
 }
 
 TEST(exercise_gallery, writes_the_question_and_the_explanation_of_every_variant) {

@@ -63,15 +63,6 @@ TEST(picture_box, filled_boxes_reach_the_edges_and_leave_no_gap) {
     }
 }
 
-TEST(picture_box, a_flat_box_is_still_a_line) {
-    drawing shown;
-    shown.filled_box(150, 300, 4500, 0, rood);
-    shown.filled_box(4650, 600, -4500, 1, blauw);
-    const QImage image = painted(shown);
-    EXPECT_EQ(count(image, rood), 300);
-    EXPECT_EQ(count(image, blauw), 300);
-}
-
 TEST(picture_box, a_flat_outline_has_the_gaps_of_its_style) {
     drawing shown;
     shown.style = line_style::dot;
@@ -85,23 +76,25 @@ TEST(picture_box, a_flat_outline_has_the_gaps_of_its_style) {
     }
 }
 
-TEST(picture_box, lines_along_the_axes_are_sharp) {
-    drawing shown;
-    shown.line(150, 300, 4650, 300, rood);
-    EXPECT_EQ(count(painted(shown), rood), 300);
-    EXPECT_EQ(count(painted(shown, 2), rood), 600 * 2);
-    shown.clear();
-    shown.line_width = 3;
-    shown.line(1500, 150, 1500, 1650, groen);
-    EXPECT_EQ(count(painted(shown), groen), 100 * 3);
-    shown.clear();
-    shown.style = line_style::dot; // not of a line as wide as this
-    shown.line(1500, 150, 1500, 1650, groen);
-    EXPECT_EQ(count(painted(shown), groen), 100 * 3);
-    shown.clear();
-    shown.style = line_style::transparent;
-    shown.line(1500, 150, 1500, 1650, groen);
-    EXPECT_EQ(count(painted(shown), groen), 0);
+TEST(picture_box, lines_along_the_axes_are_sharp_and_as_wide_as_they_should_be) {
+    const auto pixels = [](int width, line_style style, double scale = 1) {
+        drawing shown;
+        shown.line_width = width;
+        shown.style = style;
+        shown.line(1500, 150, 1500, 1650, groen);
+        return count(painted(shown, scale), groen);
+    };
+    EXPECT_EQ(pixels(1, line_style::solid), 100);
+    EXPECT_EQ(pixels(1, line_style::solid, 2), 200 * 2);
+    EXPECT_EQ(pixels(3, line_style::solid), 100 * 3);
+    EXPECT_EQ(pixels(3, line_style::dot), 100 * 3) << "a wide line has no gaps";
+    EXPECT_EQ(pixels(1, line_style::transparent), 0);
+
+    drawing flat; // a flat box is a line too
+    flat.filled_box(150, 300, 4500, 0, rood);
+    flat.filled_box(4650, 600, -4500, 1, blauw);
+    EXPECT_EQ(count(painted(flat), rood), 300);
+    EXPECT_EQ(count(painted(flat), blauw), 300);
 }
 
 TEST(picture_box, a_sector_turns_counter_clockwise_from_three_o_clock) {

@@ -74,16 +74,5 @@ TEST_F(shell_screens, the_mouse_alone_goes_to_a_task_and_back_to_the_start) {
     EXPECT_FALSE(find<QAbstractButton>(outside, start, "SWgekozen").isChecked());
 }
 
-TEST_F(shell_screens, closing_the_window_asks_and_yes_ends_the_program) {
-    QString asked;
-    answer_box("Nee", asked);
-    outside.page(start)->window()->close();
-    EXPECT_EQ(asked, "Wil je echt stoppen?");
-    EXPECT_TRUE(start.loaded());
-    answer_box("Ja", asked);
-    outside.page(start)->window()->close();
-    EXPECT_EQ(run_program(), 0);
-}
-
 } // namespace
 } // namespace cijferwerf

@@ -115,16 +115,6 @@ TEST(percentages, a_part_is_so_many_per_cent) {
         check_sums(e.explanation, 1);
     });
     EXPECT_EQ(asked, (std::map<int, std::set<int>>{{1, {1, 25}}, {2, {2, 50}}, {3, {1, 5}}, {4, {10}}}));
-
-    oefeningen maker([] { return 43'200.0F; });
-    const auto answers = [&](std::vector<float> draws) {
-        maker.variant = 0;
-        maker.toeval.put_in(std::move(draws));
-        maker.maak(L_snel_01_08_click);
-        return seen(maker).answers();
-    };
-    EXPECT_EQ(answers({0.9F, 0, 0.9F, 0.9F, 0.1F}), (std::array<std::string, 4>{"1 %", "2 %", "5 %", "100 %"}));
-    EXPECT_EQ(answers({0.1F, 0, 0.1F, 0.1F, 0.9F}), (std::array<std::string, 4>{"25 %", "50 %", "75 %", "10 %"}));
 }
 
 TEST(percentages, the_sport_with_the_most_or_fewest_injuries_for_its_size) {
@@ -153,9 +143,6 @@ TEST(percentages, the_sport_with_the_most_or_fewest_injuries_for_its_size) {
         EXPECT_EQ(told[1], part[2]);
         EXPECT_EQ(told[2], e.right);
         EXPECT_EQ(sign * whole(told[3]), by_rate.rbegin()->first);
-        if (e.made.tipregels_2[0] != leeg) {
-            EXPECT_EQ(e.made.tipregels_2[2], sign > 0 ? "hoogste is?" : "laagste is?");
-        }
         check_sums(e.explanation, 4);
     });
 }
@@ -175,18 +162,6 @@ TEST(percentages, whole_ones_of_the_number_on_the_board) {
         EXPECT_EQ(whole(part[1]) > 10, e.made.variant == 2);
         e.told(("^.* van " + part[2] + " nemen.*Dus " + part[1] + " % van " + part[2]).c_str());
     });
-
-    oefeningen maker([] { return 43'200.0F; });
-    maker.variant = 1;
-    maker.toeval.put_in({0.99F, 0.998F});
-    maker.maak(M_hele_procenten_01_08_click);
-    EXPECT_EQ(seen(maker).words[1], " 99 % van 31.900 = ...");
-    EXPECT_EQ(maker.antwoord_1, " 31.581");
-    EXPECT_EQ(maker.antwoord_3, " 315.810");
-    maker.toeval.put_in({0.5F, 0});
-    maker.maak(M_hele_procenten_01_08_click);
-    EXPECT_EQ(seen(maker).words[1], " 5 % van 0 = ...");
-    EXPECT_EQ(seen(maker).answers(), (std::array<std::string, 4>{"0", "0", "0", "0"}));
 }
 
 TEST(percentages, with_decimals_and_the_outcome_comes_behind_the_sum) {
@@ -220,10 +195,6 @@ TEST(percentages, interest_is_a_part_of_the_amount_before_it_came) {
         const double before = whole(now[1]) - whole(interest[1]);
         EXPECT_TRUE(adult ? before >= 1000 && before <= 8900 : before >= 100 && before <= 800) << before;
         EXPECT_EQ(whole(e.right) * before, whole(interest[1]) * 100);
-        for (const std::string& answer : e.answers()) EXPECT_TRUE(is_percentage(answer) && whole(answer) > 0) << answer;
-        const auto times = e.told(R"(([\d.]+) euro gaat (\d+) keer in ([\d.]+) euro\.)");
-        EXPECT_EQ(whole(times[1]) * whole(times[2]), whole(times[3]));
-        EXPECT_EQ(times[3], interest[1]);
         EXPECT_EQ(e.last, "Het goede percentage is inderdaad " + e.right + ".");
         check_sums(e.explanation, 2);
     });
@@ -234,18 +205,15 @@ TEST(percentages, a_fraction_says_as_much_as_the_percentage) {
     std::set<int> percentages;
     each(B_alcohol_01_08_Click, [&](const seen& e) {
         const auto part = e.asked(R"(' (\d+) % van (\d+) ')");
-        const int percent = whole(part[1]), drivers = whole(part[2]);
+        const int percent = whole(part[1]);
         percentages.insert(percent);
         EXPECT_TRUE(e.words[4].ends_with("bijna " + part[1] + " % van " + part[2]));
-        EXPECT_EQ(percent * drivers % 100, 0) << "parts of drivers";
+        EXPECT_EQ(percent * whole(part[2]) % 100, 0) << "parts of drivers";
         for (int i = 1; i <= 4; ++i) {
             std::smatch of;
             const std::string answer = e.answer(i);
             const bool of_them = std::regex_match(answer, of, std::regex(R"((\d+/\d+) (?:x|van) (\d+))"));
             EXPECT_EQ(of_them && fraction(of[1]) == (breuk{percent, 100}), i == e.right_place()) << answer;
-            if (of_them) {
-                EXPECT_EQ(of[2], part[2]);
-            }
             if (i == e.right_place()) continue;
             EXPECT_EQ(told_of(e, i, "delen door dat percentage"), answer == part[2] + " : " + part[1]);
             EXPECT_EQ(told_of(e, i, "vermenigvuldigen met dat percentage"), answer == part[2] + " x " + part[1]);
@@ -264,7 +232,6 @@ TEST(percentages, one_pie_alone_has_the_parts_of_the_legend) {
     std::map<int, std::set<std::string>> peoples;
     each(L_bevolking_01_08_click, [&](const seen& e) {
         std::map<kleur, double> legend; // degrees by colour
-        std::set<int> parts;
         ASSERT_EQ(e.blocks.size(), 4U);
         for (std::size_t i = 0; i < 4; ++i) {
             const text_op &group = e.texts[4 + 2 * i], &percent = e.texts[5 + 2 * i];
@@ -272,10 +239,8 @@ TEST(percentages, one_pie_alone_has_the_parts_of_the_legend) {
             EXPECT_TRUE(mark.x + mark.width <= group.x && group.x < percent.x && group.y == percent.y);
             EXPECT_TRUE(mark.y > group.y && mark.y < group.y + text_height(group.size));
             legend[mark.pen.colour] = whole(percent.text) * 3.6;
-            parts.insert(whole(percent.text));
             peoples[e.made.variant].insert(group.text);
         }
-        EXPECT_EQ(parts, (std::set{7, 18, 25, 50}));
         std::map<int, std::map<kleur, double>> pies; // by their centres
         double end = 0;
         for (const drawing_op& operation : e.made.plaatje.operations())
@@ -289,17 +254,13 @@ TEST(percentages, one_pie_alone_has_the_parts_of_the_legend) {
         const auto has = [](const std::map<kleur, double>& pie, double sweep) {
             return std::ranges::any_of(pie, [&](const auto& slice) { return same(slice.second, sweep); });
         };
-        std::set<std::map<kleur, double>> different;
         for (std::size_t i = 0; const auto& [centre, pie] : pies) {
             const text_op& label = e.texts[i++];
             const int number = whole(label.text);
-            different.insert(pie);
             EXPECT_LT(std::abs(label.x - centre), 100);
-            double all = 0;
-            for (const auto& [colour, sweep] : pie) all += sweep;
-            EXPECT_TRUE(same(all, 360));
-            const bool fits =
-                std::ranges::all_of(legend, [&](const auto& part) { return same(pie.at(part.first), part.second); });
+            const bool fits = std::ranges::equal(legend, pie, [](const auto& part, const auto& slice) {
+                return part.first == slice.first && same(part.second, slice.second);
+            });
             EXPECT_EQ(e.answer(number), "nummer " + std::to_string(number));
             EXPECT_EQ(fits, number == e.right_place());
             if (fits) continue;
@@ -307,7 +268,6 @@ TEST(percentages, one_pie_alone_has_the_parts_of_the_legend) {
             EXPECT_EQ(told_of(e, number, "kwart cirkel?"), has(pie, 180) && !has(pie, 90));
             EXPECT_EQ(told_of(e, number, "18 % hoort bij"), has(pie, 180) && has(pie, 90));
         }
-        EXPECT_EQ(different.size(), 4U);
         EXPECT_EQ(e.last, "Het goede antwoord is dus " + e.right + ".");
     });
     EXPECT_EQ(peoples.size(), 10U);
