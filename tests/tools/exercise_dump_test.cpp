@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <string>
-#include <string_view>
 #include <sys/wait.h>
 
 namespace {
@@ -39,13 +38,10 @@ TEST(exercise_dump, lists_every_generator) {
 
 TEST(exercise_dump, catalogue_gives_the_entries_of_a_task_and_the_groups_of_a_drawn_one) {
     const std::string all = run("--catalogue").output;
-    EXPECT_NE(
-        all.find(
-            R"({"key":"boekje01","heading":"BOEKJE 1 - PROCENTEN","entries":[["alcohol","B_alcohol_01_08_Click"],)"),
-        std::string::npos);
-    EXPECT_NE(all.find(R"({"key":"taak05","heading":"HERHALING TAAK 1 t/m 4","groups":[{"A":[["na elkaar",)"),
-              std::string::npos);
-    EXPECT_NE(all.find(R"("search":[[)"), std::string::npos);
+    for (const char* part :
+         {R"({"key":"boekje01","heading":"BOEKJE 1 - PROCENTEN","entries":[["alcohol","B_alcohol_01_08_Click"],)",
+          R"({"key":"taak05","heading":"HERHALING TAAK 1 t/m 4","groups":[{"A":[["na elkaar",)", R"("search":[[)"})
+        EXPECT_NE(all.find(part), std::string::npos) << part;
 }
 
 TEST(exercise_dump, repeats_itself_exactly_and_changes_with_the_seed) {
