@@ -240,8 +240,8 @@ TEST_P(every_exercise, ends_its_explanation_with_the_right_answer) {
 }
 
 // The widest line of a caption (an answer may have two).
-double caption_width(std::string_view caption, double points) {
-    double widest = 0;
+int caption_width(std::string_view caption, double points) {
+    int widest = 0;
     while (!caption.empty()) {
         const auto end = std::min(caption.find('\r'), caption.size());
         widest = std::max(widest, text_width(caption.substr(0, end), points, 1.0));
@@ -311,7 +311,7 @@ void add_words(std::vector<ink>& to, const text_op& text, std::size_t operation)
         const std::string word = text.text.substr(at, end - at);
         const bool tailed = word.find_first_of("gjpqyQ,;()") != std::string::npos;
         const double left = text.x + text_width(text.text.substr(0, at), text.size);
-        to.push_back({left, text.y + digit_top(text.size), left + text_width(word, text.size),
+        to.push_back({left, 1.0 * text.y + digit_top(text.size), left + text_width(word, text.size),
                       text.y + em * (base_line + (tailed ? tail : 0)), word, text.colour, operation});
         at = text.text.find_first_not_of(' ', end);
     }
