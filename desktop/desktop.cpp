@@ -143,6 +143,7 @@ void desktop::show(form& shown) {
             const double unit = beside != nullptr ? beside->unit() : 0;
             made->resize(unit > 0 ? (QSizeF(shown.width, shown.height) * unit).toSize() : comfortable_size(shown));
             made->setMinimumSize((QSizeF(shown.width, shown.height) * smallest_unit).toSize());
+            made->setParent(window_.get(), Qt::Window); // stays above the main one
             if (beside != nullptr) made->move(window_->geometry().center() - made->rect().center());
         }
         made->show();

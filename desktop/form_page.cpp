@@ -149,8 +149,9 @@ bool is_button(const control& shown) {
     return shown.kind == control_kind::button || shown.kind == control_kind::option_button;
 }
 
-// Enter on such a button presses it, also where the form lists Enter for another.
-bool is_action(const control& shown) {
+// Enter on such a button presses it, or chooses it, also where the form lists Enter for another.
+bool keeps_enter(const control& shown) {
+    if (shown.kind == control_kind::option_button) return !static_cast<const option_button&>(shown).selected;
     return shown.role == theme_role::action || shown.role == theme_role::main_action;
 }
 
@@ -247,8 +248,7 @@ void form_page::make_widget(control& shown) {
     widget->setObjectName(QString::fromStdString(shown.name) + index);
     widget->installEventFilter(this);
     if (!is_button(shown) && shown.kind != control_kind::list_box) {
-        // An answer's text is clicked with the pointer only: the keyboard has its button.
-        if (shown.click && shown.role != theme_role::answer) widget->setFocusPolicy(Qt::StrongFocus);
+        // What is no button is clicked with the pointer only: for the keyboard there is a button.
         if (shown.click) widget->setAttribute(Qt::WA_Hover);
         if (!shown.click && !shown.hover) widget->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
@@ -353,8 +353,9 @@ void form_page::select(option_button& selected) {
     });
 }
 
-// True when the key is dealt with. A list box and an action button keep Enter; a key that a control of the form lists
-// presses that one wherever the focus is; Enter then presses what has the focus, as the blank does.
+// True when the key is dealt with. A list box, an action button and an option not yet chosen keep Enter; a key that a
+// control of the form lists presses that one wherever the focus is; Enter then presses what has the focus, as the blank
+// does.
 bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
     const char key = form_key(event);
     const bool chosen = key == '\r' || (event.key() == Qt::Key_Space && focused != nullptr && !is_button(*focused));
@@ -367,7 +368,7 @@ bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
         return true;
     }
     bool pressed = false;
-    const bool kept = key == '\r' && focused != nullptr && is_action(*focused);
+    const bool kept = key == '\r' && focused != nullptr && keeps_enter(*focused);
     if (key != 0 && !kept) run_([&] { pressed = form_.press(key); });
     if (pressed) return true;
     if (!chosen || focused == nullptr || !usable(*focused) || focused->kind == control_kind::list_box) return false;

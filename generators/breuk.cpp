@@ -1,16 +1,13 @@
 #include "generators/breuk.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace cijferwerf {
 
 int teken_breuk(drawing& on, int x, int y, std::string_view geheel, std::string_view teller, std::string_view noemer) {
     const double points = on.text_size;
-    const int line_height = static_cast<int>(std::lround(text_height(points)));
-    const auto width_of = [&](std::string_view text) {
-        return static_cast<int>(std::lround(text_width(text, points)));
-    };
+    const int line_height = text_height(points);
+    const auto width_of = [&](std::string_view text) { return text_width(text, points); };
     if (!geheel.empty()) {
         on.print_at(x, y - line_height / 2, geheel);
         x += width_of(geheel) + 60;

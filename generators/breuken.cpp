@@ -236,7 +236,7 @@ void oefeningen::L_helen_maken_03_03_click() {
            regel("Dan heb je dus nog ", streepbreuk(aanvulling), " nodig."));
     // The dots make room for the answer, upright around the middle of the sum.
     constexpr int stip = 2520;
-    const auto links = [](int getal) { return kaal(stip - std::lround(text_width(kaal(getal), 12) / 2)); };
+    const auto links = [](int getal) { return kaal(stip - text_width(kaal(getal), 12) / 2); };
     opdrachten("PRINT_2420_470_2_20_..", "LINE_2400_540_240_330_2_BF_0",
                regel("PRINT_", links(nodig), "_630_15_12_", kaal(nodig)), "LINE_2370_901_300_0_15_B_0",
                regel("PRINT_", links(deel.noemer), "_921_15_12_", kaal(deel.noemer)));
@@ -491,7 +491,7 @@ void oefeningen::M_grootste_kleinste_03_03_click() {
         const int x = 900 + static_cast<int>(i) * 1190;
         plaatje.fore_colour = krijtjes[i].tint;
         plaatje.text_size = 20;
-        const int breedte = static_cast<int>(text_width(kaal(breuken[i].noemer), 20)) + 60;
+        const int breedte = text_width(kaal(breuken[i].noemer), 20) + 60;
         teken_breuk(plaatje, x - breedte / 2, 1030, 0, breuken[i].teller, breuken[i].noemer);
         plaatje.text_size = 12;
         druk_midden(x, 1640, krijtjes[i].woord);

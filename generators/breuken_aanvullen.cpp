@@ -146,9 +146,8 @@ void oefeningen::L_stukken_03_14_click() {
     const int y = vraag_AB ? maat_AB : maat_AC;
     const int midden = (links + streep(aantal)) / 2;
     const std::string antwoord = waarde(lengte(aantal));
-    opdrachten(
-        regel("LINE_", velden(midden - 100, y + 40), "_200_220_15_BF_0"),
-        regel("PRINT_", velden(midden - static_cast<int>(text_width(antwoord, 11) / 2), y + 20), "_4_11_", antwoord));
+    opdrachten(regel("LINE_", velden(midden - 100, y + 40), "_200_220_15_BF_0"),
+               regel("PRINT_", velden(midden - text_width(antwoord, 11) / 2, y + 20), "_4_11_", antwoord));
 }
 
 void oefeningen::M_aanvullen_1_03_14_click() {
@@ -209,9 +208,7 @@ void oefeningen::M_aanvullen_1_03_14_click() {
            regel("Op de stippeltjes moet dus het getal ", waarde(af), " staan."));
     const std::string met_breuken =
         regel(streepbreuk(som), " - ", streepbreuk(af), " = ", streepbreuk(over.maal(fijner / over.noemer)));
-    const auto links_van = [](int om, std::string_view text) {
-        return om - static_cast<int>(text_width(text, 12) / 2);
-    };
+    const auto links_van = [](int om, std::string_view text) { return om - text_width(text, 12) / 2; };
     // The dots go in the colour of the ground, and their soft edges under a box.
     opdrachten("PRINT_2450_450_1_20_..", "LINE_2430_520_240_310_1_BF_0",
                regel("PRINT_", velden(links_van(gat, waarde(af))), "_550_12_12_", waarde(af)),
@@ -262,7 +259,7 @@ void oefeningen::M_tussen_in_03_14_click() {
     };
 
     bord(lichtgrijs, zwart, 24);
-    const int breedte = static_cast<int>(text_width(kaal(b.noemer), plaatje.text_size)) + 60;
+    const int breedte = text_width(kaal(b.noemer), plaatje.text_size) + 60;
     teken_breuk(plaatje, 1050 - breedte / 2, 1065, 0, b.teller, b.noemer);
     plaatje.text_size = 14;
     for (int i = 1; i <= 4; ++i) {

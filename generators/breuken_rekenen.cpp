@@ -54,7 +54,7 @@ std::string met_helen(int helen, breuk b) {
 
 // The sum on the picture, its bars at y; the dots stand for what is asked.
 void teken_som(drawing& on, int x, int y, const som& s, std::string_view teken, std::string_view stippels) {
-    const int top = y - static_cast<int>(std::lround(text_height(on.text_size))) / 2;
+    const int top = y - text_height(on.text_size) / 2;
     const auto print = [&](std::string_view text) {
         on.print_at(x + 110, top, text);
         x = on.x + 110;
@@ -90,14 +90,11 @@ std::vector<int> middens_van_streepjes(int x, std::string_view line) {
     constexpr int to_the_right = 15;
     std::vector<int> middens;
     for (auto at = line.find(bar); at != line.npos; at = line.find(bar, at + bar.size()))
-        middens.push_back(x + to_the_right +
-                          static_cast<int>(std::lround(text_width(line.substr(0, at), 15) + text_width(bar, 15) / 2)));
+        middens.push_back(x + to_the_right + text_width(line.substr(0, at), 15) + text_width(bar, 15) / 2);
     return middens;
 }
 
-int links_van(int midden, int getal) {
-    return midden - static_cast<int>(std::lround(text_width(kaal(getal), 8.25) / 2));
-}
+int links_van(int midden, int getal) { return midden - text_width(kaal(getal), 8.25) / 2; }
 
 // Prints numbers in one line of 8 points, each as near as blanks allow to its middle.
 std::string getallenrij(int y, const std::vector<int>& middens, std::initializer_list<int> getallen) {
@@ -106,8 +103,8 @@ std::string getallenrij(int y, const std::vector<int>& middens, std::initializer
     int start = 0;
     std::size_t which = 0;
     for (const int getal : getallen) {
-        const double left = middens[which++] - text_width(kaal(getal), 8) / 2;
-        if (line.empty()) start = static_cast<int>(std::lround(left));
+        const int left = middens[which++] - text_width(kaal(getal), 8) / 2;
+        if (line.empty()) start = left;
         const auto blanks = std::lround((left - start - text_width(line, 8)) / blank);
         line = regel(line, std::string(static_cast<std::size_t>(blanks), ' '), kaal(getal));
     }
@@ -296,7 +293,7 @@ void oefeningen::M_vereenvoudigen_03_14_click() {
 
     bord(cyaan, wit, 18);
     constexpr int y = 950;
-    const int top = y - static_cast<int>(std::lround(text_height(18))) / 2;
+    const int top = y - text_height(18) / 2;
     const auto is = [&](int x) {
         druk(x + 130, top, "=");
         return plaatje.x + 130;
@@ -332,12 +329,12 @@ void oefeningen::M_vereenvoudigen_03_14_click() {
            regel("De noemer wordt dan", k.midden().noemer, " :", k.deler, " =", noemer, "."),
            regel("Op de stippeltjes staan dus ", antwoord_1, "."));
     // The dots give way to the numbers; they are as wide as the bar but for 60 units.
-    const auto streep = std::lround(text_width(stippels, 18)) + 60;
+    const auto streep = text_width(stippels, 18) + 60;
     const auto wis = [streep](int einde, int boven) {
         return regel("LINE_", velden(einde - streep, boven, streep, 330, int{cyaan}), "_BF_0");
     };
     const auto vul_in = [streep](int einde, int boven, int getal) {
-        const auto breedte = std::lround(text_width(kaal(getal), 18));
+        const auto breedte = text_width(kaal(getal), 18);
         return regel("PRINT_", velden(einde - (streep + breedte) / 2, boven, int{geel}, 18), "_", kaal(getal));
     };
     opdrachten(wis(einde_midden, y - 365), vul_in(einde_midden, y - 409, teller), wis(einde_laatste, y + 40),

@@ -40,18 +40,16 @@ char32_t take_character(std::string_view& text) {
     return character;
 }
 
-int rounded(double value) { return static_cast<int>(std::lround(value)); }
-
 } // namespace
 
-double text_width(std::string_view text, double points, double stretch) {
+int text_width(std::string_view text, double points, double stretch) {
     int units = 0;
     while (!text.empty()) {
         const char32_t character = take_character(text);
         const bool listed = character >= 0x20 && character < 0x20 + latin1_widths.size();
         units += listed ? latin1_widths[character - 0x20] : other_width;
     }
-    return units / 2048.0 * points * 20 * stretch;
+    return static_cast<int>(std::lround(units / 2048.0 * points * 20 * stretch));
 }
 
 void drawing::reset() {
@@ -66,7 +64,7 @@ void drawing::reset() {
 
 void drawing::print(std::string_view text) {
     operations_.emplace_back(text_op{x, y, fore_colour, text_size, std::string(text)});
-    x += rounded(text_width(text, text_size));
+    x += text_width(text, text_size);
 }
 
 void drawing::print_at(int left, int top, std::string_view text) {
@@ -76,11 +74,11 @@ void drawing::print_at(int left, int top, std::string_view text) {
 }
 
 void drawing::print_centred(int middle, int top, std::string_view text) {
-    print_at(middle - rounded(text_width(text, text_size) / 2), top, text);
+    print_at(middle - text_width(text, text_size) / 2, top, text);
 }
 
 void drawing::print_right(int right, int top, std::string_view text) {
-    print_at(right - rounded(text_width(text, text_size)), top, text);
+    print_at(right - text_width(text, text_size), top, text);
 }
 
 void drawing::line(int x1, int y1, int x2, int y2, kleur with) {

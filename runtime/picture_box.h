@@ -77,11 +77,11 @@ using drawing_op = std::variant<text_op, line_op, box_op, circle_op, polygon_op,
 
 // Advance width in twips of a text at so many points, at the 90 % at which picture text is set
 // (pass 1.0 for the face's own width). Source: the advance widths that Arial, Helvetica and Liberation Sans share.
-double text_width(std::string_view text, double points, double stretch = 0.9);
+int text_width(std::string_view text, double points, double stretch = 0.9);
 
 // Height in twips of a line of text, from its top to its bottom, and of the top of its digits below that top.
-constexpr double text_height(double points) { return points * 20 * 1.149; }
-constexpr double digit_top(double points) { return points * 20 * 0.212; }
+constexpr int text_height(double points) { return static_cast<int>(points * 20 * 1.149 + 0.5); }
+constexpr int digit_top(double points) { return static_cast<int>(points * 20 * 0.212 + 0.5); }
 
 class drawing {
 public:

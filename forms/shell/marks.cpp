@@ -19,7 +19,7 @@ int along(double value) { return static_cast<int>(std::lround(value)); }
 void woord(drawing& on, std::string_view text, double points, kleur with = donkerblauw, int middle = midden_x) {
     on.fore_colour = with;
     on.text_size = points;
-    on.print_centred(middle, along((drawing::inner_height - text_height(points)) / 2), text);
+    on.print_centred(middle, (drawing::inner_height - text_height(points)) / 2, text);
 }
 
 // A straight line from a point, degrees clockwise from twelve o'clock.
@@ -64,7 +64,7 @@ void geld(drawing& on) {
     }
     on.fore_colour = olijf;
     on.text_size = 52;
-    on.print_centred(2690, 1000 - along(text_height(52) / 2), "€");
+    on.print_centred(2690, 1000 - text_height(52) / 2, "€");
 }
 
 void tijd(drawing& on) {
@@ -104,7 +104,7 @@ void hoofdrekenen(drawing& on) {
     on.circle(900, 1950, 110, donkerblauw);
     on.fore_colour = donkerblauw;
     on.text_size = 42;
-    on.print_centred(2850, 850 - along(text_height(42) / 2), "7 x 8");
+    on.print_centred(2850, 850 - text_height(42) / 2, "7 x 8");
 }
 
 void schatten(drawing& on) { woord(on, "± 100", 64); }
