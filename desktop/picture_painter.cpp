@@ -154,9 +154,10 @@ const QImage& picture_cache::scaled(const std::string& file, QSize size) {
     const QString name = QString::fromStdString(file);
     image_ = QImage(folder + '/' + name, "BMP");
     if (image_.isNull()) image_ = QImage(folder + "/../share/cijferwerf/" + name, "BMP");
+    // In full colour before it is scaled: within its own few colours it would be dithered.
     if (!image_.isNull())
-        image_ = image_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                     .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        image_ = image_.convertToFormat(QImage::Format_ARGB32_Premultiplied)
+                     .scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     return image_;
 }
 

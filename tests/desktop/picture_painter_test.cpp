@@ -2,6 +2,8 @@
 #include "desktop/picture_painter.h"
 #include "desktop/report_printer.h"
 
+#include <QCoreApplication>
+#include <QFile>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QProcess>
@@ -130,6 +132,25 @@ TEST(picture_box, a_missing_picture_leaves_a_line_and_the_rest) {
     EXPECT_LT(line, image.width() * image.height() - 200) << "the file is named";
     EXPECT_EQ(count(image.copy(0, 30, image.width(), image.height() - 30), rood), 20 * 20);
     EXPECT_EQ(count(image.copy(0, 30, 100, 100), wit), 100 * 100) << "the line stays small";
+}
+
+TEST(picture_box, a_picture_of_few_colours_is_scaled_without_a_grain) {
+    QImage slope(1076, 426, QImage::Format_Indexed8);
+    slope.setColorTable({qRgb(234, 242, 251), qRgb(217, 179, 137), qRgb(47, 127, 209), qRgb(63, 73, 86)});
+    for (int x = 0; x < slope.width(); ++x)
+        for (int y = 0; y < slope.height(); ++y) slope.setPixel(x, y, static_cast<unsigned>((x + y) / 40 % 4));
+    const QString file = QCoreApplication::applicationDirPath() + "/helling.bmp";
+    ASSERT_TRUE(slope.save(file, "BMP"));
+    drawing shown;
+    shown.picture("helling.bmp");
+    const QImage image = painted(shown);
+    QFile::remove(file);
+
+    int grain = 0; // pixels unlike both neighbours, which are alike
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 1; x + 1 < image.width(); ++x)
+            grain += image.pixel(x - 1, y) == image.pixel(x + 1, y) && image.pixel(x, y) != image.pixel(x - 1, y);
+    EXPECT_EQ(grain, 0);
 }
 
 TEST(picture_box, is_read_line_by_line) {
