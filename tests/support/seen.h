@@ -4,7 +4,7 @@
 #pragma once
 
 #include "forms/practice/explanation.h"
-#include "generators/breuk.h"
+#include "generators/gedeeld/breuk.h"
 #include "generators/oefeningen.h"
 
 #include <algorithm>

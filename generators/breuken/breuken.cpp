@@ -1,7 +1,7 @@
 // Fractions, the first half: sharing, parts of a whole, wholes written as a fraction, comparing, simplifying.
 // The wrong answers are the mistakes of a child that swaps numerator and denominator, looks at the other part, forgets
 // a step, or adds up denominators.
-#include "generators/breuk.h"
+#include "generators/gedeeld/breuk.h"
 #include "generators/oefeningen.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 // fraction turned over.
 //
 // The explanation is worked out below the sum, in y 1050 to 2000, by the drawing commands.
-#include "generators/breuk.h"
+#include "generators/gedeeld/breuk.h"
 #include "generators/oefeningen.h"
 
 #include <algorithm>

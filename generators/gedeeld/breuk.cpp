@@ -1,4 +1,4 @@
-#include "generators/breuk.h"
+#include "generators/gedeeld/breuk.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // Fractions as numbers: per cents, pieces of a segment, completing, between which decimals.
-#include "generators/breuk.h"
+#include "generators/gedeeld/breuk.h"
 #include "generators/oefeningen.h"
 
 #include <algorithm>
