@@ -1,0 +1,195 @@
+// Fractions added and taken off. The wrong answers are the mistakes of the last steps - not simplified, no whole taken
+// out - and of the first: denominators not made equal.
+//
+// The explanation of a sum is worked out below it, in y 1050 to 2000, by the drawing commands.
+#include "generators/breuken/sommen.h"
+#include "generators/oefeningen.h"
+
+namespace cijferwerf {
+
+namespace {
+
+// "3 9/6": wholes before a fraction that may be above 1.
+std::string met_helen(int helen, breuk b) {
+    return helen == 0 ? streepbreuk(b) : regel(kaal(helen), " ", streepbreuk(b));
+}
+
+// The bars and the empty places of the fractions that BREUK1 will write at these x, with y 1400: there are no commands
+// left to draw them.
+template<std::size_t N>
+void teken_lege_breuken(drawing& on, const std::array<int, N>& plaatsen) {
+    on.style = line_style::dot;
+    for (const int x : plaatsen)
+        for (const int top : {1252, 1582}) on.box(x + 255, top, 220, 180, grijs);
+    on.style = line_style::solid;
+    for (const int x : plaatsen) on.line(x + 235, 1507, x + 495, 1507, wit);
+}
+
+} // namespace
+
+void oefeningen::L_prijzen_03_03_click() {
+    static constexpr std::array<std::string_view, 8> steden{"Rotterdam", "Utrecht",   "Amsterdam",  "Groningen",
+                                                            "Den Haag",  "Eindhoven", "Maastricht", "Arnhem"};
+    struct verdeling {
+        breuk eerste, tweede;
+        breuk samen() const { return eerste + tweede; }
+        breuk over() const { return breuk{1, 1} - samen(); }
+        breuk zonder_tweede() const { return breuk{1, 1} - eerste; }
+        // What is over when the denominators are added up as well.
+        breuk met_noemers() const {
+            const int noemer = eerste.noemer + tweede.noemer;
+            return {noemer - eerste.teller - tweede.teller, noemer};
+        }
+        bool geschikt() const {
+            return eerste > tweede && over().teller > 0 && samen().noemer <= 40 && over() != samen() &&
+                   zonder_tweede() != samen() && met_noemers() != samen();
+        }
+    };
+    kies_variant(2);
+    zaai();
+    const bool gelijknamig = variant == 1;
+    const std::string_view stad = kies(steden);
+    const verdeling prijzen = trek_tot(
+        [&] {
+            const breuk eerste = trek_breuk(toeval, 3, 12);
+            return verdeling{eerste, gelijknamig ? trek_breuk(toeval, eerste.noemer, eerste.noemer)
+                                                 : trek_breuk(toeval, 3, 12)};
+        },
+        [&](const verdeling& v) { return v.geschikt() && (v.eerste.noemer == v.tweede.noemer) == gelijknamig; });
+    const auto& [eerste, tweede] = prijzen;
+    const breuk samen = prijzen.samen();
+    // So that either prize is a whole number of thousands.
+    const int duizenden = eerste.teller * (samen.noemer / eerste.noemer) * (trek(8) + 2);
+
+    bord(groen, zwart, 10.5);
+    plaatje.filled_box(180, 120, 5020, 1890, wit);
+    plaatje.box(240, 180, 4900, 1770, groen);
+    druk(420, 680, "Hierbij ontvangt U een bedrag van:");
+    druk(420, 1350, "als winnaar van het jaarlijkse tennistoernooi van");
+    druk(420, 1600, "de stad ", stad, ".");
+    plaatje.fore_colour = donkerblauw;
+    plaatje.text_size = 18;
+    druk(420, 230, "CHEQUE");
+    plaatje.text_size = 14;
+    druk(420, 960, kaal(duizenden), ".000 euro");
+
+    vraag(regel("In ", stad, " wordt het jaarlijkse tennis-"), "toernooi gehouden. De eerste prijs is dit",
+          regel("jaar ", streepbreuk(eerste), " deel van het totale prijzengeld,"),
+          regel("en de tweede prijs het ", streepbreuk(tweede), " deel."), "Welk deel van het prijzengeld is nu",
+          "nog over voor de andere prijzen?");
+
+    goed(kortste(prijzen.over()));
+    fout(kortste(samen), "Dat is het deel voor de eerste en de tweede prijs", "samen. Hoeveel blijft er dan over?");
+    fout(kortste(prijzen.zonder_tweede()), "Je hebt alleen de eerste prijs ervan afgetrokken.",
+         "De tweede prijs moet er ook nog af.");
+    fout(kortste(prijzen.met_noemers()), "Je hebt ook de noemers bij elkaar opgeteld.",
+         "Als de noemers gelijk zijn, tel je alleen de tellers op.");
+    leg_vast(trek(4) + 1);
+
+    const std::string slot = regel("Over is dus 1 - ", kortste(samen), " = ", kortste(prijzen.over()), " deel.");
+    uitleg(regel("In de som staan twee breuken, namelijk ", streepbreuk(eerste), " en ", streepbreuk(tweede), "."),
+           gelijknamig ? "Deze hoeven niet gelijknamig gemaakt te worden."
+                       : "Deze moeten eerst gelijknamig gemaakt worden.",
+           regel("Opgeteld: ", streepbreuk(eerste.maal(samen.noemer / eerste.noemer)), "  + ",
+                 streepbreuk(tweede.maal(samen.noemer / tweede.noemer)), "  = ", streepbreuk(samen), "."),
+           samen.vereenvoudigbaar() ? regel("Vereenvoudigd is dat ", kortste(samen), ".") : slot,
+           samen.vereenvoudigbaar() ? slot : std::string(leeg));
+}
+
+void oefeningen::L_optellen_03_14_click() {
+    // The fractions together are more than 1, and what is left above 1 can be simplified.
+    static const auto past = [](const breuksom& s) {
+        const breuk samen = s.links + s.rechts;
+        return s.links.noemer != s.rechts.noemer && s.gelijke_noemer() <= 60 && samen > breuk{1, 1} &&
+               samen.teller <= 99 && samen.rest().vereenvoudigbaar() && samen.rest().teller > 0;
+    };
+    static const std::array sommen{
+        alle_sommen(20, 0, [](const breuksom& s) { return past(s) && s.noemers_passen(); }),
+        alle_sommen(15, 0, [](const breuksom& s) { return past(s) && !s.noemers_passen(); }),
+        alle_sommen(10, 4, past),
+    };
+    kies_variant(3);
+    zaai();
+    const breuksom s = kies(rij(sommen, variant));
+    const int noemer = s.gelijke_noemer();
+    const int helen = s.helen_links + s.helen_rechts;
+    const breuk samen = s.links + s.rechts;
+    const int deler = samen.deler();
+
+    bord(donkerblauw, geel, 16);
+    teken_som(plaatje, 700, 520, s, "+", "......");
+    teken_lege_breuken(plaatje, std::array{700, 1550, 2400, 3250, 4100});
+
+    vraag("Kijk hiernaast...", "Twee breuken worden gelijknamig", "gemaakt, opgeteld en zo ver mogelijk",
+          "vereenvoudigd.", "Welke streepbreuk moet op de", "stippeltjes staan?");
+
+    goed(met_helen(helen + 1, samen.rest().vereenvoudigd()));
+    if (variant == 2)
+        fout(met_helen(helen + 1, samen.rest()), "Je hebt niet vereenvoudigd.", "Je moet ook vereenvoudigden.");
+    else
+        fout(met_helen(helen + 1, samen.rest()), "Je hebt niet vereenvoudigd.");
+    fout(met_helen(helen, samen.vereenvoudigd()), "Je hebt er geen hele uitgehaald.");
+    fout(met_helen(helen, samen), "Je hebt er geen hele uitgehaald en je", "hebt niet vereenvoudigd...");
+
+    uitleg(regel("Maak van de noemers eerst", noemer, ", zodat je ze"),
+           "makkelijk kunt optellen. Haal er vervolgens een hele uit",
+           "en vereenvoudig die breuk door de teller en de noemer", regel("door", deler, " te delen."),
+           regel("Het goede antwoord is ", antwoord_1, "."));
+    opdrachten(breuk_opdracht("BREUK1_700_1400_", s.helen_links, s.links.maal(noemer / s.links.noemer)),
+               breuk_opdracht("BREUK1_1550_1400_", s.helen_rechts, s.rechts.maal(noemer / s.rechts.noemer)),
+               breuk_opdracht("BREUK1_2400_1400_", helen, samen),
+               breuk_opdracht("BREUK1_3250_1400_", helen + 1, samen.rest()),
+               breuk_opdracht("BREUK1_4100_1400_", helen + 1, samen.rest().vereenvoudigd()),
+               "PRINT_1400_1350_15_12_+           =            =            =");
+}
+
+void oefeningen::M_aftrekken_03_14_click() {
+    // No whole has to be broken up, what is left can be simplified, and who leaves the numerators as they are is wrong.
+    static const auto past = [](const breuksom& s) {
+        const breuk over = s.links - s.rechts;
+        const int zonder_aanpassen = s.links.teller - s.rechts.teller;
+        return s.links.noemer != s.rechts.noemer && s.gelijke_noemer() <= 40 && over.teller > 0 &&
+               over.vereenvoudigbaar() && s.helen_links > s.helen_rechts && zonder_aanpassen > 0 &&
+               zonder_aanpassen != over.teller;
+    };
+    static const std::array sommen{
+        alle_sommen(15, 6, [](const breuksom& s) { return past(s) && s.noemers_passen(); }),
+        alle_sommen(15, 6, [](const breuksom& s) { return past(s) && !s.noemers_passen(); }),
+    };
+    kies_variant(2);
+    zaai();
+    const breuksom s = kies(rij(sommen, variant));
+    const int noemer = s.gelijke_noemer();
+    const int helen = s.helen_links - s.helen_rechts;
+    const breuk over = s.links - s.rechts;
+
+    bord(donkerblauw, geel, 16);
+    teken_som(plaatje, 200, 520, s, "-", "......");
+    teken_lege_breuken(plaatje, std::array{200, 1100, 2000, 2900, 3800, 4700});
+
+    vraag("Kijk hiernaast...", "Twee breuken worden gelijknamig", "gemaakt, afgetrokken en vereenvoudigd.",
+          "Welke streepbreuk moet op de", "stippeltjes staan?");
+
+    goed(met_helen(helen, over.vereenvoudigd()));
+    fout(met_helen(helen, over), "Je hebt niet vereenvoudigd.", "De teller en de noemer kun je nog door",
+         regel("hetzelfde getal delen, namelijk door", over.deler(), "."));
+    fout(met_helen(helen, {s.links.teller - s.rechts.teller, noemer}), "Je hebt de breuken niet gelijknamig gemaakt:",
+         regel("als de noemer", noemer, " wordt, verandert de teller ook."));
+    fout(met_helen(s.helen_links, over.vereenvoudigd()), "Je hebt alleen de streepbreuken van elkaar afgetrokken.",
+         "De helen moet je ook van elkaar aftrekken.");
+
+    uitleg(regel("Maak van de noemers eerst", noemer, ", zodat je ze"),
+           "makkelijk kunt aftrekken. Trek de helen van elkaar af,",
+           "daarna de streepbreuken. Vereenvoudig de breuk door",
+           regel("de teller en de noemer ", "door", over.deler(), " te delen."),
+           regel("Het goede antwoord is ", antwoord_1, "."));
+    opdrachten(breuk_opdracht("BREUK1_200_1400_", s.helen_links, s.links),
+               breuk_opdracht("BREUK1_1100_1400_", s.helen_rechts, s.rechts),
+               breuk_opdracht("BREUK1_2000_1400_", s.helen_links, s.links.maal(noemer / s.links.noemer)),
+               breuk_opdracht("BREUK1_2900_1400_", s.helen_rechts, s.rechts.maal(noemer / s.rechts.noemer)),
+               breuk_opdracht("BREUK1_3800_1400_", helen, over),
+               breuk_opdracht("BREUK1_4700_1400_", helen, over.vereenvoudigd()),
+               "PRINT_900_1350_15_12_-             =             -             =             =");
+}
+
+} // namespace cijferwerf

@@ -1,0 +1,256 @@
+// Which fraction is larger: among tenths on a number line, among others, between decimals.
+#include "generators/breuken/breuken.h"
+#include "generators/oefeningen.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace cijferwerf {
+
+void oefeningen::M_getallenlijn_03_03_click() {
+    struct pijl {
+        std::string_view woord;
+        kleur tint;
+    };
+    static constexpr std::array<pijl, 4> pijlen{{{"geel", geel}, {"rood", rood}, {"wit", wit}, {"zwart", zwart}}};
+    static constexpr int begin = 290, tiende = 480; // where 0 stands, and from tenth to tenth
+    static constexpr int lijn = 1230;
+    static constexpr int tussenruimte = 430; // of arrows, for the words under them
+    static constexpr std::array<int, 5> noemers[]{{3, 4, 6, 8, 20}, {7, 9, 12, 14, 15}};
+    kies_variant(2);
+    zaai();
+    // Above 1/10; in their simplest form none of these is a tenth itself.
+    const breuk gegeven = trek_tot(
+        [this] {
+            const int noemer = kies(noemers[variant - 1]);
+            return trek_breuk(toeval, noemer, noemer);
+        },
+        [](breuk drawn) {
+            return drawn > breuk{1, 10};
+        });
+    const int nieuwe_noemer = std::lcm(gegeven.noemer, 10);
+    const int onder = gegeven.teller * 10 / gegeven.noemer; // in tenths
+    const int juist = trek(4);
+
+    // Every arrow in a stretch of its own between two tenths, the right one on the spot.
+    const int plek = begin + 10 * tiende * gegeven.teller / gegeven.noemer;
+    std::vector<int> vrij;
+    for (int i = 0; i < 10; ++i)
+        if (const int halverwege = begin + i * tiende + tiende / 2; std::abs(halverwege - plek) >= tussenruimte)
+            vrij.push_back(halverwege);
+    vrij = geschud(vrij);
+
+    bord(lichtgrijs, zwart, 14);
+    druk(1200, 170, "Gegeven breuk:");
+    teken_breuk(plaatje, 3400, 331, 0, gegeven.teller, gegeven.noemer);
+    plaatje.line_width = 2;
+    plaatje.line(begin, lijn, begin + 10 * tiende, lijn, zwart);
+    plaatje.text_size = 9;
+    for (int i = 0; i <= 10; ++i) {
+        const int x = begin + i * tiende;
+        plaatje.line(x, lijn - 70, x, lijn + 70, zwart);
+        if (i % 10 != 0) teken_breuk(plaatje, x - 120, 902, 0, i, 10);
+    }
+    plaatje.line_width = 1;
+    plaatje.text_size = 12;
+    druk_midden(begin, 770, "0");
+    druk_midden(begin + 10 * tiende, 770, "1");
+    plaatje.text_size = 10;
+    juist_op(juist + 1);
+    for (int i = 0, volgende = 0; i < 4; ++i) {
+        const auto& [woord, tint] = pijlen[static_cast<std::size_t>(i)];
+        const int x = i == juist ? plek : vrij[static_cast<std::size_t>(volgende++)];
+        const std::vector<point> omtrek{{x, lijn + 20}, {x + 100, lijn + 190}, {x + 40, lijn + 190}, {x + 40, 1720},
+                                        {x - 40, 1720}, {x - 40, lijn + 190},  {x - 100, lijn + 190}};
+        plaatje.polygon(omtrek, tint, true);
+        plaatje.polygon(omtrek, zwart, false);
+        druk_midden(x, 1750, woord);
+        op_plaats(i + 1, woord);
+    }
+
+    vraag("Je ziet een getallenlijn van 0 tot 1.", "Langs deze getallenlijn zijn tienden",
+          "gezet. Ook zie je een breuk gegeven.", "Welke van de vier pijlen wijst op", "de getallenlijn die breuk aan?",
+          "Kies de kleur van de juiste pijl.");
+
+    if (variant == 1) {
+        tip_1("Ga eerst gelijknamig maken...");
+        tip_2(regel("Ga eerst gelijknamig maken: neem als noemer", nieuwe_noemer, "."),
+              "Schrijf ook de tienden met die noemer.");
+    } else {
+        tip_1("Maak de breuk eerst gelijknamig met de tienden...");
+        tip_2(regel("Schrijf de breuk en de tienden met noemer", nieuwe_noemer, "."),
+              "Kijk dan tussen welke twee tienden de breuk ligt.");
+    }
+
+    const int factor = nieuwe_noemer / 10;
+    const auto grens = [&](int tienden) {
+        return regel(streepbreuk(breuk{tienden, 10}.maal(factor)), " (", kaal(tienden), "/10)");
+    };
+    uitleg("Je moet hier die breuk met tienden vergelijken. Dan moet je",
+           regel("eerst gelijknamig maken, bijv. je neemt als nieuwe noemer", nieuwe_noemer, "."),
+           regel("De breuk is dan te schrijven als ", streepbreuk(gegeven.maal(nieuwe_noemer / gegeven.noemer)), "."),
+           regel("Dat is méér dan ", grens(onder), " en minder dan ", grens(onder + 1), "."),
+           regel("De juiste kleur is dus ", pijlen[static_cast<std::size_t>(juist)].woord, "."));
+}
+
+void oefeningen::M_grootste_kleinste_03_03_click() {
+    struct krijtje {
+        std::string_view woord, kleurig;
+        kleur tint;
+    };
+    static constexpr std::array<krijtje, 4> krijtjes{
+        {{"groen", "groene", lichtgroen}, {"wit", "witte", wit}, {"geel", "gele", geel}, {"rood", "rode", rood}}};
+    enum plaats : std::size_t { groene, witte, gele, rode };
+    static constexpr std::array<breuk, 4> makkelijke{{{1, 3}, {2, 3}, {1, 4}, {3, 4}}};
+
+    kies_variant(4);
+    zaai();
+    // The green or the white one lies on one side of a simple fraction that the other of these two equals; the yellow
+    // and the red one lie on the far side.
+    const bool paar_kleiner = variant % 2 == 1;
+    const breuk maat = variant <= 2 ? breuk{1, 2} : kies(makkelijke);
+    const bool groene_apart = munt();
+    const auto op_kant = [&](bool kleiner, int most) {
+        return trek_tot([&] { return trek_breuk(toeval, 3, most); },
+                        [&](breuk drawn) { return kleiner ? drawn < maat : drawn > maat; });
+    };
+    std::array<breuk, 4> breuken{};
+    breuken[groene_apart ? groene : witte] = op_kant(!paar_kleiner, 12);
+    breuken[groene_apart ? witte : groene] = maat.maal(trek(4) + 2);
+    const breuk rood_kort = op_kant(paar_kleiner, 9);
+    breuken[rode] = rood_kort.maal(trek(2) + 2);
+    breuken[gele] = trek_tot([&] { return op_kant(paar_kleiner, 12); },
+                             [&](breuk drawn) { return drawn.noemer != rood_kort.noemer; });
+    const bool grootste = munt();
+    const bool uit_paar = grootste != paar_kleiner;
+    const auto gevraagd = grootste ? std::ranges::max_element(breuken) : std::ranges::min_element(breuken);
+    const auto juist = static_cast<std::size_t>(gevraagd - breuken.begin());
+    const bool leraar = munt();
+
+    bord(zwart, wit, 12);
+    plaatje.line_width = 4;
+    plaatje.box(60, 60, drawing::inner_width - 120, drawing::inner_height - 120, olijf);
+    plaatje.line_width = 1;
+    druk_midden(drawing::inner_width / 2, 150, "Welke breuk is ", grootste ? "GROTER" : "KLEINER", " dan de andere?");
+    juist_op(static_cast<int>(juist) + 1);
+    for (std::size_t i = 0; i < 4; ++i) {
+        const int x = 900 + static_cast<int>(i) * 1190;
+        plaatje.fore_colour = krijtjes[i].tint;
+        plaatje.text_size = 20;
+        const int breedte = text_width(kaal(breuken[i].noemer), 20) + 60;
+        teken_breuk(plaatje, x - breedte / 2, 1030, 0, breuken[i].teller, breuken[i].noemer);
+        plaatje.text_size = 12;
+        druk_midden(x, 1640, krijtjes[i].woord);
+        op_plaats(static_cast<int>(i) + 1, krijtjes[i].kleurig);
+    }
+
+    vraag("Op het schoolbord heeft een", regel(leraar ? "leraar" : "lerares", " vier breuken geschreven."), leeg,
+          regel("Welke is de ", grootste ? "grootste" : "kleinste", "?"), "Kies de juiste kleur.");
+
+    tip_1("Probeer eerst te vereenvoudigen.");
+    if (uit_paar)
+        tip_2("Probeer eerst te vereenvoudigen en daarna", "de gele en rode breuk gelijknamig te maken.");
+    else
+        tip_2("Probeer eerst te vereenvoudigen en daarna",
+              regel("elke breuk te vergelijken met ", streepbreuk(maat), "."));
+
+    const std::string grens = streepbreuk(maat);
+    const std::string apart =
+        groene_apart ? regel(paar_kleiner ? "De groene breuk is groter dan " : "De groene breuk is kleiner dan ", grens,
+                             ", terwijl de witte gelijk is")
+                     : regel(paar_kleiner ? "De witte breuk is groter dan " : "De witte breuk is kleiner dan ", grens,
+                             ", terwijl de groene gelijk is");
+    const std::string paar =
+        regel("aan ", grens,
+              paar_kleiner ? ". De gele en rode zijn beide kleiner dan " : ". De gele en rode zijn beide groter dan ",
+              grens, ".");
+    const std::string slot =
+        regel("De ", krijtjes[juist].kleurig, " breuk is dus de ", grootste ? "grootste" : "kleinste", ".");
+    if (uit_paar) {
+        const int noemer = std::lcm(rood_kort.noemer, breuken[gele].noemer);
+        const auto met_noemer = [noemer](breuk b) { return streepbreuk(b.maal(noemer / b.noemer)); };
+        uitleg(apart, paar, regel("De rode breuk is te vereenvoudigen tot ", streepbreuk(rood_kort), "."),
+               regel("Gelijknamig gemaakt is de gele breuk ", met_noemer(breuken[gele]), " en de rode ",
+                     met_noemer(rood_kort), "."),
+               slot);
+    } else
+        uitleg(apart, paar, slot);
+}
+
+void oefeningen::M_tussen_in_03_14_click() {
+    struct bordkleur {
+        std::string_view naam;
+        kleur vlak, letters;
+    };
+    static constexpr std::array<bordkleur, 4> kleuren{
+        {{"geel", geel, zwart}, {"blauw", blauw, wit}, {"rood", rood, wit}, {"groen", groen, wit}}};
+    static constexpr std::array<int, 8> noemers{3, 4, 6, 7, 8, 9, 11, 12};
+    kies_variant(2);
+    zaai();
+    // Between tenths, or between hundredths.
+    const int decimalen = variant;
+    const int schaal = variant == 1 ? 10 : 100;
+    // It lies inside a step, and the step ends before 1.
+    const breuk b = trek_tot(
+        [&] {
+            const int noemer = kies(noemers);
+            return breuk{trek(noemer - 1) + 1, noemer};
+        },
+        [&](breuk drawn) {
+            return !drawn.vereenvoudigbaar() && schaal % drawn.noemer != 0 &&
+                   drawn * breuk{schaal, 1} < breuk{schaal - 1, 1};
+        });
+    const int juist = trek(4) + 1;
+    // By colour, where the two numbers begin: the right step, and others near it or some tenths away.
+    const int stap = b.teller * schaal / b.noemer;
+    std::array<int, 4> begin{};
+    rij(begin, juist) = stap;
+    const auto afstanden = geschud(variant == 1 ? std::array{-3, -2, -1, 1, 2, 3} : std::array{-10, -2, -1, 1, 2, 10});
+    auto volgende = afstanden.begin();
+    for (int i = 1; i <= 4; ++i) {
+        if (i == juist) continue;
+        int& hier = rij(begin, i);
+        do hier = stap + *volgende++;
+        while (hier < 0 || hier > schaal - 2);
+    }
+    const auto tussen = [&](int i) {
+        const int van = rij(begin, i);
+        return regel(komma(van, decimalen), " en", komma(van + 1, decimalen));
+    };
+
+    bord(lichtgrijs, zwart, 24);
+    const int breedte = text_width(kaal(b.noemer), plaatje.text_size) + 60;
+    teken_breuk(plaatje, 1050 - breedte / 2, 1065, 0, b.teller, b.noemer);
+    plaatje.text_size = 14;
+    for (int i = 1; i <= 4; ++i) {
+        const auto& [naam, vlak, letters] = rij(kleuren, i);
+        const int y = 105 + (i - 1) * 490;
+        plaatje.filled_box(2000, y, 3200, 440, vlak);
+        plaatje.fore_colour = letters;
+        druk(2150, y + 55, naam);
+        druk_rechts(5050, y + 55, kaal(tussen(i)));
+    }
+
+    vraag("Kijk hiernaast...", leeg, "Tussen welke twee getallen", "ligt de breuk?", leeg, "Kies de juiste kleur.");
+
+    juist_op(juist);
+    for (int i = 1; i <= 4; ++i) op_plaats(i, rij(kleuren, i).naam);
+    if (variant == 1) {
+        tip_1("Eerste stap: zet de gegeven breuk in een kommagetal om.");
+        tip_2("Tweede stap: vergelijk dat kommagetal met de gegeven", "getallen...");
+    } else {
+        tip_1("Maak eerst een kommagetal van de gegeven breuk:", "deel de teller door de noemer.");
+        tip_2("Kijk daarna tussen welke twee getallen dat", "kommagetal ligt. Let op de tweede decimaal!");
+    }
+
+    const bool deelbaar = 1000 % b.noemer == 0;
+    const number_text kommagetal =
+        deelbaar ? komma_kort(b.teller * 1000 / b.noemer, 3) : komma(b.teller * 1000 / b.noemer, 3);
+    uitleg("Je kunt het beste die breuk in een kommagetal",
+           regel("omzetten:", b.teller, " delen door", b.noemer, " geeft", kommagetal, deelbaar ? "." : "..."),
+           "Als je alle mogelijkheden bekijkt zie je dat dat getal", regel("alleen tussen", tussen(juist), " ligt."),
+           regel("De juiste kleur is dus ", rij(kleuren, juist).naam, "."));
+    opdrachten(regel("PRINT_550_1690_0_14_=", kommagetal, deelbaar ? "" : "..."));
+}
+
+} // namespace cijferwerf
