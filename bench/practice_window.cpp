@@ -17,7 +17,7 @@ int main(int argc, char** argv) {
         forms.globalen.gekozen_pakket = booklet_set;
         forms.globalen.gekozen_onderdeel = "boekje01";
         mama& screen = forms.get<mama>();
-        screen.kies("BOEKJE 1 - PROCENTEN", std::string(booklet_set), true);
+        screen.zet_opschrift("BOEKJE 1 - PROCENTEN", std::string(booklet_set), true);
         screen.open();
     });
     return QApplication::exec();

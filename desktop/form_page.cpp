@@ -164,6 +164,7 @@ struct form_page::placed_control {
     struct state {
         int left, top, width, height;
         std::string caption, accessible_name;
+        char mnemonic;
         bool visible, enabled;
         std::optional<kleur> colour;
         double font_size;
@@ -183,6 +184,7 @@ struct form_page::placed_control {
                   shown.height,
                   shown.caption,
                   shown.accessible_name,
+                  shown.mnemonic,
                   shown.visible,
                   shown.enabled,
                   shown.colour,

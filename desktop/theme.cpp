@@ -8,7 +8,6 @@ namespace cijferwerf::theme {
 namespace {
 
 constexpr QColor ink(0x1B, 0x27, 0x36);
-constexpr QColor soft_ink(0x4C, 0x5A, 0x6B);
 constexpr QColor accent_dark(0x14, 0x39, 0x78);
 constexpr QColor tint(0xDF, 0xEA, 0xFA);
 constexpr QColor tint_edge(0x9C, 0xB9, 0xE4);
@@ -43,7 +42,7 @@ look at_rest(const control& shown) {
     case panel: return {.text = accent, .fill = paper, .edge = edge, .radius = 120};
     case prompt:
     case message_heading: return {.text = accent};
-    case hint: return {.text = soft_ink};
+    case hint: return {.text = paper, .fill = ink};
     case answer_button: return {.text = accent, .fill = tint, .edge = tint_edge, .radius = 105};
     case main_action: return {.text = paper, .fill = accent, .edge = accent, .radius = 105};
     case action: return {.text = accent, .fill = paper, .edge = tint_edge, .radius = 105};

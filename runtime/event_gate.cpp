@@ -27,7 +27,9 @@ void event_gate::deliver_ticks() {
     look_at_timers();
     for (auto next = next_timer(); next != due_.end() && next->second <= clock_(); next = next_timer()) {
         timer& ticking = *next->first;
-        due_[&ticking] += milliseconds(ticking.interval);
+        milliseconds& due = due_[&ticking];
+        due += milliseconds(ticking.interval);
+        if (due <= clock_()) due = clock_() + milliseconds(ticking.interval); // what else fell due meanwhile is dropped
         handle([&ticking] {
             if (ticking.tick) ticking.tick();
         });

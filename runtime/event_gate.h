@@ -1,5 +1,6 @@
 // Lets events through to the forms one at a time, and keeps the timers: a tick that falls due while a handler runs
-// (or a message box that it opened is up) waits until the handler has returned, and none is lost.
+// (or a message box that it opened is up) waits until the handler has returned. At most one tick of a timer waits, so
+// that no time goes by for a pupil who is asked something.
 // Where events come from, and when to wake up for the next tick, is left to the front end.
 #pragma once
 
@@ -36,7 +37,7 @@ public:
     void watch(form& loaded) { forms_.insert(&loaded); }
     void forget(form& unloaded);
 
-    // Delivers every tick that is due, in the order in which they fell due. Nothing while a handler runs.
+    // Delivers the ticks that are due, in the order in which they fell due. Nothing while a handler runs.
     void deliver_ticks();
     // How long until the next tick is due (0 when one is overdue); nothing when no timer runs.
     std::optional<milliseconds> until_next_tick() const;

@@ -30,12 +30,16 @@ bool form::press(char key) {
     return false;
 }
 
+void form::put(control& moved, place at) {
+    moved.left = at.left;
+    moved.top = at.top;
+    moved.width = at.width;
+    moved.height = at.height;
+}
+
 void form::add(control& added, std::string control_name, place at, theme_role role, std::string control_caption) {
     added.name = std::move(control_name);
-    added.left = at.left;
-    added.top = at.top;
-    added.width = at.width;
-    added.height = at.height;
+    put(added, at);
     added.role = role;
     added.caption = std::move(control_caption);
     controls_.push_back(&added);

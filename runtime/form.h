@@ -46,6 +46,7 @@ protected:
     virtual void load() {}
     virtual void activate() {}
 
+    static void put(control& moved, place at);
     // Takes up a control of this form. Tab order is the order of the calls.
     void add(control& added, std::string control_name, place at, theme_role role, std::string control_caption = {});
     // The same for a control without a place on the screen.

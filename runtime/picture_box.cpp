@@ -9,7 +9,8 @@ namespace cijferwerf {
 namespace {
 
 // Advance widths of Latin-1 from the blank on, in 1/2048 of the font size.
-constexpr std::array<int, 224> latin1_widths{
+using face_widths = std::array<int, 224>;
+constexpr face_widths regular_widths{
     569,  569,  727,  1139, 1139, 1821, 1366, 391,  682,  682,  797,  1196, 569,  682,  569,  569,  1139, 1139, 1139,
     1139, 1139, 1139, 1139, 1139, 1139, 1139, 569,  569,  1196, 1196, 1196, 1139, 2079, 1366, 1366, 1479, 1479, 1366,
     1251, 1593, 1479, 569,  1024, 1366, 1139, 1706, 1479, 1593, 1366, 1593, 1479, 1366, 1251, 1479, 1366, 1933, 1366,
@@ -23,6 +24,21 @@ constexpr std::array<int, 224> latin1_widths{
     1366, 1251, 1139, 1139, 1139, 1139, 1139, 1139, 1821, 1024, 1139, 1139, 1139, 1139, 569,  569,  569,  569,  1139,
     1139, 1139, 1139, 1139, 1139, 1139, 1124, 1251, 1139, 1139, 1139, 1139, 1024, 1139, 1024,
 };
+constexpr face_widths bold_widths{
+    569,  682,  971,  1139, 1139, 1821, 1479, 487,  682,  682,  797,  1196, 569,  682,  569,  569,  1139, 1139, 1139,
+    1139, 1139, 1139, 1139, 1139, 1139, 1139, 682,  682,  1196, 1196, 1196, 1251, 1997, 1479, 1479, 1479, 1479, 1366,
+    1251, 1593, 1479, 569,  1139, 1479, 1251, 1706, 1479, 1593, 1366, 1593, 1479, 1366, 1251, 1479, 1366, 1933, 1366,
+    1366, 1251, 682,  569,  682,  1196, 1139, 682,  1139, 1251, 1139, 1251, 1139, 682,  1251, 1251, 569,  569,  1139,
+    569,  1821, 1251, 1251, 1251, 1251, 797,  1139, 682,  1251, 1139, 1593, 1139, 1139, 1024, 797,  573,  797,  1196,
+    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,
+    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    0,    569,  682,  1139, 1139, 1139,
+    1139, 573,  1139, 682,  1509, 758,  1139, 1196, 682,  1509, 1131, 819,  1124, 682,  682,  682,  1180, 1139, 569,
+    682,  682,  748,  1139, 1708, 1708, 1708, 1251, 1479, 1479, 1479, 1479, 1479, 1479, 2048, 1479, 1366, 1366, 1366,
+    1366, 569,  569,  569,  569,  1479, 1479, 1593, 1593, 1593, 1593, 1593, 1196, 1593, 1479, 1479, 1479, 1479, 1366,
+    1366, 1251, 1139, 1139, 1139, 1139, 1139, 1139, 1821, 1139, 1139, 1139, 1139, 1139, 569,  569,  569,  569,  1251,
+    1251, 1251, 1251, 1251, 1251, 1251, 1124, 1251, 1251, 1251, 1251, 1251, 1139, 1251, 1139,
+};
+constexpr int ellipsis_width = 2048;
 constexpr int other_width = 1139; // the width of a digit, and of the euro sign
 
 // Takes one UTF-8 character off the front; a malformed byte counts as a character of its own.
@@ -40,17 +56,23 @@ char32_t take_character(std::string_view& text) {
     return character;
 }
 
-} // namespace
-
-int text_width(std::string_view text, double points, double stretch) {
+int width_in(const face_widths& widths, std::string_view text, double points) {
     int units = 0;
     while (!text.empty()) {
         const char32_t character = take_character(text);
-        const bool listed = character >= 0x20 && character < 0x20 + latin1_widths.size();
-        units += listed ? latin1_widths[character - 0x20] : other_width;
+        const bool listed = character >= 0x20 && character < 0x20 + widths.size();
+        units += listed ? widths[character - 0x20] : character == U'…' ? ellipsis_width : other_width;
     }
-    return static_cast<int>(std::lround(units / 2048.0 * points * 20 * stretch));
+    return static_cast<int>(std::lround(units / 2048.0 * points * 20));
 }
+
+} // namespace
+
+int text_width(std::string_view text, double points, double stretch) {
+    return width_in(regular_widths, text, points * stretch);
+}
+
+int bold_text_width(std::string_view text, double points) { return width_in(bold_widths, text, points); }
 
 void drawing::reset() {
     clear();

@@ -78,6 +78,8 @@ using drawing_op = std::variant<text_op, line_op, box_op, circle_op, polygon_op,
 // Advance width in twips of a text at so many points, at the 90 % at which picture text is set
 // (pass 1.0 for the face's own width). Source: the advance widths that Arial, Helvetica and Liberation Sans share.
 int text_width(std::string_view text, double points, double stretch = 0.9);
+// The same of its bold face, at the face's own width.
+int bold_text_width(std::string_view text, double points);
 
 // Height in twips of a line of text, from its top to its bottom, and of the top of its digits below that top.
 constexpr int text_height(double points) { return static_cast<int>(points * 20 * 1.149 + 0.5); }

@@ -117,7 +117,7 @@ private:
             screen_.unload();
             forms_.globalen.gekozen_pakket = list.set;
             forms_.globalen.gekozen_onderdeel = list.key;
-            screen_.kies(std::string(list.heading), std::string(list.set), true);
+            screen_.zet_opschrift(std::string(list.heading), std::string(list.set), true);
             screen_.open();
         });
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -2,6 +2,7 @@
 
 #include "forms/introduction/infoscherm.h"
 #include "forms/practice/explanation.h"
+#include "forms/practice/layout.h"
 #include "forms/practice/scoreblad.h"
 #include "forms/shell/menu.h"
 
@@ -31,41 +32,6 @@ constexpr kleur kleur_goed = groen;
 constexpr kleur kleur_fout = rood;
 constexpr kleur kleur_uitleg = donkerblauw;
 
-std::string letter(int place) { return std::string(1, static_cast<char>('A' + place - 1)); }
-
-// The keys of the calculator by index: face, keys of the keyboard, and what a screen reader says.
-struct toets {
-    std::string_view face, keys, spoken;
-};
-constexpr toets toetsen[calculator::keys]{
-    {"0", "0", ""},
-    {"1", "1", ""},
-    {"2", "2", ""},
-    {"3", "3", ""},
-    {"4", "4", ""},
-    {"5", "5", ""},
-    {"6", "6", ""},
-    {"7", "7", ""},
-    {"8", "8", ""},
-    {"9", "9", ""},
-    {",", ",.", "komma"},
-    {"C", "\x1b", "wis invoer"},
-    {"AC", "\x7f", "wis alles"},
-    {"+", "+", "plus"},
-    {"-", "-", "min"},
-    {"x", "*X", "keer"},
-    {"/", "/:", "gedeeld door"},
-    {"M+", "M", "in geheugen optellen"},
-    {"MR", "R", "geheugen"},
-    {"%", "%", "procent"},
-    {"=", "=\r", "is"},
-};
-constexpr int toetsenbord[3][7]{
-    {7, 8, 9, 16, 19, 17, 18},
-    {4, 5, 6, 15, 14, 11, 12},
-    {1, 2, 3, 0, 10, 13, 20},
-};
-
 // The time bar, in units of the picture box.
 constexpr int balk_midden = 2700;
 constexpr int balk_boven = 1100;
@@ -83,87 +49,7 @@ mama::mama(outside& with, formulieren& forms)
     leg_controls_neer();
 }
 
-// Places in twips; the order is the tab order.
-void mama::leg_controls_neer() {
-    using enum theme_role;
-    add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
-    add(terug, "terug", {150, 150, 1260, 420}, action, "terug");
-    add(opschriftbalk, "opschriftbalk", {1650, 150, 6300, 420}, heading);
-    opschriftbalk.font_size = 15;
-    add(info, "info", {8340, 150, 1260, 420}, action, "info");
-    add(score, "score", {9690, 150, 1260, 420}, action, "score");
-    add(stopteken, "stopteken", {11070, 150, 1260, 420}, action, "stoppen");
-
-    add(taakkiezen_label, "taakkiezen_label", {240, 765, 2100, 255}, hint);
-    add(presentatielijst, "presentatielijst", {150, 1050, 2070, 6630}, list);
-    presentatielijst.accessible_name = "opgaven";
-
-    add(vraagvlak, "vraagvlak", {2340, 840, 9990, 4500}, panel);
-    for (int i = 1; i <= 7; ++i) add(vraag[i], "vraag", {2580, 960 + (i - 1) * 300, 4140, 300}, question);
-    add(plaatje, "plaatje", {6780, 1005, drawing::inner_width, drawing::inner_height}, picture);
-    plaatje.accessible_name = "plaatje bij de opgave";
-    for (int i = 1; i <= 4; ++i) {
-        const int top = 3300 + (i - 1) * 495;
-        add(knop[i], "knop", {2580, top, 510, 450}, answer_button, letter(i));
-        knop[i].font_size = 13;
-        add(alternatief[i], "alternatief", {3180, top, 3540, 450}, answer);
-        knop[i].click = [this, i] { knop_click(i); };
-        alternatief[i].click = [this, i] { alternatief_click(i); };
-    }
-
-    add(rekenmachine, "rekenmachine", {6780, 3255, 5380, 1980}, panel);
-    add(display, "display", {6900, 3345, 5140, 390}, readout);
-    display.font_size = 14;
-    display.right_aligned = true;
-    for (int row = 0; row < 3; ++row)
-        for (int column = 0; column < 7; ++column) {
-            const int i = toetsenbord[row][column];
-            add(k[i], "k", {6900 + column * 740, 3795 + row * 465, 700, 420}, i <= 10 ? key : operator_key,
-                std::string(toetsen[i].face));
-            k[i].keys = toetsen[i].keys;
-            k[i].accessible_name = toetsen[i].spoken;
-            k[i].click = [this, i] { k_click(i); };
-        }
-
-    add(berichtvlak, "berichtvlak", {2340, 5445, 9990, 2235}, panel);
-    add(uitleg_bericht, "uitleg_bericht", {2580, 5475, 4000, 315}, message_heading);
-    uitleg_bericht.font_size = 11.25;
-    add(uitleggeven, "uitleggeven", {10380, 5535, 1800, 420}, main_action, "uitleg");
-    for (int i = 0; i <= 6; ++i)
-        add(bericht[i], "bericht", {2580, 5805 + i * 264, i < 1 ? 7800 : 9660, 264}, i == 0 ? verdict : message);
-    bericht[0].font_size = 10.5;
-
-    add(Timer1, "Timer1", 1000);
-    add(Timer2, "Timer2", 2000);
-
-    const auto number = [](auto& array) {
-        for (int i = array.first; i <= array.last; ++i) array[i].index = i;
-    };
-    number(k);
-    number(vraag);
-    number(knop);
-    number(alternatief);
-    number(bericht);
-
-    terug.mnemonic = 't';
-    info.mnemonic = 'i';
-    score.mnemonic = 's';
-    stopteken.mnemonic = 'p';
-    uitleggeven.mnemonic = 'u';
-
-    terug.click = [this] { terug_click(); };
-    terug.hover = [this] { terug_hover(); };
-    info.click = [this] { info_click(); };
-    score.click = [this] { score_click(); };
-    stopteken.click = [this] { stopteken_click(); };
-    uitleggeven.click = [this] { uitleggeven_click(); };
-    presentatielijst.click = [this] { presentatielijst_click(); };
-    presentatielijst.keypress = [this](int key) { presentatielijst_keypress(key); };
-    Timer1.tick = [this] { Timer1_tick(); };
-    Timer2.tick = [this] { Timer2_tick(); };
-}
-
-void mama::kies(std::string heading, std::string title, bool info_allowed) {
+void mama::zet_opschrift(std::string heading, std::string title, bool info_allowed) {
     opschriftbalk.caption = std::move(heading);
     caption = std::move(title);
     info_allowed_ = info_allowed;
@@ -227,7 +113,10 @@ void mama::presentatielijst_click() {
     maak(lijst_ == nullptr ? std::nullopt
                            : zoek_generator(*lijst_, presentatielijst.selected, globalen_.gekozen_oefening));
 
-    for (int i = 1; i <= 7; ++i) vraag[i].caption = vraagregels[static_cast<std::size_t>(i - 1)];
+    for (int i = 1; i <= 7; ++i) {
+        vraag[i].caption = vraagregels[static_cast<std::size_t>(i - 1)];
+        vraag[i].font_size = vraag_punten(vraagregels);
+    }
     plaats_antwoorden();
 
     pogingen = 0;
@@ -249,21 +138,32 @@ void mama::plaats_antwoorden() {
         zaai();
         right = trek(4) + 1;
     }
-    juiste_letter = letter(right);
+    juiste_letter = antwoordletter(right);
     for (int i = 1; i <= 4; ++i) {
         alternatief[i].caption = antwoord(juiste_positie == 0 ? getoond_antwoord(i, right) : i);
         alternatief[i].visible = true;
         knop[i].enabled = alternatief[i].enabled = true;
-        knop[i].accessible_name = letter(i) + ":" + alternatief[i].caption;
+        knop[i].accessible_name = antwoordletter(i) + ":" + alternatief[i].caption;
     }
+    leg_antwoorden_neer({antwoord_1, antwoord_2, antwoord_3, antwoord_4}, hulpmiddel == "REKENMACHINE");
 }
 
 void mama::toon_rekenmachine(bool shown) {
     rekenmachine.visible = display.visible = shown;
     for (button& key : k) key.visible = shown;
-    display.caption = rekenmachine_.display();
-    // The digits of the keyboard belong to the calculator while it is shown; A to D go on answering.
-    for (int i = 1; i <= 4; ++i) knop[i].keys = letter(i) + (shown ? "" : std::to_string(i));
+    ververs_display();
+    // The keyboard belongs to the calculator while it is shown; with Alt, A to D go on answering.
+    for (int i = 1; i <= 4; ++i) {
+        const std::string letter = antwoordletter(i);
+        knop[i].keys = shown ? "" : letter + std::to_string(i);
+        knop[i].mnemonic = shown ? letter[0] : '\0';
+    }
+}
+
+void mama::ververs_display() {
+    const displaytekst shown = leg_display(rekenmachine_.display(), display_breedte);
+    display.caption = shown.tekst;
+    display.font_size = shown.punten;
 }
 
 // ---- answers ----
@@ -279,43 +179,42 @@ void mama::knop_click(int i) {
     bericht[0].caption = oordelen[i - 1][right - 1];
 
     if (i == right) {
-        rond_af();
+        sluit_opgave();
+        focus = &uitleggeven;
         return;
     }
     uitleg_bericht.caption = "BERICHT";
     uitleg_bericht.colour = bericht[0].colour = kleur_fout;
     if (!tips)
-        toon_berichten(foutregels(getoond_antwoord(i, right)), kleur_fout);
+        schrijf_berichten(foutregels(getoond_antwoord(i, right)), kleur_fout);
     else if (pogingen == 1)
-        toon_berichten(tipregels_1, kleur_fout);
+        schrijf_berichten(tipregels_1, kleur_fout);
     else if (pogingen == 2)
-        toon_berichten(tipregels_2, kleur_fout);
+        schrijf_berichten(tipregels_2, kleur_fout);
     else if (pogingen == 3) {
         wis_berichten(1);
         bericht[1].colour = kleur_fout;
         bericht[1].caption = nog_een_over[i - 1];
     }
-    keuze_uit(i);
+    sluit_keuze(i);
 }
 
 // The exercise has ended, by the right answer or by the clock: what is left is its explanation, or the next title.
-void mama::rond_af() {
+void mama::sluit_opgave() {
     uitleg_bericht.caption = "UITLEG";
     uitleg_bericht.colour = bericht[0].colour = kleur_goed;
-    for (int i = 1; i <= 4; ++i) keuze_uit(i);
-    presentatielijst.enabled = true;
-    if (!uitleggeven.visible) focus = &uitleggeven; // the clock leaves a pupil be who answered and went on
-    uitleggeven.visible = true;
+    for (int i = 1; i <= 4; ++i) sluit_keuze(i);
+    presentatielijst.enabled = uitleggeven.visible = true;
 }
 
-void mama::keuze_uit(int i) { knop[i].enabled = alternatief[i].enabled = false; }
+void mama::sluit_keuze(int i) { knop[i].enabled = alternatief[i].enabled = false; }
 
 void mama::wis_berichten(int first) {
     for (int i = first; i <= 6; ++i) bericht[i].caption = leeg;
 }
 
 // The first six lines; the seventh of an array is never shown.
-void mama::toon_berichten(const tekstregels& lines, kleur colour) {
+void mama::schrijf_berichten(const tekstregels& lines, kleur colour) {
     for (int i = 1; i <= 6; ++i) {
         bericht[i].colour = colour;
         bericht[i].caption = lines[static_cast<std::size_t>(i - 1)];
@@ -327,7 +226,7 @@ void mama::toon_berichten(const tekstregels& lines, kleur colour) {
 void mama::uitleggeven_click() {
     Timer1.stop();
     teken_opdrachten(plaatje, uitlegopdrachten);
-    toon_berichten(uitlegregels, kleur_uitleg);
+    schrijf_berichten(uitlegregels, kleur_uitleg);
 
     globalen_.tel_uitslag(pogingen);
     presentatielijst.enabled = true;
@@ -352,7 +251,10 @@ void mama::Timer1_tick() {
     pogingen = 4;
     ++globalen_.goed_poging_4;
     bericht[0].caption.clear();
-    rond_af();
+    // Where a key that is just being pressed does nothing; Tab leads on to the explanation. A pupil who has answered
+    // and gone on is left be.
+    if (!uitleggeven.visible) focus = &uitleg_bericht;
+    sluit_opgave();
 }
 
 // ---- leaving ----
@@ -404,7 +306,7 @@ void mama::info_click() {
 
 void mama::k_click(int key) {
     const calculator::message message = rekenmachine_.press(key);
-    display.caption = rekenmachine_.display();
+    ververs_display();
     if (message == calculator::message::too_many_digits)
         buiten.ask("te veel cijfers", globalen_.gekozen_pakket, box_buttons::ok);
     else if (message == calculator::message::division_by_zero)

@@ -15,7 +15,7 @@ public:
     mama(outside& with, formulieren& forms);
 
     // What the menu that opens the screen puts on it: heading, title bar, and whether `info` may ever be enabled.
-    void kies(std::string heading, std::string title, bool info_allowed);
+    void zet_opschrift(std::string heading, std::string title, bool info_allowed);
 
     void close_requested() override { stopteken_click(); }
 
@@ -56,13 +56,18 @@ protected:
     void activate() override;
 
 private:
+    // Places and sizes; in mama_layout.cpp.
     void leg_controls_neer();
+    void leg_toetsen_neer();
+    void leg_antwoorden_neer(const std::array<std::string, 4>& antwoorden, bool naast_rekenmachine);
+
     void wis_berichten(int first);
-    void toon_berichten(const tekstregels& lines, kleur colour);
+    void schrijf_berichten(const tekstregels& lines, kleur colour);
     void plaats_antwoorden();
     void toon_rekenmachine(bool shown);
-    void rond_af();
-    void keuze_uit(int i);
+    void ververs_display();
+    void sluit_opgave();
+    void sluit_keuze(int i);
 
     formulieren& forms_;
     GLOBALEN& globalen_;

@@ -49,7 +49,7 @@ void menu::kies(int i) {
     forms_.globalen.gekozen_onderdeel = chosen->key;
     auto& scherm = forms_.get<mama>();
     forms_.globalen.wis_score();
-    scherm.kies(std::string(chosen->heading), std::string(set_), !chosen->drawn());
+    scherm.zet_opschrift(std::string(chosen->heading), std::string(set_), !chosen->drawn());
     unload();
     scherm.open();
 }

@@ -58,14 +58,17 @@ TEST_F(keypad, what_was_worked_out_outlives_the_exercise) {
     EXPECT_EQ(screen.display.caption, "5,");
 }
 
-TEST_F(keypad, a_digit_typed_beside_an_exercise_answers_it_only_without_a_calculator) {
+TEST_F(keypad, keys_answer_an_exercise_only_without_a_calculator_or_with_alt) {
     type("1234");
     EXPECT_EQ(screen.display.caption, "1234,");
     EXPECT_EQ(screen.pogingen, 0);
-    type("A");
-    EXPECT_EQ(screen.pogingen, 1);
+    type("C");
+    EXPECT_EQ(screen.display.caption, "0,");
+    EXPECT_FALSE(pupil.press(screen, 'A'));
+    EXPECT_EQ(screen.knop[1].mnemonic, 'A');
 
     present_with_calculator(false);
+    EXPECT_EQ(screen.knop[1].mnemonic, 0);
     EXPECT_FALSE(screen.k[5].visible);
     type("2");
     EXPECT_EQ(screen.pogingen, 1);

@@ -13,7 +13,7 @@ protected:
         outside.run([this] {
             forms.globalen.gekozen_pakket = booklet_set;
             forms.globalen.gekozen_onderdeel = "boekje01";
-            screen.kies("BOEKJE 1 - PROCENTEN", std::string(booklet_set), true);
+            screen.zet_opschrift("BOEKJE 1 - PROCENTEN", std::string(booklet_set), true);
             screen.open();
             screen.toeval.restart(1);
         });

@@ -17,7 +17,7 @@ TEST(labels, of_the_practice_screen_have_room_for_their_captions) {
     desktop outside;
     formulieren forms(outside);
     mama& screen = forms.get<mama>();
-    screen.kies("BOEKJE 10 - MENGELING ALLERLEI", "", true);
+    screen.zet_opschrift("BOEKJE 10 - MENGELING ALLERLEI", "", true);
     for (const control* shown : screen.controls())
         EXPECT_LE(width_in_face(*shown, shown->caption), shown->width - 2 * theme::padding(*shown)) << shown->name;
     const control& shown = screen.presentatielijst;

@@ -1,8 +1,7 @@
 // What holds for every exercise, whichever generator made it: each is made some hundreds of times, through all its
 // sub-variants, and read as a pupil would. A generator that is still blank is left out.
-#include "forms/practice/mama.h"
+#include "forms/practice/layout.h"
 
-#include "tests/support/fake_outside.h"
 #include "tests/support/ink.h"
 #include "tests/support/operation_text.h"
 #include "tests/support/seen.h"
@@ -11,7 +10,6 @@
 #include <map>
 #include <numbers>
 #include <set>
-#include <sstream>
 
 namespace cijferwerf {
 namespace {
@@ -233,22 +231,15 @@ TEST_P(every_exercise, ends_its_explanation_with_the_right_answer) {
 }
 
 TEST_P(every_exercise, fits_the_screen) {
-    fake_outside outside;
-    formulieren forms{outside};
-    mama& screen = forms.get<mama>();
-    const auto fits = [](const control& place, const std::string& lines) {
-        std::istringstream all(lines);
-        int count = 0;
-        for (std::string line; std::getline(all, line, '\r'); ++count)
-            EXPECT_LE(text_width(line, place.font_size, 1.0), place.width) << place.name << ": " << line;
-        EXPECT_LE(count * text_height(place.font_size), place.height + 1) << place.name << ": " << lines;
-    };
     each([&](const oefening& made) {
-        for (int i = 1; i <= 7; ++i) fits(screen.vraag[i], made.vraagregels[static_cast<std::size_t>(i - 1)]);
-        for (const std::string& answer : answers(made)) fits(screen.alternatief[1], answer);
+        const double size = vraag_punten(made.vraagregels);
+        for (const std::string& line : made.vraagregels) EXPECT_LE(text_width(line, size, 1.0), vraag_breedte) << line;
+        const antwoordindeling layout = leg_antwoorden(answers(made), made.hulpmiddel == "REKENMACHINE");
+        for (const std::string& answer : answers(made)) EXPECT_TRUE(layout.past(answer)) << answer;
         for (const tekstregels* lines : {&made.uitlegregels, &made.tipregels_1, &made.tipregels_2, &made.foutregels_2,
                                          &made.foutregels_3, &made.foutregels_4}) {
-            for (const std::string& line : *lines) fits(screen.bericht[6], line);
+            for (const std::string& line : *lines)
+                EXPECT_LE(text_width(line, bericht_punten, 1.0), bericht_breedte) << line;
             EXPECT_EQ(lines->back(), leeg) << "a seventh line is never shown";
         }
     });

@@ -340,9 +340,9 @@ TEST_F(quick, a_right_answer_does_not_stop_the_clock_but_the_explanation_does) {
     EXPECT_EQ(forms.globalen.goed_poging_4, 1);
 }
 
-TEST_F(quick, time_up_sends_to_the_explanation_only_who_was_still_at_it) {
+TEST_F(quick, time_up_moves_only_who_was_still_at_it_and_presses_nothing) {
     pupil.wait(60'000);
-    EXPECT_EQ(screen.focus, &screen.uitleggeven);
+    EXPECT_EQ(screen.focus, &screen.uitleg_bericht) << "a finger on Enter asked for the explanation";
     present("snel!");
     answer_right();
     screen.focus = nullptr; // taken by the front end

@@ -19,7 +19,7 @@ protected:
         forms.globalen.gekozen_onderdeel = key;
         const catalogue_list* list = zoek_lijst(set, key);
         screen.unload();
-        screen.kies(list == nullptr ? "" : std::string(list->heading), std::string(set), true);
+        screen.zet_opschrift(list == nullptr ? "" : std::string(list->heading), std::string(set), true);
         screen.open();
     }
     int position(std::string_view title) const {

@@ -1,0 +1,143 @@
+// Where the controls of the practice screen stand, and the keys of its calculator.
+#include "forms/practice/layout.h"
+#include "forms/practice/mama.h"
+
+namespace cijferwerf {
+
+namespace {
+
+// The keys of the calculator by index: face, keys of the keyboard, and what a screen reader says.
+struct toets {
+    std::string_view face, keys, spoken;
+};
+constexpr toets toetsen[calculator::keys]{
+    {"0", "0", ""},
+    {"1", "1", ""},
+    {"2", "2", ""},
+    {"3", "3", ""},
+    {"4", "4", ""},
+    {"5", "5", ""},
+    {"6", "6", ""},
+    {"7", "7", ""},
+    {"8", "8", ""},
+    {"9", "9", ""},
+    {",", ",.", "komma"},
+    {"C",
+     "\x1b"
+     "C",
+     "wis invoer"},
+    {"AC", "\x7f", "wis alles"},
+    {"+", "+", "plus"},
+    {"-", "-", "min"},
+    {"x", "*X", "keer"},
+    {"/", "/:", "gedeeld door"},
+    {"M+", "M", "in geheugen optellen"},
+    {"MR", "R", "geheugen"},
+    {"%", "%", "procent"},
+    {"=", "=\r", "is"},
+};
+constexpr int toetsenbord[3][7]{
+    {7, 8, 9, 16, 19, 17, 18},
+    {4, 5, 6, 15, 14, 11, 12},
+    {1, 2, 3, 0, 10, 13, 20},
+};
+
+} // namespace
+
+// Places in twips; the order is the tab order.
+void mama::leg_controls_neer() {
+    using enum theme_role;
+    add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
+    add(terug, "terug", {120, 150, 1140, 420}, action, "terug");
+    add(opschriftbalk, "opschriftbalk", {2070, 150, 6300, 420}, heading);
+    opschriftbalk.font_size = 15;
+    add(info, "info", {8700, 150, 1140, 420}, action, "info");
+    add(score, "score", {9960, 150, 1140, 420}, action, "score");
+    add(stopteken, "stopteken", {11220, 150, 1140, 420}, action, "stoppen");
+
+    add(presentatielijst, "presentatielijst", {120, 840, 2040, 6840}, list);
+    presentatielijst.accessible_name = "opgaven";
+
+    add(vraagvlak, "vraagvlak", {2280, 840, 10080, 4350}, panel);
+    for (int i = 1; i <= 7; ++i) add(vraag[i], "vraag", {2445, 960 + (i - 1) * 300, vraag_breedte, 300}, question);
+    add(plaatje, "plaatje", {6830, 990, drawing::inner_width, drawing::inner_height}, picture);
+    plaatje.accessible_name = "plaatje bij de opgave";
+    for (int i = 1; i <= 4; ++i) {
+        add(knop[i], "knop", {}, answer_button, antwoordletter(i));
+        knop[i].font_size = 13;
+        add(alternatief[i], "alternatief", {}, answer);
+        knop[i].click = [this, i] { knop_click(i); };
+        alternatief[i].click = [this, i] { alternatief_click(i); };
+    }
+    leg_antwoorden_neer({}, false);
+    leg_toetsen_neer();
+
+    add(berichtvlak, "berichtvlak", {2280, 5310, 10080, 2370}, panel);
+    add(uitleg_bericht, "uitleg_bericht", {2445, 5318, 1800, 465}, message_heading); // UITLEG/BERICHT stands alone
+    add(uitleggeven, "uitleggeven", {10410, 5355, 1800, 375}, main_action, "uitleg");
+    uitleggeven.font_size = 11.25;
+    add(bericht[0], "bericht", {3990, 5318, 6300, 465}, verdict);
+    bericht[0].font_size = 13;
+    for (int i = 1; i <= 6; ++i) {
+        add(bericht[i], "bericht", {2445, 5850 + (i - 1) * 300, bericht_breedte, 300}, message);
+        bericht[i].font_size = bericht_punten;
+    }
+    add(taakkiezen_label, "taakkiezen_label", {120, 630, 1500, 300}, hint); // over all the others
+
+    add(Timer1, "Timer1", 1000);
+    add(Timer2, "Timer2", 2000);
+
+    const auto number = [](auto& array) {
+        for (int i = array.first; i <= array.last; ++i) array[i].index = i;
+    };
+    number(k);
+    number(vraag);
+    number(knop);
+    number(alternatief);
+    number(bericht);
+
+    terug.mnemonic = 't';
+    info.mnemonic = 'i';
+    score.mnemonic = 's';
+    stopteken.mnemonic = 'p';
+    uitleggeven.mnemonic = 'u';
+
+    terug.click = [this] { terug_click(); };
+    terug.hover = [this] { terug_hover(); };
+    info.click = [this] { info_click(); };
+    score.click = [this] { score_click(); };
+    stopteken.click = [this] { stopteken_click(); };
+    uitleggeven.click = [this] { uitleggeven_click(); };
+    presentatielijst.click = [this] { presentatielijst_click(); };
+    presentatielijst.keypress = [this](int key) { presentatielijst_keypress(key); };
+    Timer1.tick = [this] { Timer1_tick(); };
+    Timer2.tick = [this] { Timer2_tick(); };
+}
+
+void mama::leg_toetsen_neer() {
+    using enum theme_role;
+    add(rekenmachine, "rekenmachine", {6830, 3270, 5380, 1800}, panel);
+    add(display, "display", {6935, 3360, 5170, 375}, readout);
+    display.right_aligned = true;
+    for (int row = 0; row < 3; ++row)
+        for (int column = 0; column < 7; ++column) {
+            const int i = toetsenbord[row][column];
+            add(k[i], "k", {6935 + column * 742, 3795 + row * 405, 718, 360}, i <= 10 ? key : operator_key,
+                std::string(toetsen[i].face));
+            k[i].keys = toetsen[i].keys;
+            k[i].accessible_name = toetsen[i].spoken;
+            k[i].click = [this, i] { k_click(i); };
+        }
+}
+
+void mama::leg_antwoorden_neer(const std::array<std::string, 4>& antwoorden, bool naast_rekenmachine) {
+    const antwoordindeling indeling = leg_antwoorden(antwoorden, naast_rekenmachine);
+    for (int i = 1; i <= 4; ++i) {
+        const auto at = static_cast<std::size_t>(i - 1);
+        put(knop[i], indeling.letters[at]);
+        put(alternatief[i], indeling.teksten[at]);
+        alternatief[i].font_size = indeling.punten;
+    }
+}
+
+} // namespace cijferwerf
