@@ -25,8 +25,8 @@ struct stapel {
     friend constexpr bool operator==(stapel, stapel) = default;
 };
 
-// Amounts in cents, up to € 100.
-using bedragen = std::bitset<10'001>;
+// Amounts in cents, up to € 50.
+using bedragen = std::bitset<5'001>;
 
 // Every amount that can be paid exactly with some of these.
 bedragen gepast_te_betalen(std::span<const stapel> geld);
