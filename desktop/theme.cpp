@@ -168,10 +168,11 @@ QColor text_colour(kleur colour) {
 }
 
 int padding(const control& shown) {
-    return is_button(shown) || shown.role == theme_role::readout || shown.kind == control_kind::list_box ||
-                   shown.kind == control_kind::frame
-               ? 105
-               : 0;
+    using enum theme_role;
+    if (shown.role == answer_button) return 0; // its letter stands in the middle
+    const bool edged = is_button(shown) || shown.role == readout || shown.role == hint ||
+                       shown.kind == control_kind::list_box || shown.kind == control_kind::frame;
+    return edged ? 105 : 0;
 }
 
 QFont font(const control& shown) {

@@ -1,6 +1,5 @@
 #include "runtime/number_text.h"
 
-#include <charconv>
 #include <cmath>
 
 namespace cijferwerf {
@@ -108,9 +107,20 @@ double lees_getal(std::string_view text) {
     const bool negative = text.starts_with('-');
     if (negative || text.starts_with('+')) text.remove_prefix(1);
     if (text.empty() || !(text.front() == '.' || (text.front() >= '0' && text.front() <= '9'))) return 0;
-    double value = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-    if (read.ec != std::errc{}) return 0;
+    constexpr double most = 1e300, most_parts = 1e15; // digits past these change nothing
+    double value = 0, parts = 1;
+    bool behind_point = false;
+    for (const char c : text) {
+        if (c == '.' && !behind_point)
+            behind_point = true;
+        else if (c < '0' || c > '9')
+            break;
+        else if (parts < most_parts) {
+            value = std::min(value * 10 + (c - '0'), most);
+            if (behind_point) parts *= 10;
+        }
+    }
+    value /= parts;
     return negative ? -value : value;
 }
 

@@ -27,8 +27,8 @@ public:
         rest_ = end == std::string_view::npos ? std::string_view() : rest_.substr(end + 1);
         return field;
     }
-    double number() { return lees_getal(text()); }
-    int units() { return static_cast<int>(std::lround(std::clamp(number(), -1e6, 1e6))); }
+    double number() { return std::clamp(lees_getal(text()), -1e6, 1e6); }
+    int units() { return static_cast<int>(std::lround(number())); }
     kleur colour() { return static_cast<kleur>(static_cast<unsigned>(units()) % aantal_kleuren); }
     std::string_view rest() const { return rest_; }
 
@@ -82,7 +82,9 @@ void tellers_noemers(drawing& on, field_reader fields) {
     for (int i = 0; i < 4; ++i) {
         const int x = fields.units();
         const int y = fields.units();
-        on.print_at(x, y, kaal(komma_kort(afgerond(fields.number(), 6), 6)));
+        std::string number = regel(kaal(punt(afgerond(fields.number(), 6), 6)));
+        std::ranges::replace(number, '.', ',');
+        on.print_at(x, y, number);
     }
 }
 

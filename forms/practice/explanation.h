@@ -19,8 +19,8 @@ namespace cijferwerf {
 //     DOORSTREPEN_x_y_px_py_value                 a red stroke of 300 units, and the value written in its place
 //     PARTJES_x_y_n_                              n spokes that cut a circle with radius 770 into equal slices
 //
-// A missing or malformed number reads as 0, a colour outside 0 to 15 is wrapped, places are held within a million
-// units and sizes within 1 to 200 points. Any other keyword, or a line without "_", draws nothing.
+// A missing or malformed number reads as 0, a colour outside 0 to 15 is wrapped, any other number is held within a
+// million either way and a size within 1 to 200 points. Any other keyword, or a line without "_", draws nothing.
 void teken_opdracht(drawing& on, std::string_view opdracht);
 
 // Draws the commands in order, up to the first that is a single blank.

@@ -48,6 +48,9 @@ TEST(explanation, draws_each_command_as_it_says) {
         {"TELLERSNOEMERS_100_200_3_100_300_-4_500_200_1.5_500_300_6",
          {"text 100,200 colour 0 size 8 \"3\"", "text 100,300 colour 0 size 8 \"-4\"",
           "text 500,200 colour 0 size 8 \"1,5\"", "text 500,300 colour 0 size 8 \"6\""}},
+        {"TELLERSNOEMERS_1_2_1250_1_2_0.0625_1_2_-1234567_1_2_1" + std::string(400, '0'),
+         {"text 1,2 colour 0 size 8 \"1250\"", "text 1,2 colour 0 size 8 \"0,0625\"",
+          "text 1,2 colour 0 size 8 \"-1000000\"", "text 1,2 colour 0 size 8 \"1000000\""}},
     };
     for (const auto& row : rows) EXPECT_EQ(by(row.opdracht), row.expected) << row.opdracht;
 }

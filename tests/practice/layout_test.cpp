@@ -1,0 +1,54 @@
+#include "forms/practice/layout.h"
+
+#include <gtest/gtest.h>
+
+namespace cijferwerf {
+namespace {
+
+std::string letters(int number) { return std::string(static_cast<std::size_t>(number), 'W'); }
+
+TEST(layout, takes_the_largest_size_that_fits_all_lines_of_a_question) {
+    const std::pair<int, double> rows[]{{20, 11.25}, {21, 10.5}, {22, 9.75}, {23, 9.75}};
+    for (const auto& [widest, points] : rows) {
+        tekstregels regels;
+        regels[6] = letters(widest);
+        EXPECT_EQ(vraag_punten(regels), points) << widest;
+    }
+}
+
+TEST(layout, lays_answers_two_by_two_where_they_fit_and_in_a_column_where_they_must) {
+    const struct {
+        std::string widest;
+        bool calculator;
+        double points;
+        int last_left, last_top;
+        bool fits = true;
+    } rows[]{
+        {letters(10), false, 13, 8200, 4200},    {letters(12), false, 11.25, 8200, 4200},
+        {letters(14), false, 9.75, 8200, 4200},  {letters(15), false, 13, 2922, 4665},
+        {letters(10), true, 13, 2922, 4665},     {letters(15), true, 9.75, 2922, 4665, false},
+        {"W\rW\r", false, 11.25, 8200, 4200},    {letters(14) + "\rW", false, 9.75, 8200, 4200},
+        {"W\rW", true, 9.75, 2922, 4665, false},
+    };
+    for (const auto& row : rows) {
+        const std::array<std::string, 4> answers{" 1", row.widest, " 2", " 3"};
+        const antwoordindeling made = leg_antwoorden(answers, row.calculator);
+        EXPECT_EQ(made.punten, row.points) << row.widest;
+        EXPECT_EQ(made.teksten[3].left, row.last_left) << row.widest;
+        EXPECT_EQ(made.teksten[3].top, row.last_top) << row.widest;
+        EXPECT_EQ(made.past(row.widest), row.fits) << row.widest;
+    }
+}
+
+TEST(layout, shows_the_first_digits_of_a_number_however_long) {
+    const std::pair<std::size_t, double> rows[]{{31, 14}, {32, 12}, {54, 8.25}};
+    for (const auto& [digits, points] : rows) {
+        const displaytekst shown = leg_display(std::string(digits, '8'), display_breedte);
+        EXPECT_EQ(shown.punten, points) << digits;
+        EXPECT_EQ(shown.tekst, std::string(digits, '8'));
+    }
+    EXPECT_EQ(leg_display(std::string(300, '8'), display_breedte).tekst, std::string(52, '8') + "…");
+}
+
+} // namespace
+} // namespace cijferwerf
