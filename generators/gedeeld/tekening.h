@@ -1,0 +1,75 @@
+// What every drawing of the exercises is made of: a rectangle, the state that is put back, text around a place, arrows
+// and lines that tell a measure. Whole drawings are made in the other files beside this one.
+//
+// Everything here is in twips. Text is printed in the drawing's own colour and text size, unless a verb says otherwise,
+// and every verb leaves colour, text size and lines as it found them.
+#pragma once
+
+#include "runtime/picture_box.h"
+
+#include <cmath>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace cijferwerf {
+
+struct vlak {
+    int links = 0, boven = 0, breedte = 0, hoogte = 0;
+
+    constexpr int rechts() const { return links + breedte; }
+    constexpr int onder() const { return boven + hoogte; }
+    constexpr point midden() const { return {links + breedte / 2, boven + hoogte / 2}; }
+    bool operator==(const vlak&) const = default;
+};
+
+// Puts colour, text size, width and style of lines back when it goes.
+class zelfde_stand {
+public:
+    explicit zelfde_stand(drawing& on)
+        : on_(on),
+          colour_(on.fore_colour),
+          size_(on.text_size),
+          width_(on.line_width),
+          style_(on.style) {}
+    ~zelfde_stand() {
+        on_.fore_colour = colour_;
+        on_.text_size = size_;
+        on_.line_width = width_;
+        on_.style = style_;
+    }
+    zelfde_stand(const zelfde_stand&) = delete;
+    zelfde_stand& operator=(const zelfde_stand&) = delete;
+
+private:
+    drawing& on_;
+    kleur colour_;
+    double size_;
+    int width_;
+    line_style style_;
+};
+
+// White or black, whichever is read best on this ground: the contrast is 4.5 or more on each of the sixteen.
+constexpr kleur leesbaar_op(kleur grond) {
+    const bool donker = grond <= paars || grond == blauw;
+    return donker ? wit : zwart;
+}
+
+// From the top of a line of text to the middle of its digits.
+constexpr int halve_regel(double points) { return static_cast<int>(points * 20 * 0.5585 + 0.5); }
+
+// The point at this distance, at this angle: degrees, counter-clockwise from three o'clock.
+point op_cirkel(point midden, double straal, double graden);
+
+// One line of text with its middle at a point.
+void druk_om(drawing& on, point midden, std::string_view tekst);
+
+// An arrow from one point to another, in a colour, with a black edge so that light colours show on a light ground.
+void teken_pijl(drawing& on, point van, point naar, kleur kleur_pijl);
+
+// A line that tells a measure: a dash across each end, the text in a gap in the middle. Where the line is too short for
+// that, the text stands below it; beside an upright one to the right when it is drawn downward, else to the left. The
+// text of a slanting line, which rises to the right, stands below its right.
+void teken_maat(drawing& on, point van, point naar, std::string_view tekst);
+
+} // namespace cijferwerf

@@ -1,0 +1,65 @@
+#include "generators/gedeeld/tekening_geld.h"
+
+#include "runtime/checked_error.h"
+
+#include <algorithm>
+#include <array>
+
+namespace cijferwerf {
+
+namespace {
+
+struct muntsoort {
+    int cent;
+    int middellijn; // tenths of a millimetre
+    kleur rand, hart;
+};
+constexpr std::array<muntsoort, 8> munten{{{1, 163, donkerrood, donkerrood},
+                                           {2, 188, donkerrood, donkerrood},
+                                           {5, 213, donkerrood, donkerrood},
+                                           {10, 198, geel, geel},
+                                           {20, 223, geel, geel},
+                                           {50, 243, geel, geel},
+                                           {100, 233, geel, lichtgrijs},
+                                           {200, 258, lichtgrijs, geel}}};
+
+struct briefsoort {
+    int euro;
+    kleur tint;
+};
+constexpr std::array<briefsoort, 7> briefjes{
+    {{5, grijs}, {10, rood}, {20, blauw}, {50, olijf}, {100, groen}, {200, geel}, {500, paars}}};
+
+} // namespace
+
+void teken_munt(drawing& on, point midden, int straal, int cent) {
+    const auto* soort = std::ranges::find(munten, cent, &muntsoort::cent);
+    if (soort == munten.end()) throw checked_error("no coin of " + std::to_string(cent) + " cents");
+    const zelfde_stand bewaard(on);
+    on.line_width = 1;
+    const int buiten = straal * soort->middellijn / munten.back().middellijn;
+    const int binnen = buiten * (soort->rand == soort->hart ? 90 : 76) / 100;
+    on.filled_circle(midden.x, midden.y, buiten, soort->rand);
+    on.circle(midden.x, midden.y, buiten, zwart);
+    on.filled_circle(midden.x, midden.y, binnen, soort->hart);
+    on.circle(midden.x, midden.y, binnen, leesbaar_op(soort->rand));
+    on.fore_colour = leesbaar_op(soort->hart);
+    on.text_size = buiten / 28.0;
+    druk_om(on, midden, cent < 100 ? regel(kaal(cent), " c") : regel("€", cent / 100));
+}
+
+void teken_briefje(drawing& on, int links, int boven, int breedte, int euro) {
+    const auto* soort = std::ranges::find(briefjes, euro, &briefsoort::euro);
+    if (soort == briefjes.end()) throw checked_error("no note of " + std::to_string(euro) + " euros");
+    const zelfde_stand bewaard(on);
+    on.line_width = 1;
+    const int hoogte = breedte / 2, rand = breedte / 16;
+    on.filled_box(links, boven, breedte, hoogte, soort->tint);
+    on.box(links, boven, breedte, hoogte, zwart);
+    on.filled_box(links + rand, boven + rand, breedte - 2 * rand, hoogte - 2 * rand, wit);
+    on.fore_colour = zwart;
+    on.text_size = breedte / 60.0;
+    druk_om(on, {links + breedte / 2, boven + hoogte / 2}, regel("€", euro));
+}
+
+} // namespace cijferwerf

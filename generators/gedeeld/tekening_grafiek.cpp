@@ -1,0 +1,175 @@
+#include "generators/gedeeld/tekening_grafiek.h"
+
+#include "runtime/checked_error.h"
+
+#include <algorithm>
+#include <array>
+#include <numbers>
+#include <numeric>
+
+namespace cijferwerf {
+
+namespace {
+
+constexpr int room = 50; // between an axis and its labels
+
+// The place of a value between two ends, half up.
+int tussen(int waarde, const asschaal& langs, int van, int tot) {
+    return van + static_cast<int>(std::lround(1.0 * (waarde - langs.van) * (tot - van) / (langs.tot - langs.van)));
+}
+
+} // namespace
+
+assen::assen(drawing& on, const vlak& plot, asschaal langs_x, asschaal langs_y)
+    : on_(on),
+      plot_(plot),
+      langs_x_(langs_x),
+      langs_y_(langs_y) {
+    if (langs_x.tot <= langs_x.van || langs_y.tot <= langs_y.van || langs_x.stap < 1 || langs_y.stap < 1)
+        throw checked_error("an axis without length");
+    const zelfde_stand bewaard(on);
+    on.line_width = 2;
+    on.line(plot.links, plot.boven, plot.links, plot.onder(), on.fore_colour);
+    on.line(plot.links, plot.onder(), plot.rechts(), plot.onder(), on.fore_colour);
+}
+
+int assen::x(int waarde) const { return tussen(waarde, langs_x_, plot_.links, plot_.rechts()); }
+int assen::y(int waarde) const { return tussen(waarde, langs_y_, plot_.onder(), plot_.boven); }
+
+void assen::lijnen_op() {
+    const zelfde_stand bewaard(on_);
+    on_.line_width = 1;
+    for (int waarde = langs_y_.van + langs_y_.stap; waarde <= langs_y_.tot; waarde += langs_y_.stap)
+        on_.line(plot_.links, y(waarde), plot_.rechts(), y(waarde), lichtgrijs);
+}
+
+void assen::lijnen_langs() {
+    const zelfde_stand bewaard(on_);
+    on_.line_width = 1;
+    for (int waarde = langs_x_.van + langs_x_.stap; waarde <= langs_x_.tot; waarde += langs_x_.stap)
+        on_.line(x(waarde), plot_.boven, x(waarde), plot_.onder(), lichtgrijs);
+}
+
+void assen::getallen_links(std::string_view achter) {
+    for (int waarde = langs_y_.van; waarde <= langs_y_.tot; waarde += langs_y_.stap)
+        on_.print_right(plot_.links - room, y(waarde) - halve_regel(on_.text_size),
+                        regel(kaal(duizend(waarde)), achter));
+}
+
+void assen::getallen_onder() {
+    for (int waarde = langs_x_.van; waarde <= langs_x_.tot; waarde += langs_x_.stap)
+        on_.print_centred(x(waarde), plot_.onder() + room / 2, regel(kaal(duizend(waarde))));
+}
+
+void assen::namen_onder(const std::vector<std::string>& namen) {
+    int links = langs_x_.van;
+    for (const std::string& naam : namen) {
+        on_.print_centred((x(links) + x(links + langs_x_.stap)) / 2, plot_.onder() + room / 2, naam);
+        links += langs_x_.stap;
+    }
+}
+
+void assen::naam_boven(std::string_view naam) {
+    // Clear of the uppermost number, half of which rises above the plot.
+    const int left = std::max(plot_.links - text_width(naam, on_.text_size) / 2, 60);
+    on_.print_at(left, plot_.boven - text_height(on_.text_size) * 3 / 2, naam);
+}
+
+void assen::naam_rechts(std::string_view naam) {
+    on_.print_at(plot_.rechts() + 2 * room, plot_.onder() - halve_regel(on_.text_size), naam);
+}
+
+void assen::lijn(const std::vector<point>& waarden, kleur met, bool stippen) {
+    constexpr int dot = 32;
+    const zelfde_stand bewaard(on_);
+    on_.line_width = 2;
+    for (std::size_t i = 1; i < waarden.size(); ++i)
+        on_.line(x(waarden[i - 1].x), y(waarden[i - 1].y), x(waarden[i].x), y(waarden[i].y), met);
+    if (!stippen) return;
+    for (const point& waarde : waarden) on_.filled_circle(x(waarde.x), y(waarde.y), dot, met);
+}
+
+vlak assen::kolom(int van, int tot, int waarde, kleur met) {
+    const vlak staat{x(van), y(waarde), x(tot) - x(van), plot_.onder() - y(waarde)};
+    const zelfde_stand bewaard(on_);
+    on_.line_width = 1;
+    on_.filled_box(staat.links, staat.boven, staat.breedte, staat.hoogte, met);
+    on_.box(staat.links, staat.boven, staat.breedte, staat.hoogte, zwart);
+    return staat;
+}
+
+void teken_taart(drawing& on, point midden, int straal, const std::vector<taartdeel>& delen, double vanaf) {
+    const zelfde_stand bewaard(on);
+    const int geheel =
+        std::accumulate(delen.begin(), delen.end(), 0, [](int sum, const taartdeel& each) { return sum + each.deel; });
+    struct sector {
+        double vanaf, sweep;
+    };
+    std::vector<sector> sectoren;
+    for (const taartdeel& each : delen) {
+        sectoren.push_back({vanaf, 360.0 * each.deel / geheel});
+        vanaf += sectoren.back().sweep;
+    }
+    on.line_width = 1;
+    for (std::size_t i = 0; i < delen.size(); ++i) {
+        on.sector(midden.x, midden.y, straal, sectoren[i].vanaf, sectoren[i].sweep, delen[i].vulling, true);
+        if (delen[i].gestreept)
+            arceer_sector(on, midden, straal, sectoren[i].vanaf, sectoren[i].sweep, leesbaar_op(delen[i].vulling));
+    }
+    on.line_width = 2;
+    for (const sector& each : sectoren) on.sector(midden.x, midden.y, straal, each.vanaf, each.sweep, zwart, false);
+    for (std::size_t i = 0; i < delen.size(); ++i) {
+        if (delen[i].tekst.empty()) continue;
+        on.fore_colour = leesbaar_op(delen[i].vulling);
+        druk_om(on, op_cirkel(midden, straal * 0.63, sectoren[i].vanaf + sectoren[i].sweep / 2), delen[i].tekst);
+    }
+}
+
+void arceer_sector(drawing& on, point midden, int straal, double vanaf, double sweep, kleur met) {
+    constexpr int distance = 75; // from line to line
+    const zelfde_stand bewaard(on);
+    on.line_width = 1;
+    const auto in_sector = [&](double right, double up) {
+        const double past = std::atan2(up, right) * 180 / std::numbers::pi - vanaf;
+        return past - std::floor(past / 360) * 360 <= sweep;
+    };
+    // Each line runs at 45 degrees; its points are c · (-√½, √½) + t · (√½, √½), up being positive.
+    const double r = std::sqrt(0.5);
+    for (int c = -straal + distance / 2; c < straal; c += distance) {
+        const double half = std::sqrt(1.0 * straal * straal - 1.0 * c * c);
+        std::vector<double> cuts{-half, half};
+        for (const double edge : {vanaf, vanaf + sweep}) {
+            const double hoek = edge * std::numbers::pi / 180;
+            // Where the radius crosses the line: its point there has the same distance c.
+            const double across = r * (std::sin(hoek) - std::cos(hoek));
+            const double length = across == 0 ? -1 : c / across;
+            if (length > 0 && length < straal && sweep < 360)
+                cuts.push_back(length * r * (std::cos(hoek) + std::sin(hoek)));
+        }
+        std::ranges::sort(cuts);
+        for (std::size_t i = 1; i < cuts.size(); ++i) {
+            const auto at = [&](double t) { return std::array{(t - c) * r, (t + c) * r}; };
+            const auto [right, up] = at((cuts[i - 1] + cuts[i]) / 2);
+            if (!in_sector(right, up)) continue;
+            const auto from = at(cuts[i - 1]), to = at(cuts[i]);
+            const auto whole = [](double value) { return static_cast<int>(std::lround(value)); };
+            on.line(midden.x + whole(from[0]), midden.y - whole(from[1]), midden.x + whole(to[0]),
+                    midden.y - whole(to[1]), met);
+        }
+    }
+}
+
+int teken_legenda(drawing& on, int x, int y, const std::vector<legendaregel>& regels) {
+    const zelfde_stand bewaard(on);
+    on.line_width = 1;
+    const int step = text_height(on.text_size) * 5 / 4, side = step * 3 / 5;
+    for (const legendaregel& each : regels) {
+        on.filled_box(x, y + (step - side) / 2, side, side, each.vulling);
+        on.box(x, y + (step - side) / 2, side, side, on.fore_colour);
+        on.print_at(x + side * 3 / 2, y + step / 2 - halve_regel(on.text_size), each.naam);
+        y += step;
+    }
+    return y;
+}
+
+} // namespace cijferwerf

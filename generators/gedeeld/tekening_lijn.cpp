@@ -1,0 +1,41 @@
+#include "generators/gedeeld/tekening_lijn.h"
+
+namespace cijferwerf {
+
+namespace {
+
+constexpr int half_mark = 65, half_long_mark = 110;
+
+} // namespace
+
+getallenlijn::getallenlijn(drawing& on, int links, int rechts, int y, int delen)
+    : on_(on),
+      links_(links),
+      rechts_(rechts),
+      y_(y),
+      delen_(delen) {
+    const zelfde_stand bewaard(on);
+    on.line_width = 2;
+    on.line(links, y, rechts, y, on.fore_colour);
+    for (int i = 0; i <= delen; ++i) {
+        const int half = i == 0 || i == delen ? half_long_mark : half_mark;
+        on.line(x(i), y - half, x(i), y + half, on.fore_colour);
+    }
+}
+
+int getallenlijn::x(int streepje) const { return links_ + (rechts_ - links_) * streepje / delen_; }
+
+void getallenlijn::getal(int streepje, std::string_view tekst) {
+    const zelfde_stand bewaard(on_);
+    on_.line_width = 2;
+    on_.line(x(streepje), y_ - half_long_mark, x(streepje), y_ + half_long_mark, on_.fore_colour);
+    on_.print_centred(x(streepje), y_ + half_long_mark + 20, tekst);
+}
+
+void getallenlijn::pijl(int streepje, kleur met, std::string_view naam, int lengte) {
+    const int tip = y_ - half_long_mark - 20;
+    teken_pijl(on_, {x(streepje), tip - lengte}, {x(streepje), tip}, met);
+    on_.print_centred(x(streepje), tip - lengte - text_height(on_.text_size), naam);
+}
+
+} // namespace cijferwerf

@@ -1,0 +1,25 @@
+#include "generators/gedeeld/tekening_som.h"
+
+#include <algorithm>
+
+namespace cijferwerf {
+
+int teken_kolomsom(drawing& on, int rechts, int boven, const std::vector<somregel>& getallen, std::string_view teken) {
+    constexpr int past = 50; // how far the bar reaches past the digits
+    const zelfde_stand bewaard(on);
+    const int digit = text_width("0", on.text_size), step = text_height(on.text_size);
+    int left = rechts, right = rechts, y = boven;
+    for (const auto& [getal, inspringing] : getallen) {
+        const int end = rechts - inspringing * digit;
+        on.print_right(end, y, getal);
+        left = std::min(left, end - text_width(getal, on.text_size));
+        right = std::max(right, end);
+        y += step;
+    }
+    on.line_width = 2;
+    on.line(left - past, y + 25, right + past, y + 25, on.fore_colour);
+    on.print_at(right + 2 * past, y + 25 - halve_regel(on.text_size), teken);
+    return y + 40;
+}
+
+} // namespace cijferwerf
