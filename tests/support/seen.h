@@ -9,32 +9,16 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <regex>
 
 namespace cijferwerf {
 
 // " 1.250,5 euro" is 1250.5.
-inline double decimal(std::string text) {
-    std::erase(text, '.');
-    std::ranges::replace(text, ',', '.');
-    return lees_getal(text);
-}
-
+double decimal(std::string text);
 inline int whole(const std::string& text) { return static_cast<int>(decimal(text)); }
-
 // "1 3/8", "3/4" or "12".
-inline breuk fraction(const std::string& text) {
-    static const std::regex number(R"( ?(?:(\d+)(?: |$))?(?:(\d+)/(\d+))?)");
-    std::smatch part;
-    EXPECT_TRUE(std::regex_match(text, part, number)) << text;
-    return gemengd_getal(whole(part[1]), whole(part[2]), part[3].matched ? whole(part[3]) : 1);
-}
+breuk fraction(const std::string& text);
 
-inline drawing explained(const oefening& made) {
-    drawing board = made.plaatje;
-    teken_opdrachten(board, made.uitlegopdrachten);
-    return board;
-}
+drawing explained(const oefening& made);
 
 struct seen {
     const oefening& made;
@@ -46,15 +30,7 @@ struct seen {
     std::string explanation;
     std::string last; // line of it
 
-    explicit seen(const oefening& exercise)
-        : made(exercise),
-          question(joined(exercise.vraagregels)),
-          explanation(joined(exercise.uitlegregels)) {
-        for (const std::string& line : made.uitlegregels)
-            if (line != leeg) last = line;
-        look_at(made.plaatje);
-        right = answer(right_place());
-    }
+    explicit seen(const oefening& exercise);
     // The same with the explanation drawn on the picture.
     seen when_explained() const {
         seen later = *this;
@@ -75,12 +51,12 @@ struct seen {
         return all;
     }
     // What a pupil is told who picks this wrong answer, 1 to 4 in the order of answers().
-    std::string feedback(int which) const {
-        const std::array all{&made.foutregels_2, &made.foutregels_3, &made.foutregels_4};
-        return joined(*all.at(static_cast<std::size_t>(oefening::getoond_antwoord(which, right_place()) - 2)));
-    }
+    std::string feedback(int which) const;
+    // The question and the words of the picture, " | " between them.
+    std::string sheet() const;
 
-    // The groups of a pattern that is found in the question, in the explanation, or in a text of the picture.
+    // The groups of a regular expression that is found in the question, in the explanation, or in a text of the
+    // picture.
     std::vector<std::string> asked(const char* pattern) const { return groups(question, pattern); }
     std::vector<std::string> told(const char* pattern) const { return groups(explanation, pattern); }
     std::vector<std::string> shown(std::size_t word, const char* pattern) const {
@@ -92,35 +68,12 @@ struct seen {
     }
 
 private:
-    void look_at(const drawing& drawn) {
-        texts.clear();
-        words.clear();
-        blocks.clear();
-        for (const drawing_op& operation : drawn.operations()) {
-            if (const auto* text = std::get_if<text_op>(&operation)) {
-                texts.push_back(*text);
-                words.push_back(text->text);
-            }
-            if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled)
-                blocks.push_back(*box);
-        }
-    }
-    // The lines that are not empty, each with a blank behind it.
-    static std::string joined(const tekstregels& lines) {
-        std::string all;
-        for (const std::string& line : lines)
-            if (line != leeg) all += line + ' ';
-        return all;
-    }
-    static std::vector<std::string> groups(const std::string& text, const char* pattern) {
-        const std::regex wanted(pattern);
-        std::smatch found;
-        EXPECT_TRUE(std::regex_search(text, found, wanted)) << text << " is not " << pattern;
-        std::vector<std::string> all(found.begin(), found.end());
-        all.resize(wanted.mark_count() + 1);
-        return all;
-    }
+    void look_at(const drawing& drawn);
+    static std::vector<std::string> groups(const std::string& text, const char* pattern);
 };
+
+// The lines that are not empty, each with a blank behind it.
+std::string joined(const tekstregels& lines);
 
 // Calls check(exercise) for one exercise of this generator after another, until something fails.
 template<class Check>

@@ -2,6 +2,7 @@
 #include "tests/support/seen.h"
 
 #include <map>
+#include <regex>
 #include <set>
 
 namespace cijferwerf {

@@ -1,6 +1,7 @@
 // Fractions as numbers, worked out again from what a pupil sees: the question, the picture, the answers.
 #include "tests/support/seen.h"
 
+#include <regex>
 #include <set>
 
 namespace cijferwerf {

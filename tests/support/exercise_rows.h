@@ -1,0 +1,157 @@
+// A family's test as a table: a row tells what an exercise draws and how its answers follow from that, and at least 840
+// exercises (up to 30,000, until all that the row names has occurred) are held against it. What no row can say -
+// clocks, graphs - is a function in the row's check. Rows stand in tests/generators/<family>/<family>_test.cpp, as many
+// files as the family has, and what the properties of every exercise are not to ask of an exercise in exceptions.cpp
+// beside them (exceptions.h).
+//
+//     const exercise_rows percentages{
+//         {.id = L_voetbal_01_08_click,
+//          .variants = 5,
+//          .reads = "zitten # mensen. Hiervan is # % supporter",
+//          .ranges = {{{3000, 12000}, {55, 94}}},
+//          .right = v[0] * (100 - v[1]) / 100,
+//          .wrong = {{"AANTAL berekenen", 100 - v[1]},
+//                    {"THUIS", v[0] * v[1] / 100},
+//                    {"groter dan het totale aantal", v[0] + v[0] * (100 - v[1]) / 100}},
+//          .explains = {{"1 % van alle toeschouwers gelijk aan #", {v[0] / 100}}},
+//          .tips = {"Reken eerst het percentage", "Neem dan 1 %"}},
+//     };
+//
+// Patterns are those of pattern.h: "#" reads a number, "(een|twee)" a choice as 0 or 1, "@" a word, "$0" stands for a
+// number that was read before. v[0], v[1], ... are the numbers that `reads` finds, in order, then those of `counts`. A
+// formula is an expression in them, or a lambda [](const reading& n) { return n[0] ...; } that returns a number or a
+// text; says("# : #", v[1], v[0]) is an answer that looks like that. Sub-variants that differ have rows of their own
+// with `of`. Write the numbers of a table by hand and compute another way than the generator does.
+#pragma once
+
+#include "tests/support/seen.h"
+
+#include <cmath>
+#include <functional>
+#include <initializer_list>
+#include <variant>
+
+namespace cijferwerf {
+
+// What `reads` found in one exercise.
+struct reading {
+    const seen& exercise;
+    std::vector<double> numbers;
+    std::vector<std::string> words;
+
+    double operator[](std::size_t i) const { return numbers.at(i); }
+    int variant() const { return exercise.made.variant; }
+};
+
+// How a wrong answer lies to the right one, where no formula tells its value.
+enum class lies { below, above, elsewhere };
+
+// A text that looks like a pattern and has these numbers.
+struct told_numbers {
+    std::string pattern;
+    std::vector<double> numbers;
+};
+
+// A value (compared with the number of the answer, whatever its unit), the text of an answer, or how it lies.
+using outcome = std::variant<double, std::string, told_numbers, lies>;
+
+// How an outcome follows from what was read: v[0] * (100 - v[1]) / 100, 7, "geel", lies::below, or a function of the
+// reading that returns a number or a text.
+class formula {
+public:
+    template<class Number>
+    requires std::is_arithmetic_v<Number> formula(Number number)
+        : get_([number](const reading&) -> outcome { return static_cast<double>(number); }) {}
+    formula(const char* text) : get_([text](const reading&) -> outcome { return std::string(text); }) {}
+    formula(lies how) : get_([how](const reading&) -> outcome { return how; }) {}
+    template<class Function>
+    requires std::is_invocable_v<Function, const reading&> formula(Function function)
+        : get_([function](const reading& of) -> outcome {
+              if constexpr (std::is_arithmetic_v<decltype(function(of))>)
+                  return static_cast<double>(function(of));
+              else
+                  return function(of);
+          }) {}
+
+    outcome operator()(const reading& of) const { return get_(of); }
+
+private:
+    std::function<outcome(const reading&)> get_;
+};
+
+formula operator+(const formula& a, const formula& b);
+formula operator-(const formula& a, const formula& b);
+formula operator*(const formula& a, const formula& b);
+formula operator/(const formula& a, const formula& b);
+// An answer like says("# : #", v[1], v[0]).
+template<class... Formulas>
+formula says(const char* pattern, const Formulas&... numbers) {
+    return [=](const reading& of) -> outcome {
+        return told_numbers{pattern, {std::get<double>(formula(numbers)(of))...}};
+    };
+}
+// How many filled boxes of a colour the picture has.
+inline formula blocks(kleur colour) {
+    return [colour](const reading& of) { return of.exercise.of_colour(colour); };
+}
+// Half up, to so many decimals.
+formula rounded(const formula& a, int decimals = 0);
+double rounded(double value, int decimals = 0);
+inline bool same(double a, double b) { return std::abs(a - b) <= 1e-9 * std::max({1.0, std::abs(a), std::abs(b)}); }
+
+// The numbers that were read.
+inline constexpr struct {
+    formula operator[](std::size_t i) const {
+        return [i](const reading& of) { return of[i]; };
+    }
+} v;
+
+// Smallest and largest of a number; both must be drawn, or (where that is too rare) a number this near to each.
+struct span {
+    double smallest, largest, near = 0;
+};
+
+// A piece of the feedback ("": none is given) and the answer beside which it must stand.
+struct mistake {
+    const char* piece;
+    formula value;
+};
+
+// A pattern that the explanation, in words or as drawn, must show, and its numbers in order.
+struct statement {
+    const char* pattern;
+    std::vector<formula> numbers = {};
+};
+
+struct exercise_row {
+    oefening_id id;
+    // How many sub-variants there are.
+    int variants = 1;
+    // Those that this row is about, where others have rows of their own.
+    std::vector<int> of = {};
+    // Looked for in the question and the words of the picture: "question | word | word | ...".
+    const char* reads = "";
+    // More numbers, of which no text tells: they go on in v behind those that `reads` finds.
+    std::vector<formula> counts = {};
+    // Of each number: once for all the row's sub-variants, or for each of them.
+    std::vector<std::vector<span>> ranges = {};
+    // How many different words each @ shows.
+    std::vector<std::size_t> words = {};
+    formula right = lies::elsewhere;
+    // Every wrong answer is one of these, and every one of these occurs.
+    std::vector<mistake> wrong = {};
+    std::vector<statement> explains = {};
+    // A piece that the first tip alone has, and one that the second alone has.
+    std::vector<const char*> tips = {};
+    // The time limit: none, one for all sub-variants, or one for each.
+    std::vector<int> ticks = {};
+    bool calculator = false;
+    std::function<void(const reading&)> check = nullptr;
+};
+
+// Adds a test for each row to the program.
+struct exercise_rows {
+    exercise_rows(std::initializer_list<exercise_row> rows);
+};
+
+} // namespace cijferwerf

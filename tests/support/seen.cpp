@@ -1,0 +1,80 @@
+#include "tests/support/seen.h"
+
+#include "tests/support/pattern.h"
+
+#include <map>
+#include <regex>
+
+namespace cijferwerf {
+
+double decimal(std::string text) {
+    std::erase(text, '.');
+    std::ranges::replace(text, ',', '.');
+    return lees_getal(text);
+}
+
+breuk fraction(const std::string& text) {
+    static const std::regex number(R"( ?(?:(\d+)(?: |$))?(?:(\d+)/(\d+))?)");
+    std::smatch part;
+    EXPECT_TRUE(std::regex_match(text, part, number)) << text;
+    return gemengd_getal(whole(part[1]), whole(part[2]), part[3].matched ? whole(part[3]) : 1);
+}
+
+drawing explained(const oefening& made) {
+    drawing board = made.plaatje;
+    teken_opdrachten(board, made.uitlegopdrachten);
+    return board;
+}
+
+std::string joined(const tekstregels& lines) {
+    std::string all;
+    for (const std::string& line : lines)
+        if (line != leeg) all += line + ' ';
+    return all;
+}
+
+seen::seen(const oefening& exercise)
+    : made(exercise),
+      question(joined(exercise.vraagregels)),
+      explanation(joined(exercise.uitlegregels)) {
+    for (const std::string& line : made.uitlegregels)
+        if (line != leeg) last = line;
+    look_at(made.plaatje);
+    right = answer(right_place());
+}
+
+std::string seen::feedback(int which) const {
+    const std::array all{&made.foutregels_2, &made.foutregels_3, &made.foutregels_4};
+    return joined(*all.at(static_cast<std::size_t>(oefening::getoond_antwoord(which, right_place()) - 2)));
+}
+
+std::string seen::sheet() const {
+    std::string all = question;
+    for (const std::string& word : words) all.append("| ").append(kaal(std::string_view(word))).append(" ");
+    return all;
+}
+
+void seen::look_at(const drawing& drawn) {
+    texts.clear();
+    words.clear();
+    blocks.clear();
+    for (const drawing_op& operation : drawn.operations()) {
+        if (const auto* text = std::get_if<text_op>(&operation)) {
+            texts.push_back(*text);
+            words.push_back(text->text);
+        }
+        if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled) blocks.push_back(*box);
+    }
+}
+
+std::vector<std::string> seen::groups(const std::string& text, const char* pattern) {
+    static std::map<std::string, std::regex> compiled;
+    const std::regex& wanted = compiled.try_emplace(pattern, pattern).first->second;
+    std::smatch found;
+    EXPECT_TRUE(std::regex_search(text, found, wanted)) << text << " is not " << pattern;
+    std::vector<std::string> all(found.begin(), found.end());
+    all.resize(wanted.mark_count() + 1);
+    return all;
+}
+
+} // namespace cijferwerf
