@@ -4,11 +4,11 @@
 //     exercise_gallery --out DIR [--generator NAME]... [--seed S] [--scale F]
 #include "desktop/desktop.h"
 #include "forms/practice/mama.h"
+#include "tools/arguments.h"
 
 #include <QApplication>
 #include <QDir>
 
-#include <charconv>
 #include <iostream>
 
 using namespace cijferwerf;
@@ -19,9 +19,6 @@ constexpr int most_variants = 20;
 constexpr double least_scale = 0.6, most_scale = 8;
 
 // Thrown with what is to be said on standard error.
-struct bad_usage {
-    std::string message;
-};
 struct failure {
     std::string message;
 };
@@ -33,34 +30,21 @@ struct options {
     double scale = 1;
 };
 
-template<class Number>
-Number number(std::string_view text, std::string_view option) {
-    Number value{};
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size())
-        throw bad_usage{regel(option, " takes a number, not \"", text, "\"")};
-    return value;
-}
-
-options read_options(const std::vector<std::string_view>& arguments) {
+options read_options(arguments words) {
     options chosen;
-    for (std::size_t i = 0; i < arguments.size(); i += 2) {
-        const std::string_view option = arguments[i];
-        if (option != "--out" && option != "--generator" && option != "--seed" && option != "--scale")
-            throw bad_usage{regel("unknown option \"", option, "\"")};
-        if (i + 1 == arguments.size()) throw bad_usage{regel(option, " needs a value")};
-        const std::string_view value = arguments[i + 1];
-        if (option == "--out") chosen.out = value;
-        if (option == "--seed") chosen.seed = number<std::uint32_t>(value, option);
-        if (option == "--scale") chosen.scale = number<double>(value, option);
-        if (option == "--generator") {
-            const auto id = zoek_oefening(value);
-            if (!id) throw bad_usage{regel("no generator is called \"", value, "\"")};
-            chosen.generators.push_back(*id);
-        }
+    while (words.next()) {
+        if (words.is("--out"))
+            chosen.out = words.text();
+        else if (words.is("--generator"))
+            chosen.generators.push_back(words.generator());
+        else if (words.is("--seed"))
+            chosen.seed = words.number<std::uint32_t>(0, 0xFFFFFFFF);
+        else if (words.is("--scale"))
+            chosen.scale = words.number<double>(least_scale, most_scale);
+        else
+            words.unknown();
     }
     if (chosen.out.empty()) throw bad_usage{"--out DIR says where the pictures go"};
-    if (!(chosen.scale >= least_scale && chosen.scale <= most_scale)) throw bad_usage{"--scale takes 0.6 to 8"};
     return chosen;
 }
 
@@ -150,7 +134,7 @@ private:
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     try {
-        const options chosen = read_options({argv + 1, argv + argc});
+        const options chosen = read_options({argc, argv});
         prepare_application();
         QApplication application(argc, argv);
         dress_application();

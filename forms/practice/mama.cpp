@@ -82,8 +82,7 @@ void mama::load() {
     presentatielijst.enabled = true;
     lijst_ = zoek_lijst(globalen_.gekozen_pakket, globalen_.gekozen_onderdeel);
     if (lijst_ != nullptr)
-        for (const catalogue_entry& entry : toon_lijst(*lijst_, toeval))
-            presentatielijst.items.emplace_back(entry.title);
+        for (const std::string_view title : titels(*lijst_, toeval)) presentatielijst.items.emplace_back(title);
     focus = &presentatielijst;
 }
 

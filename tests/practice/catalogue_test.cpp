@@ -1,5 +1,6 @@
 #include "forms/practice/catalogue.h"
 
+#include <cctype>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <set>
@@ -7,9 +8,135 @@
 namespace cijferwerf {
 namespace {
 
-std::string_view title_drawn(float fraction) {
-    static constexpr catalogue_entry a[]{{"A", {}}}, b[]{{"B", {}}}, c[]{{"C", {}}};
-    return keuze_uit({a, b, c}, fraction).front().title;
+// A line a list; of a review task a line more for each group, with its three choices.
+constexpr std::string_view written = R"(
+boekje01 BOEKJE 1 - PROCENTEN: alcohol, grasveld, bevolking, computer, examen, snel!, voetbal, blessures, hele procenten, rente, kommaprocenten
+boekje02 BOEKJE 2 - VERHOUDINGEN: huis, maatbeker, vakantie, cirkels, fietspad (1), museum, fietspad (2), tandwielen, brandstofverbruik, tuinman, uitgaven
+boekje03 BOEKJE 3 - BREUKEN: chocolade, helen, maatbeker, vlakjes, helen maken, marathon, optellen, prijzen, procenten, stukken, aanvullen (1), aanvullen (2), aftrekken, getallenlijn, grootste/kleinste, olievat, snel!, tussen in, vereenvoudigen, delen, vermenigvuldigen
+boekje04 BOEKJE 4 - GRAFIEKEN: inwoners, rusthuis, hardlopen (1), hardlopen (2), inkomen, regenval, vakanties, bevolking, dollars, roken, verkiezingen
+boekje05 BOEKJE 5 - GELD: spaarpot, wisselen, bijbetalen, krantenwijk, snel!, terugbetalen, vreemd geld (1), vreemd geld (2), boodschap, brandstof, CD's, computer, niet gepast, rente, brandstofverbruik, huren
+boekje06 BOEKJE 6 - TIJD: datum, wedstrijd, boeken, huren, wachten, kilometers, naar school, snel!, trein, wereldtijden
+boekje07 BOEKJE 7 - METEN EN MEETKUNDE (1): oppervlakte, rechthoek, doos, fietsen, optellen (1), optellen (2), schilder, snel! (1), snel! (2), vakantie, bedrijfsruimte, behangen, draad, figuren, L-vorm, tuin, vliegtuig, tegels
+boekje08 BOEKJE 8 - METEN EN MEETKUNDE (2): inhoud, schatten, doos, gewichten, optellen, watertank, opbrengst, worst
+boekje09 BOEKJE 9 - HOOFDREKENEN: tafels, aftrekken, delen (1), keer, delen (2), nullen, komma
+boekje10 BOEKJE 10 - SCHATTEN: gestreept, schatten (1), betegelen, bezoekers, schaal, schatten (2), erfenis, seconden
+boekje11 BOEKJE 11 - GETALKENNIS: getallenlijn, letters, onder elkaar, pijl (1), pijl (2), schatten, waarde, na de komma, optellen, pijlverwijzing, samenstellen, schoolbord, dichtst bij, grootste/kleinste, tabel
+boekje12 BOEKJE 12 - CIJFEREN: inwoners (1), inwoners (2), anders, door elkaar, haakjes, na elkaar, onder elkaar, controle, flesjes, maal, snel!, BTW, lenen, memory, sponsorloop
+taak01 TAAK 1 - GETALLEN: getallenlijn, inwoners (1), inwoners (2), letters, onder elkaar, schatten, waarde, aftrekken, na elkaar, optellen, grootste/kleinste, tabel
+taak02 TAAK 2 - VERMENIGVULDIGEN EN DELEN: tafels, anders, door elkaar, haakjes, keer, controle, flesjes, maal, memory
+taak03 TAAK 3 - BREUKEN (1): chocolade, gestreept, helen, maatbeker, vlakjes, helen maken, marathon, prijzen, getallenlijn, grootste/kleinste, snel!
+taak04 TAAK 4 - TIJD: datum, wedstrijd, boeken, huren, wachten, kilometers, naar school, snel!, trein, wereldtijden
+taak05 HERHALING TAAK 1 t/m 4:
+na elkaar, optellen, grootste/kleinste, tabel | onder elkaar, schatten, waarde, aftrekken | getallenlijn, inwoners (1), inwoners (2), letters
+flesjes, maal, memory | haakjes, keer, controle | tafels, anders, door elkaar
+getallenlijn, grootste/kleinste | vlakjes, helen maken, marathon, prijzen | chocolade, gestreept, helen, maatbeker
+trein, wereldtijden | wachten, kilometers, naar school | datum, wedstrijd, boeken, huren
+taak06 TAAK 6 - KOMMAGETALLEN: pijl (1), pijl (2), delen (1), na de komma, onder elkaar, pijlverwijzing, samenstellen, schoolbord, delen (2), dichtst bij, nullen, olievat, seconden, snel, komma
+taak07 TAAK 7 - GELD: spaarpot, wisselen, bijbetalen, krantenwijk, snel!, terugbetalen, vreemd geld (1), vreemd geld (2), boodschap, brandstof, CD's, computer, erfenis, niet gepast, rente, brandstofverbruik, huren, lenen, sponsorloop
+taak08 TAAK 8 - PROCENTEN: alcohol, grasveld, bevolking, computer, examen, snel!, voetbal, blessures, hele procenten, rente, BTW, kommaprocenten
+taak09 TAAK 9 - LENGTEMATEN: schatten (1), fietsen, optellen (1), optellen (2), schatten (2), snel! (1), snel! (2), vakantie, behangen, tuin, vliegtuig
+taak10 HERHALING TAAK 6 t/m 9:
+pijlverwijzing, samenstellen, schoolbord, dichtst bij, onder elkaar | nullen, olievat, seconden, komma | pijl (1), pijl (2), delen (1), delen (2), na de komma
+vreemd geld (1), vreemd geld (2), boodschap, brandstof, CD's, computer | erfenis, niet gepast, rente, brandstofverbruik, huren, lenen, sponsorloop | spaarpot, wisselen, bijbetalen, krantenwijk, terugbetalen
+examen, voetbal, blessures | hele procenten, rente, BTW, kommaprocenten | alcohol, grasveld, bevolking, computer
+vakantie, optellen (1), optellen (2) | behangen, tuin, vliegtuig | schatten (1), schatten (2), fietsen
+taak11 TAAK 11 - MACHTSVERHEFFEN: snel!, berekenen, in woorden, korter, volgorde, bacterie, bloembollen, fabriekshal, stroopwafels, spaargeld
+taak12 TAAK 12 - OMTREK EN OPPERVLAKTE: oppervlakte, rechthoek, betegelen, doos, schilder, bedrijfsruimte, draad, figuren, L-vorm, opbrengst, tegels
+taak13 TAAK 13 - DE CIRKEL: cirkel (1), cirkel (2), blikjes, huls, in elkaar, pizza, skelterbaan, vijver, fietswiel, terras
+taak14 TAAK 14 - BREUKEN (2): optellen, procenten, stukken, aanvullen (1), aanvullen (2), aftrekken, tussen in, vereenvoudigen, delen, vermenigvuldigen
+taak15 HERHALING TAAK 11 t/m 14:
+volgorde, bacterie, bloembollen | fabriekshal, stroopwafels, spaargeld | berekenen, in woorden, korter
+schilder, bedrijfsruimte, draad, figuren | L-vorm, opbrengst, tegels | oppervlakte, rechthoek, betegelen, doos
+huls, in elkaar, pizza, skelterbaan | vijver, fietswiel, terras | cirkel (1), cirkel (2), blikjes
+aanvullen (1), aanvullen (2), aftrekken | tussen in, vereenvoudigen, delen, vermenigvuldigen | optellen, procenten, stukken
+taak16 TAAK 16 - VERHOUDINGEN: huis, maatbeker, vakantie, cirkels, fietspad (1), museum, schaal, fietspad (2), tandwielen, brandstofverbruik, tuinman, uitgaven
+taak17 TAAK 17 - INHOUD EN GEWICHT: inhoud, schatten, doos, gewichten, optellen, watertank, cilinder, worst, dichtheid, volumeprocent
+taak18 TAAK 18 - GETALLEN IN BEELD: inwoners, rusthuis, hardlopen (1), hardlopen (2), inkomen, regenval, vakanties, bevolking, dollars, roken, verkiezingen
+taak19 TAAK 19 - MATEN EN METEN: energie, gas (1), elektriciteit (1), elektriciteit (2), voeding (1), voeding (2), water (1), water (2), elektriciteit (3), gas (2)
+taak20 HERHALING TAAK 16 t/m 19:
+fietspad (1), museum, schaal, fietspad (2) | tandwielen, brandstofverbruik, tuinman, uitgaven | huis, maatbeker, vakantie, cirkels
+optellen, watertank, cilinder | worst, dichtheid, volumeprocent | inhoud, schatten, doos, gewichten
+voeding (1), voeding (2), water (1), water (2) | elektriciteit (1), elektriciteit (2), elektriciteit (3) | energie, gas (1), gas (2)
+)";
+
+// The generator that a title runs in a list, by names alone: level, title, home booklet, home task. Where several have
+// the title, the one that is at home in this list.
+std::string generator_of(std::string_view title, std::string_view key) {
+    std::string named = "_";
+    for (const char c : title)
+        if (c == ' ' || c == '-' || c == '/')
+            named += '_';
+        else if (c != '(' && c != ')' && c != '!' && c != '\'')
+            named += c;
+    std::set<std::string> with_title, at_home;
+    for (const oefening_soort& generator : alle_oefeningen()) {
+        const std::string_view name = generator.name;
+        const std::size_t homes = 1 + named.size();
+        if (name.substr(1, named.size()) != named || name.size() < homes + 6 || !std::isdigit(name[homes + 1]))
+            continue;
+        with_title.emplace(name);
+        if (name.substr(homes + (key.starts_with("boekje") ? 1 : 4), 2) == key.substr(key.size() - 2))
+            at_home.emplace(name);
+    }
+    const auto& only = with_title.size() == 1 ? with_title : at_home;
+    return only.size() == 1 ? *only.begin() : "none";
+}
+
+template<class Titles>
+std::string joined(const Titles& titles) {
+    std::string text;
+    for (const std::string_view title : titles) text.append(text.empty() ? "" : ", ").append(title);
+    return text;
+}
+
+TEST(catalogue, a_list_has_its_titles_in_order) {
+    std::string text = "\n";
+    random_draws toeval([] { return 0.0F; });
+    for (const catalogue_list& list : catalogue()) {
+        text.append(list.key).append(" ").append(list.heading).append(":");
+        text += list.drawn() ? "\n" : " " + joined(titels(list, toeval)) + "\n";
+        for (const auto& [a, b, c] : list.groups) text += joined(a) + " | " + joined(b) + " | " + joined(c) + "\n";
+        EXPECT_EQ(zoek_lijst(list.set, list.key), &list);
+        EXPECT_EQ(list.set, list.key.starts_with("boekje") ? booklet_set : task_set);
+    }
+    EXPECT_EQ(text, written);
+}
+
+TEST(catalogue, a_title_runs_the_generator_that_is_named_after_it) {
+    std::set<oefening_id> offered;
+    for (const catalogue_list& list : catalogue())
+        for (int i = 0; const catalogue_entry& entry : list.entries) {
+            EXPECT_EQ(naam(entry.generator), generator_of(entry.title, list.key)) << list.key;
+            EXPECT_EQ(zoek_generator(list, i++, "another title"), entry.generator);
+            offered.insert(entry.generator);
+        }
+    EXPECT_EQ(offered.size(), alle_oefeningen().size()) << "an exercise that nobody can pick";
+}
+
+TEST(catalogue, a_title_of_a_review_task_runs_the_first_that_has_it_in_the_tasks_reviewed) {
+    const std::tuple<std::string_view, std::string_view, std::string_view> rows[]{
+        {"taak05", "getallenlijn", "B_getallenlijn_11_01_click"},
+        {"taak05", "grootste/kleinste", "M_grootste_kleinste_11_01_click"},
+        {"taak10", "computer", "L_computer_01_08_click"},
+        {"taak20", "hardlopen (1)", "L_hardlopen_1_04_18_click"},
+    };
+    for (const auto& [key, title, generator] : rows)
+        EXPECT_EQ(naam(zoek_generator(*zoek_lijst(task_set, key), 0, title).value()), generator);
+    // A drawn title that is not found would leave the pupil with a blank screen.
+    for (const catalogue_list& list : catalogue())
+        for (const auto& [a, b, c] : list.groups)
+            for (const titles& choice : {a, b, c})
+                for (const std::string_view title : choice) EXPECT_TRUE(zoek_generator(list, 0, title)) << title;
+}
+
+TEST(catalogue, what_is_not_there_is_not_found) {
+    const catalogue_list& task = *zoek_lijst(task_set, "taak06");
+    EXPECT_FALSE(zoek_generator(task, 15, "snel"));
+    EXPECT_FALSE(zoek_generator(task, -1, "snel"));
+    EXPECT_FALSE(zoek_generator(*zoek_lijst(task_set, "taak05"), 0, "rente"));
+    EXPECT_EQ(zoek_lijst(booklet_set, "taak01"), nullptr);
+    EXPECT_EQ(zoek_lijst("", "taak01"), nullptr);
+    EXPECT_EQ(zoek_lijst(task_set, "taak21"), nullptr);
 }
 
 TEST(catalogue, the_narrow_band_from_033_to_034_falls_to_choice_b) {
@@ -19,88 +146,15 @@ TEST(catalogue, the_narrow_band_from_033_to_034_falls_to_choice_b) {
         {0.0F, "C"},  {before(0.33F), "C"}, {0.33F, "B"},        {before(0.34F), "B"}, {0.34F, "A"},
         {0.67F, "A"}, {after(0.67F), "B"},  {1 - 0x1p-24F, "B"}, {0.5F, "A"},
     };
-    for (const auto& [fraction, title] : rows) EXPECT_EQ(title_drawn(fraction), title) << fraction;
-}
-
-const catalogue_list& list_of(std::string_view key) {
-    const catalogue_list* list = zoek_lijst(key.starts_with("taak") ? task_set : booklet_set, key);
-    if (list == nullptr) throw checked_error("no list");
-    return *list;
-}
-
-TEST(catalogue, an_entry_runs_what_stands_at_its_position) {
-    const struct {
-        std::string_view key;
-        int position;
-        std::string_view title, generator;
-    } rows[]{
-        {"boekje01", 0, "alcohol", "B_alcohol_01_08_Click"},   {"taak06", 13, "snel", "M_snel_12_06_click"},
-        {"taak07", 18, "sponsorloop", "Z_sponsorloop_12_07"},  {"taak07", 11, "computer", "L_computer_01_08_click"},
-        {"taak18", 7, "bevolking", "L_bevolking_01_08_click"},
-    };
-    for (const auto& row : rows) {
-        const auto& list = list_of(row.key);
-        EXPECT_EQ(list.entries[static_cast<std::size_t>(row.position)].title, row.title);
-        const auto found = zoek_generator(list, row.position, "");
-        ASSERT_TRUE(found) << row.title;
-        EXPECT_EQ(naam(*found), row.generator);
-    }
-    EXPECT_FALSE(zoek_generator(list_of("taak06"), 15, "snel"));
-    EXPECT_FALSE(zoek_generator(list_of("taak06"), -1, "snel"));
-}
-
-TEST(catalogue, in_a_review_task_the_first_entry_of_a_title_wins) {
-    const std::tuple<std::string_view, std::string_view, std::string_view> rows[]{
-        {"taak05", "getallenlijn", "B_getallenlijn_11_01_click"},
-        {"taak05", "grootste/kleinste", "M_grootste_kleinste_11_01_click"},
-        {"taak10", "computer", "L_computer_01_08_click"},
-        {"taak10", "rente", "M_rente_01_08_click"},
-        {"taak20", "hardlopen (1)", "L_hardlopen_1_04_18_click"},
-    };
-    for (const auto& [key, title, generator] : rows) {
-        const auto found = zoek_generator(list_of(key), 0, title);
-        ASSERT_TRUE(found) << title;
-        EXPECT_EQ(naam(*found), generator);
-    }
-    EXPECT_FALSE(zoek_generator(list_of("taak05"), 0, "rente"));
-}
-
-// A drawn title that the search does not find would leave the pupil with a blank screen.
-TEST(catalogue, every_title_that_can_be_drawn_is_found_and_runs_what_its_group_says) {
-    for (const catalogue_list& list : catalogue())
-        for (const review_group& group : list.groups)
-            for (const auto choice : {group.a, group.b, group.c}) {
-                EXPECT_FALSE(choice.empty()) << list.key;
-                for (const catalogue_entry& entry : choice)
-                    EXPECT_EQ(zoek_generator(list, 0, entry.title), entry.generator) << list.key << ' ' << entry.title;
-            }
-}
-
-TEST(catalogue, every_generator_can_be_picked_somewhere) {
-    std::set<oefening_id> offered;
-    for (const catalogue_list& list : catalogue())
-        for (const catalogue_entry& entry : list.entries) offered.insert(entry.generator);
-    for (std::size_t i = 0; i < alle_oefeningen().size(); ++i)
-        EXPECT_TRUE(offered.contains(static_cast<oefening_id>(i))) << alle_oefeningen()[i].name;
-    EXPECT_EQ(alle_oefeningen().size(), 178U);
-    EXPECT_EQ(catalogue().size(), 32U);
-}
-
-TEST(catalogue, another_set_or_key_has_no_list) {
-    EXPECT_EQ(zoek_lijst(booklet_set, "taak01"), nullptr);
-    EXPECT_EQ(zoek_lijst(task_set, "boekje01"), nullptr);
-    EXPECT_EQ(zoek_lijst("", "taak01"), nullptr);
-    EXPECT_EQ(zoek_lijst(task_set, "taak21"), nullptr);
+    for (const auto& [fraction, title] : rows) EXPECT_EQ(joined(geloot({"A", "B", "C"}, fraction)), title) << fraction;
 }
 
 TEST(catalogue, a_review_task_shows_one_choice_of_each_group_in_order) {
     random_draws toeval([] { return 0.0F; });
     toeval.put_in({0.5F, 0.335F, 0.1F, 0.9F});
-    std::vector<std::string_view> titles;
-    for (const catalogue_entry& entry : toon_lijst(list_of("taak05"), toeval)) titles.push_back(entry.title);
-    EXPECT_EQ(titles, (std::vector<std::string_view>{"na elkaar", "optellen", "grootste/kleinste", "tabel", "haakjes",
-                                                     "keer", "controle", "chocolade", "gestreept", "helen", "maatbeker",
-                                                     "wachten", "kilometers", "naar school"}));
+    EXPECT_EQ(joined(titels(*zoek_lijst(task_set, "taak05"), toeval)),
+              "na elkaar, optellen, grootste/kleinste, tabel, haakjes, keer, controle, chocolade, gestreept, helen, "
+              "maatbeker, wachten, kilometers, naar school");
 }
 
 } // namespace
