@@ -1,5 +1,10 @@
 #include "generators/oefening.h"
 
+#include "generators/gedeeld/opdracht.h"
+#include "generators/gedeeld/tekening_macht.h"
+
+#include <numeric>
+
 namespace cijferwerf {
 
 void oefening::maak_leeg() {
@@ -16,6 +21,117 @@ void oefening::bord(kleur ground, kleur text, double size) {
     plaatje.ground = ground;
     plaatje.fore_colour = text;
     plaatje.text_size = size;
+}
+
+int oefening::druk_machten(int x, int y, std::string_view text) { return teken_met_machten(plaatje, x, y, text); }
+
+void oefening::snel_bord(int ticks, double size) {
+    bord(zwart, geel, size);
+    snel(ticks);
+}
+
+void oefening::toon_snelle_som(int ticks, const std::string& som) {
+    constexpr int links = 500;
+    const bool past = links + text_width(som, 20) <= drawing::inner_width - 200;
+    snel_bord(ticks, past ? 20 : 15);
+    druk(links, 300, som);
+}
+
+void oefening::opdracht(std::string line) {
+    if (line.empty() || line == leeg) return;
+    for (std::string& slot : uitlegopdrachten)
+        if (slot == leeg) {
+            slot = std::move(line);
+            return;
+        }
+    throw checked_error("an eighth drawing command: " + line);
+}
+
+void oefening::druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som,
+                                     const std::string& antwoord) {
+    som = kaal(som);
+    plaatje.text_size = punten;
+    druk_machten(x - text_width(" ", punten) - breedte_met_machten(som, punten), y, som);
+    opdracht(druk_opdracht(x, y, in, punten, kaal(antwoord)));
+}
+
+void oefening::druk_antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen,
+                                          const std::string& antwoord) {
+    druk(x, y, stippen);
+    const int breedte = plaatje.x - x;
+    const double punten = plaatje.text_size;
+    // From the tops of the letters to a little below the line on which they stand.
+    const int boven = digit_top(punten) - 20;
+    opdracht(vak_opdracht(x, y + boven, breedte, static_cast<int>(punten * 20 * 0.95) - boven, plaatje.ground));
+    opdracht(druk_midden_opdracht(x + breedte / 2, y, in, punten, kaal(antwoord)));
+}
+
+int oefening::trek_eronder(int lager, int hoger) {
+    if (lager + hoger < 3) throw checked_error("fewer than three different mistakes");
+    return trek_van(std::max(0, 3 - hoger), std::min(3, lager));
+}
+
+void oefening::fout_met(std::string text, const melding& feedback) {
+    const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
+    antwoord(which) = std::move(text);
+    schrijf_melding(foutregels(which), feedback);
+}
+
+oefening::vier_keuzes oefening::verdeeld(std::span<const keuze<>> opties) {
+    if (opties.size() != 4) throw checked_error("four options are needed, not " + std::to_string(opties.size()));
+    const vier_keuzes verdeling = geschud(vier_keuzes{&opties[0], &opties[1], &opties[2], &opties[3]});
+    juist_op(static_cast<int>(std::find(verdeling.begin(), verdeling.end(), &opties[0]) - verdeling.begin()) + 1);
+    return verdeling;
+}
+
+void oefening::antwoord_op_plaats(int plaats, std::string_view text, const melding& feedback) {
+    op_plaats(plaats, text);
+    if (plaats != juiste_positie) schrijf_melding(foutregels(getoond_antwoord(plaats, juiste_positie)), feedback);
+}
+
+void oefening::toon_kleurkeuze(point plaats, int regelhoogte, const std::array<kleur, 4>& kleuren,
+                               const vier_keuzes& opties) {
+    constexpr int rand = 180;
+    constexpr int marge = 130;
+    const int breedte = drawing::inner_width - rand - plaats.x;
+    const int hoogte = regelhoogte - 50;
+    const auto kolom = [&](double punten) { // where the options begin, after the longest word
+        int woorden = 0;
+        for (const kleur k : kleuren) woorden = std::max(woorden, text_width(woord(k), punten));
+        return marge + woorden + 2 * marge;
+    };
+    const auto past = [&](double punten) {
+        return std::all_of(opties.begin(), opties.end(), [&](const keuze<>* optie) {
+            return kolom(punten) + breedte_met_machten(optie->waarde, punten) + marge <= breedte;
+        });
+    };
+    double punten = plaatje.text_size;
+    while (punten > 8 && !past(punten)) punten -= 0.5;
+    plaatje.text_size = punten;
+    for (std::size_t i = 0; i < kleuren.size(); ++i) {
+        const int y = plaats.y + static_cast<int>(i) * regelhoogte;
+        const int tekst_y = y + (hoogte - text_height(punten)) / 2;
+        plaatje.filled_box(plaats.x, y, breedte, hoogte, kleuren[i]);
+        plaatje.box(plaats.x, y, breedte, hoogte, grijs);
+        plaatje.fore_colour = letterkleur(kleuren[i]);
+        druk(plaats.x + marge, tekst_y, woord(kleuren[i]));
+        druk_machten(plaats.x + kolom(punten), tekst_y, opties[i]->waarde);
+        antwoord_op_plaats(static_cast<int>(i) + 1, woord(kleuren[i]), opties[i]->melding);
+    }
+}
+
+void oefening::toon_rekenaars(point plaats, int regelhoogte, const std::array<std::string_view, 4>& namen,
+                              const vier_keuzes& rekeningen) {
+    int kolom = plaats.x;
+    for (const std::string_view naam : namen)
+        kolom = std::max(kolom, plaats.x + text_width(naam, plaatje.text_size) + 60);
+    for (std::size_t i = 0; i < namen.size(); ++i) {
+        const int y = plaats.y + static_cast<int>(i) * regelhoogte;
+        druk(plaats.x, y, namen[i]);
+        druk_machten(kolom, y, rekeningen[i]->waarde);
+        const std::string_view zonder_stippen = namen[i].substr(0, namen[i].find_last_not_of(". ") + 1);
+        antwoord_op_plaats(static_cast<int>(i) + 1, zonder_stippen, rekeningen[i]->melding);
+    }
 }
 
 void oefening::leg_vast(int plaats) {

@@ -5,14 +5,19 @@
 // Every generator reads in the same order: variant, draws, picture, question, answers with their feedback, explanation.
 #pragma once
 
+#include "generators/gedeeld/keuze.h"
+#include "generators/gedeeld/kleuren.h"
 #include "runtime/control.h"
 #include "runtime/number_text.h"
 #include "runtime/random_draws.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace cijferwerf {
 
@@ -20,6 +25,14 @@ namespace cijferwerf {
 using tekstregels = std::array<std::string, 7>;
 
 inline constexpr std::string_view leeg = " ";
+
+// Whether no two of these values are equal.
+template<class Value, std::size_t N>
+constexpr bool alle_verschillend(const std::array<Value, N>& values) {
+    for (auto one = values.begin(); one != values.end(); ++one)
+        if (std::find(values.begin(), one, *one) != one) return false;
+    return true;
+}
 
 class oefening {
 public:
@@ -49,7 +62,7 @@ protected:
     int trek(int n) { return toeval.below(n); }
     // From first to last, in steps: trek_van(5, 65, 5) is 5, 10, ..., 65.
     int trek_van(int first, int last, int step = 1) { return first + trek((last - first) / step + 1) * step; }
-    bool munt() { return toeval.coin(); }
+    bool kop() { return toeval.coin(); }
     template<class List>
     const auto& kies(const List& list) {
         return list[static_cast<std::size_t>(trek(static_cast<int>(std::size(list))))];
@@ -95,6 +108,23 @@ protected:
         plaatje.print_right(x, y, regel(parts...));
     }
 
+    // The same with powers, at (x, y): the digits after each "^" are small and raised. Returns its right end.
+    int druk_machten(int x, int y, std::string_view text);
+    // One power. Returns its right end.
+    template<line_part Base>
+    int druk_macht(int x, int y, const Base& grondtal, int exponent) {
+        return druk_machten(x, y, regel(kaal(regel(grondtal)), "^", kaal(exponent)));
+    }
+
+    // The board of a quick exercise, and its limit. Of the picture y 1100 to 1450 is kept free for the bar that counts
+    // the time, and the place from (1800, 1500) on for what is said when it is up; the practice screen draws both.
+    void snel_bord(int ticks, double size);
+    // The same with one sum in large type in its usual place.
+    template<line_part... Parts>
+    void snel_som(int ticks, const Parts&... parts) {
+        toon_snelle_som(ticks, regel(parts...));
+    }
+
     // ---- texts ----
 
     // The question, from its second line on (the first always stays empty): at most six lines.
@@ -118,11 +148,27 @@ protected:
         static_assert(sizeof...(Lines) <= 6);
         schrijf(uitlegregels, 0, std::forward<Lines>(lines)...);
     }
-    // The drawing commands of the explanation: at most seven.
+    // One more drawing command of the explanation, or several; an empty line is none. There are at most seven in all:
+    // an eighth ends the run.
+    void opdracht(std::string line);
     template<class... Lines>
     void opdrachten(Lines&&... lines) {
         static_assert(sizeof...(Lines) <= 7);
-        schrijf(uitlegopdrachten, 0, std::forward<Lines>(lines)...);
+        (opdracht(std::string(std::forward<Lines>(lines))), ...);
+    }
+
+    // Draws a sum in the board's colour so that it ends a blank before (x, y), where the explanation prints the answer
+    // in this colour. Powers in the sum are written "3^2". Its size is so many points.
+    template<line_part Text>
+    void som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som, const Text& antwoord) {
+        druk_som_met_antwoord(x, y, in, punten, som, regel(antwoord));
+    }
+    // Prints dots at (x, y) in the board's colour and size (whole points). The explanation wipes them out with the
+    // board's ground and prints the answer in this colour in the middle of where they stood: give dots that are as
+    // wide as the answer. Two commands.
+    template<line_part Text>
+    void antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen, const Text& antwoord) {
+        druk_antwoord_over_stippen(x, y, in, stippen, regel(antwoord));
     }
 
     // ---- answers, each beside the feedback for the mistake that it stands for ----
@@ -132,11 +178,11 @@ protected:
     void goed(const Text& text) {
         antwoord_1 = regel(text);
     }
-    // The next wrong answer; three in all.
+    // The next wrong answer; three in all, a fourth ends the run.
     template<line_part Text, class... Lines>
     void fout(const Text& text, Lines&&... feedback) {
         static_assert(sizeof...(Lines) <= 6);
-        const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : 4;
+        const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
         antwoord(which) = regel(text);
         schrijf(foutregels(which), 0, std::forward<Lines>(feedback)...);
     }
@@ -156,6 +202,72 @@ protected:
     // every button keeps the feedback of the answer that it shows.
     void leg_vast(int plaats);
 
+    // The right answer and three of a list of mistakes, each {value, "feedback", ...}. What equals the right value or
+    // an earlier mistake is passed over, and so is 0 or less where the right one is more. Which three is drawn: first
+    // how many of them lie below the right one, all numbers that can be with equal chances. Fewer than three end the
+    // run. A value becomes its answer by `vorm`.
+    //
+    //     drie_andere(prijs - korting, euro, {{prijs + korting, "Je hebt de korting erbij opgeteld."},
+    //                                         {korting, "Je hebt alleen de korting berekend."}, ...});
+    template<class Value, class Vorm, class List = std::initializer_list<keuze<Value>>>
+    void drie_andere(const Value& juist, Vorm vorm, const List& vergissingen) {
+        std::vector<const keuze<Value>*> andere;
+        andere.reserve(std::size(vergissingen));
+        for (const keuze<Value>& k : vergissingen) {
+            const bool komt_voor = std::any_of(andere.begin(), andere.end(),
+                                               [&k](const keuze<Value>* eerder) { return eerder->waarde == k.waarde; });
+            if (!komt_voor && k.waarde != juist && (k.waarde > Value{} || !(juist > Value{}))) andere.push_back(&k);
+        }
+        andere = geschud(std::move(andere));
+        const auto hoger = std::stable_partition(andere.begin(), andere.end(),
+                                                 [&](const keuze<Value>* k) { return k->waarde < juist; });
+        const auto lager = static_cast<int>(hoger - andere.begin());
+        const int eronder = trek_eronder(lager, static_cast<int>(andere.size()) - lager);
+        std::rotate(andere.begin() + eronder, hoger, andere.end()); // after those below come the first of those above
+        goed(vorm(juist));
+        for (const keuze<Value>* k : geschud(std::array{andere[0], andere[1], andere[2]}))
+            fout_met(regel(vorm(k->waarde)), k->melding);
+    }
+    // The right answer and three near it, some steps away; where it stands among the four in size is drawn evenly.
+    // Nothing is 0 or less.
+    template<class Vorm = number_text (*)(long long)>
+    void bijna(int juist, int stap = 1, Vorm vorm = tekst) {
+        drie_andere(juist, vorm,
+                    {{juist - 3 * stap},
+                     {juist - 2 * stap},
+                     {juist - stap},
+                     {juist + stap},
+                     {juist + 2 * stap},
+                     {juist + 3 * stap}});
+    }
+    // Four answers in a row at fixed places, upward, the place of the right one drawn; none is below `kleinste`.
+    template<class Vorm>
+    void opeenvolgend(int juist, Vorm vorm, int stap = 1, int kleinste = 1) {
+        juist_op(trek(std::clamp((juist - kleinste) / stap + 1, 1, 4)) + 1);
+        for (int i = 1; i <= 4; ++i) op_plaats(i, vorm(juist + (i - juiste_positie) * stap));
+    }
+
+    // Four options on bars in these colours, each with the word of its colour in front, below one another from `plaats`
+    // (top left) to the right edge of the picture; line after line is so much lower, and the type is the board's, or
+    // smaller where that does not fit. The answers are the words, at fixed places. Give the right option first, then
+    // the three wrong ones with their feedback: {"text", "feedback", ...}. In which place each stands is drawn. Powers
+    // are written "3^2".
+    template<class List = std::initializer_list<keuze<>>>
+    void kleurkeuze(point plaats, int regelhoogte, const std::array<kleur, 4>& kleuren, const List& opties) {
+        toon_kleurkeuze(plaats, regelhoogte, kleuren, verdeeld(std::span(std::data(opties), std::size(opties))));
+    }
+    // Four persons in this order below one another from `plaats` on, each with a written calculation behind the name,
+    // all at one x. The answers are the names, without the dots at their end. The calculations are given, and
+    // distributed, as the options of kleurkeuze().
+    template<class List = std::initializer_list<keuze<>>>
+    void vier_rekenaars(point plaats, int regelhoogte, const std::array<std::string_view, 4>& namen,
+                        const List& rekeningen) {
+        toon_rekenaars(plaats, regelhoogte, namen, verdeeld(std::span(std::data(rekeningen), std::size(rekeningen))));
+    }
+
+    // The text of the right answer without blanks around it, for the explanation.
+    std::string_view juiste_antwoord() { return kaal(antwoord(juiste_positie == 0 ? 1 : juiste_positie)); }
+
     void snel(int ticks) { tijdlimiet = ticks; }
     void met_rekenmachine() { hulpmiddel = "REKENMACHINE"; }
 
@@ -168,6 +280,25 @@ public:
     tekstregels& foutregels(int which); // 2 to 4
 
 private:
+    using vier_keuzes = std::array<const keuze<>*, 4>;
+
+    // Draws how many of three mistakes lie below the right answer, when so many do and so many lie above it.
+    int trek_eronder(int lager, int hoger);
+    void fout_met(std::string text, const melding& feedback);
+    void toon_snelle_som(int ticks, const std::string& som);
+    void druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som, const std::string& antwoord);
+    void druk_antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen, const std::string& antwoord);
+    // Four options, the first of them right, in the order in which they will stand; sets the place of the right one.
+    vier_keuzes verdeeld(std::span<const keuze<>> opties);
+    void antwoord_op_plaats(int plaats, std::string_view text, const melding& feedback);
+    void toon_kleurkeuze(point plaats, int regelhoogte, const std::array<kleur, 4>& kleuren, const vier_keuzes& opties);
+    void toon_rekenaars(point plaats, int regelhoogte, const std::array<std::string_view, 4>& namen,
+                        const vier_keuzes& rekeningen);
+
+    static void schrijf_melding(tekstregels& to, const melding& feedback) {
+        for (std::size_t i = 0; i < feedback.size(); ++i)
+            if (const std::string_view line = feedback[i]; !line.empty()) to[i] = line;
+    }
     template<class... Lines>
     static void schrijf(tekstregels& to, std::size_t first, Lines&&... lines) {
         [[maybe_unused]] const auto put = [&](auto&& line) { to[first++] = std::forward<decltype(line)>(line); };

@@ -39,6 +39,17 @@ void append_thousands(number_text& text, std::uint64_t number) {
         text.append(all);
 }
 
+void append_groups(number_text& text, std::uint64_t number) {
+    std::array<char, 32> buffer{};
+    std::string_view all = digits(number, buffer);
+    const std::size_t first = (all.size() - 1) % 3 + 1;
+    text.append(all.substr(0, first));
+    for (all.remove_prefix(first); !all.empty(); all.remove_prefix(3)) {
+        text.append(".");
+        text.append(all.substr(0, 3));
+    }
+}
+
 number_text decimal(long long scaled, int decimals, std::string_view separator, bool shortest, bool thousands) {
     const std::uint64_t one = powers_of_ten.at(static_cast<std::size_t>(decimals));
     std::uint64_t fraction = magnitude(scaled) % one;
@@ -78,14 +89,20 @@ number_text komma(long long scaled, int decimals) { return decimal(scaled, decim
 number_text komma_kort(long long scaled, int decimals) { return decimal(scaled, decimals, ",", true, true); }
 number_text punt(long long scaled, int decimals) { return decimal(scaled, decimals, ".", true, false); }
 
-number_text geld(long long cents) {
-    number_text text = signed_blank(cents);
-    append_thousands(text, magnitude(cents) / 100);
-    if (const std::uint64_t rest = magnitude(cents) % 100; rest != 0) {
-        std::array<char, 32> buffer{};
-        text.append(",");
-        text.append(digits(rest, buffer, 2));
-    }
+number_text groepen(long long number) {
+    number_text text = signed_blank(number);
+    append_groups(text, magnitude(number));
+    return text;
+}
+
+number_text euro(long long cents) {
+    number_text text;
+    text.append(cents < 0 ? " € -" : " € ");
+    append_groups(text, magnitude(cents) / 100);
+    text.append(",");
+    std::array<char, 32> buffer{};
+    const std::uint64_t rest = magnitude(cents) % 100;
+    text.append(rest == 0 ? "-" : digits(rest, buffer, 2));
     return text;
 }
 

@@ -46,8 +46,11 @@ number_text komma(long long scaled, int decimals);
 // The same in its shortest form: komma_kort(1250, 2) is " 12,5", komma_kort(1200, 2) is " 12".
 number_text komma_kort(long long scaled, int decimals);
 
-// Euros from whole cents: " 12,50", " 1.234,05", and without decimals where no cents are left: " 1.234".
-number_text geld(long long cents);
+// " 999", " 1.000", " 12.345.678": "." before every three digits.
+number_text groepen(long long number);
+
+// Euros from whole cents: " € 12,50", " € 1.234.567,05", whole euros " € 5,-", below zero " € -0,50".
+number_text euro(long long cents);
 
 // A number for a drawing command: in its shortest form with "." as decimal point and no other.
 number_text punt(long long scaled, int decimals);
@@ -73,15 +76,22 @@ double lees_getal(std::string_view text);
 template<class T>
 concept line_part = std::convertible_to<const T&, std::string_view> || whole_number<T>;
 
-// Glues a line from its parts in the order in which they are read. A whole number gets the blank in front
-// that tekst() gives it; texts go in as they stand.
+// Glues a line from its parts in the order in which they are read. A number, whole or in one of the forms above, has
+// its blank in front unless the line so far ends in one; texts go in as they stand.
 template<line_part... Parts>
 std::string regel(const Parts&... parts) {
     std::string line;
     line.reserve(64);
-    const auto add = [&line](const auto& part) {
-        if constexpr (std::integral<std::remove_cvref_t<decltype(part)>>)
-            line += std::string_view(tekst(static_cast<long long>(part)));
+    const auto add_number = [&line](std::string_view number) {
+        if (line.ends_with(' ') && number.starts_with(' ')) number.remove_prefix(1);
+        line += number;
+    };
+    const auto add = [&](const auto& part) {
+        using type = std::remove_cvref_t<decltype(part)>;
+        if constexpr (whole_number<type>)
+            add_number(tekst(static_cast<long long>(part)));
+        else if constexpr (std::same_as<type, number_text>)
+            add_number(part);
         else
             line += std::string_view(part);
     };

@@ -90,8 +90,8 @@ void oefeningen::B_vlakjes_03_03_click() {
     zaai();
     const int rood_aantal = variant % 2 == 1 ? kies(te_vereenvoudigen) : kies(niet_te_vereenvoudigen);
     const breuk deel{rood_aantal, totaal};
-    const int verteld = rood_aantal + (munt() ? 1 : -1);
-    const int vergist = rood_aantal + (munt() ? 3 : -3);
+    const int verteld = rood_aantal + (kop() ? 1 : -1);
+    const int vergist = rood_aantal + (kop() ? 3 : -3);
     const rechthoek vorm = kies(rechthoeken);
     const int rijen = totaal / vorm.kolommen;
     // Filled column by column, or in places all over.

@@ -36,7 +36,7 @@ void oefeningen::B_helen_03_03_click() {
                                       : "Je hebt opgeteld, maar het is een aftrekking.");
     fout(tekst(met_een_hele), "Je hebt maar één hele ingewisseld voor een breuk,",
          regel("maar er staan", helen, " helen."));
-    if (munt()) {
+    if (kop()) {
         tip_1("Bedenk hoeveel de helen waard zijn, geschreven", "als een breuk.");
         tip_2("Bedenk hoeveel de helen waard zijn, geschreven", "als een breuk.",
               optellen ? "Doe daarna een optelling." : "Doe daarna een aftrekking.");
@@ -105,7 +105,7 @@ void oefeningen::M_aanvullen_1_03_14_click() {
     const int soort = (variant - 1) / 3;
     const int helen = grootte == 0 ? 1 : trek(3) + 1 + grootte;
     const int noemer = soort == 0 ? trek(7) + 3 : trek(5) + 2;
-    const int fijner = noemer * (soort == 0 ? 1 : noemer <= 4 && munt() ? 3 : 2);
+    const int fijner = noemer * (soort == 0 ? 1 : noemer <= 4 && kop() ? 3 : 2);
     const auto echte_breuk = [this](int n) {
         return trek_tot([&] { return breuk{trek(n - 1) + 1, n}; }, [](breuk b) { return !b.vereenvoudigbaar(); });
     };

@@ -109,7 +109,7 @@ void oefeningen::M_grootste_kleinste_03_03_click() {
     // and the red one lie on the far side.
     const bool paar_kleiner = variant % 2 == 1;
     const breuk maat = variant <= 2 ? breuk{1, 2} : kies(makkelijke);
-    const bool groene_apart = munt();
+    const bool groene_apart = kop();
     const auto op_kant = [&](bool kleiner, int most) {
         return trek_tot([&] { return trek_breuk(toeval, 3, most); },
                         [&](breuk drawn) { return kleiner ? drawn < maat : drawn > maat; });
@@ -121,11 +121,11 @@ void oefeningen::M_grootste_kleinste_03_03_click() {
     breuken[rode] = rood_kort.maal(trek(2) + 2);
     breuken[gele] = trek_tot([&] { return op_kant(paar_kleiner, 12); },
                              [&](breuk drawn) { return drawn.noemer != rood_kort.noemer; });
-    const bool grootste = munt();
+    const bool grootste = kop();
     const bool uit_paar = grootste != paar_kleiner;
     const auto gevraagd = grootste ? std::ranges::max_element(breuken) : std::ranges::min_element(breuken);
     const auto juist = static_cast<std::size_t>(gevraagd - breuken.begin());
-    const bool leraar = munt();
+    const bool leraar = kop();
 
     bord(zwart, wit, 12);
     plaatje.line_width = 4;

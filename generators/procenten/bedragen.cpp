@@ -15,8 +15,8 @@ void oefeningen::L_computer_01_08_click() {
             return trek(13) * 5 + 5;
         },
         [](int p) { return p != 10 && p != 20 && p != 25 && p != 50; });
-    const bool meneer = munt();
-    const bool verkoopster = munt();
+    const bool meneer = kop();
+    const bool verkoopster = kop();
     const int een_procent = prijs / 100;
     const int bedrag = korting * een_procent;
     const auto euro = [](int whole) { return regel(duizend(whole), " euro"); };
@@ -134,7 +134,7 @@ void oefeningen::M_rente_01_08_click() {
           regel("Hoeveel procent rente heeft ", hij), "gekregen?");
 
     // Four percentages in a row, upward or downward, none of them 0.
-    const bool omhoog = p <= juist - 1 ? false : p <= 4 - juist ? true : munt();
+    const bool omhoog = p <= juist - 1 ? false : p <= 4 - juist ? true : kop();
     juist_op(juist);
     for (int i = 1; i <= 4; ++i) op_plaats(i, regel(omhoog ? p + i - juist : p - i + juist, " %"));
     if (volwassen) {
@@ -169,13 +169,13 @@ void oefeningen::Z_kommaprocenten_01_08_click() {
         p = trek(9) * 100 + 100 + kies(std::array{10, 20, 30, 40, 60, 70, 80, 90});
         basis = trek_van(200, 2000, 100);
     } else if (variant == 3) { // quarters
-        p = trek(8) * 100 + 100 + (munt() ? 25 : 75);
+        p = trek(8) * 100 + 100 + (kop() ? 25 : 75);
         basis = trek_van(400, 4000, 400);
     } else { // tenths of a base that is no multiple of 100
         p = trek(8) * 100 + 100 + kies(std::array{20, 40, 50, 60, 80});
         basis = trek_van(110, 490, 20);
     }
-    const bool leraar = munt();
+    const bool leraar = kop();
     const number_text p_tekst = komma_kort(p, 2);
     const number_text b_tekst = duizend(basis);
     // All in ten-thousandths: hundredths of a per cent times hundredths of the base.

@@ -22,7 +22,7 @@ void oefeningen::L_snel_01_08_click() {
     zaai();
     const auto& vorm = vormen[variant - 1];
     const auto een_van = [this](const paar& p) {
-        return p.eerste == p.tweede ? p.eerste : munt() ? p.eerste : p.tweede;
+        return p.eerste == p.tweede ? p.eerste : kop() ? p.eerste : p.tweede;
     };
     const int gevraagd = een_van(vorm[0]);
     const int deel = trek(8) + 2;
@@ -67,7 +67,7 @@ void oefeningen::B_alcohol_01_08_Click() {
                                                 {40, "2/5", 20, "1/4"}}};
     kies_variant(4);
     zaai();
-    const paar& deel = rij(paren, 2 * variant - (munt() ? 1 : 0));
+    const paar& deel = rij(paren, 2 * variant - (kop() ? 1 : 0));
     const int noemer = 100 / deel.gedeeld_door;
     const int getrokken = trek(850) + 150;
     const int n = getrokken - getrokken % noemer; // so that the fraction of it is whole
@@ -88,7 +88,7 @@ void oefeningen::B_alcohol_01_08_Click() {
     vraag("Bekijk hiernaast een artikel", "over een alcoholcontrole...", leeg,
           regel("In plaats van ' ", kaal(deel.procent), " % van ", kaal(n), " ' kun je"), "ook zeggen...");
 
-    const std::string_view keer = munt() ? " x " : " van ";
+    const std::string_view keer = kop() ? " x " : " van ";
     goed(regel(deel.breuk, keer, kaal(n)));
     fout(regel(n, " : ", kaal(deel.procent)), "Een percentage van iets is niet",
          "hetzelfde als delen door dat percentage...");

@@ -10,12 +10,6 @@ namespace {
 
 std::string procent(int whole) { return regel(whole, " %"); }
 
-template<std::size_t N>
-bool alle_verschillend(std::array<int, N> values) {
-    std::ranges::sort(values);
-    return std::ranges::adjacent_find(values) == values.end();
-}
-
 constexpr std::array<std::string_view, 29> clubs{
     "Ajax",         "PSV",       "Feyenoord",   "FC Utrecht",  "FC Den Haag",    "FC Groningen",
     "MVV",          "FC Twente", "Vitesse",     "Volendam",    "Heerenveen",     "Sparta",

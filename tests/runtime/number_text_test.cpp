@@ -36,11 +36,17 @@ TEST(number_text, writes_each_form_as_it_is_shown) {
         {komma_kort(0, 3), " 0"},
         {punt(925, 2), " 9.25"},
         {punt(-40, 0), "-40"},
-        {geld(5), " 0,05"},
-        {geld(1250), " 12,50"},
-        {geld(123'405), " 1.234,05"},
-        {geld(123'400), " 1.234"},
-        {geld(-50), "-0,50"},
+        {groepen(999), " 999"},
+        {groepen(1000), " 1.000"},
+        {groepen(-12'345'678), "-12.345.678"},
+        {groepen(least), "-9.223.372.036.854.775.808"},
+        {euro(0), " € 0,-"},
+        {euro(500), " € 5,-"},
+        {euro(5), " € 0,05"},
+        {euro(1250), " € 12,50"},
+        {euro(123'456'705), " € 1.234.567,05"},
+        {euro(-50), " € -0,50"},
+        {euro(least), " € -92.233.720.368.547.758,08"},
         {kaal(-31), "-31"},
         {kaal(duizend(1000)), "1.000"},
     };
@@ -66,6 +72,9 @@ TEST(number_text, drops_what_a_number_cannot_hold_instead_of_overrunning) {
 TEST(number_text, glues_a_line_with_the_blank_of_its_numbers_as_word_space) {
     EXPECT_EQ(regel("Daarna moet je nog met", 5, " vermenigvuldigen."), "Daarna moet je nog met 5 vermenigvuldigen.");
     EXPECT_EQ(regel("is", -3, "."), "is-3.");
+    EXPECT_EQ(regel("Er zijn ", 5, " x", 2, " is ", duizend(1000), "."), "Er zijn 5 x 2 is 1.000.");
+    EXPECT_EQ(regel(5, " keer ", euro(1250), " (", kaal(3), ")"), " 5 keer € 12,50 (3)");
+    EXPECT_EQ(regel("als tekst ", regel(5)), "als tekst  5");
     EXPECT_EQ(regel(kaal(duizend(31'900)), " mensen"), "31.900 mensen");
     EXPECT_EQ(velden("PRINT", 300, -40, punt(925, 2), "H o"), "PRINT_300_-40_9.25_H o");
 }

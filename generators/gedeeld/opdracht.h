@@ -1,0 +1,59 @@
+// The drawing commands of an explanation, as functions that write them.
+// What a command draws is the explanation's; that there are at most seven is the exercise record's.
+#pragma once
+
+#include "generators/gedeeld/breuk.h"
+
+#include <cmath>
+#include <initializer_list>
+
+namespace cijferwerf {
+
+// Points as a command draws them: whole ones.
+inline double opdracht_punten(double points) { return std::nearbyint(points); }
+
+// Prints a line glued from texts and numbers with its top-left corner at (x, y). A number at its start keeps its blank.
+template<line_part... Parts>
+std::string druk_opdracht(int x, int y, kleur in, double points, const Parts&... parts) {
+    return regel("PRINT_", velden(x, y, int{in}, punt(afgerond(points, 2), 2)), "_", regel(parts...));
+}
+
+// The same with its middle, or its right end, at x, and without a blank at its start.
+template<line_part... Parts>
+std::string druk_midden_opdracht(int midden, int y, kleur in, double points, const Parts&... parts) {
+    const std::string line = regel(parts...);
+    return druk_opdracht(midden - text_width(kaal(line), opdracht_punten(points)) / 2, y, in, points, kaal(line));
+}
+template<line_part... Parts>
+std::string druk_rechts_opdracht(int rechts, int y, kleur in, double points, const Parts&... parts) {
+    const std::string line = regel(parts...);
+    return druk_opdracht(rechts - text_width(kaal(line), opdracht_punten(points)), y, in, points, kaal(line));
+}
+
+// Several texts in one line and one command, each as near as blanks allow to its x; the first exactly there. From left
+// to right; between two texts is at least one blank.
+struct stuk_tekst {
+    int x;
+    std::string text;
+};
+std::string druk_opdracht(int y, kleur in, double points, std::initializer_list<stuk_tekst> stukken);
+
+// A filled rectangle, the outline of one, and a line that runs level or upright. A width or height may be negative.
+std::string vak_opdracht(int x, int y, int breedte, int hoogte, kleur in, line_style style = line_style::solid);
+std::string kader_opdracht(int x, int y, int breedte, int hoogte, kleur in, line_style style = line_style::solid);
+// One of dx and dy is 0.
+std::string streep_opdracht(int x, int y, int dx, int dy, kleur in, line_style style = line_style::solid);
+
+// A white mixed number without its bar: the whole at (x, y), the fraction to its right.
+std::string breuk_opdracht(int x, int y, int geheel, int teller, int noemer);
+inline std::string breuk_opdracht(int x, int y, int geheel, breuk b) {
+    return breuk_opdracht(x, y, geheel, b.teller, b.noemer);
+}
+
+// Spokes that cut a circle with radius 770 around (x, y) into n equal slices.
+std::string partjes_opdracht(int x, int y, int n);
+
+// A red stroke, 300 long, from (x, y), and the number that takes the place of what it strikes, at (px, py).
+std::string doorstreep_opdracht(int x, int y, int px, int py, int getal);
+
+} // namespace cijferwerf
