@@ -112,9 +112,10 @@ void mama::presentatielijst_click() {
     maak(lijst_ == nullptr ? std::nullopt
                            : zoek_generator(*lijst_, presentatielijst.selected, globalen_.gekozen_oefening));
 
+    const double points = vraag_punten(vraagregels);
     for (int i = 1; i <= 7; ++i) {
         vraag[i].caption = vraagregels[static_cast<std::size_t>(i - 1)];
-        vraag[i].font_size = vraag_punten(vraagregels);
+        vraag[i].font_size = points;
     }
     plaats_antwoorden();
 

@@ -22,10 +22,7 @@ constexpr toets toetsen[calculator::keys]{
     {"8", "8", ""},
     {"9", "9", ""},
     {",", ",.", "komma"},
-    {"C",
-     "\x1b"
-     "C",
-     "wis invoer"},
+    {"C", "C\x1b", "wis invoer"},
     {"AC", "\x7f", "wis alles"},
     {"+", "+", "plus"},
     {"-", "-", "min"},

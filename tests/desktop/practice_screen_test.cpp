@@ -96,6 +96,17 @@ TEST_F(practice_screen, focus_stays_among_the_answers_after_a_wrong_one) {
     }
 }
 
+TEST_F(practice_screen, a_finger_on_enter_when_the_time_is_up_asks_for_nothing_and_tab_leads_on) {
+    click(*list().viewport(), row(5));
+    outside.run([this] {
+        while (screen.Timer1.enabled) screen.Timer1_tick();
+    });
+    press(Qt::Key_Return);
+    EXPECT_EQ(forms.globalen.aantalvragengedaan, 0);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(outside.page(screen)->focusWidget(), &widget("uitleggeven"));
+}
+
 TEST_F(practice_screen, stopping_asks_first) {
     QString seen;
     answer_box("Nee", seen);
