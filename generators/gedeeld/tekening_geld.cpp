@@ -37,15 +37,16 @@ void teken_munt(drawing& on, point midden, int straal, int cent) {
     if (soort == munten.end()) throw checked_error("no coin of " + std::to_string(cent) + " cents");
     const zelfde_stand bewaard(on);
     on.line_width = 1;
-    const int buiten = straal * soort->middellijn / munten.back().middellijn;
+    const int grootste = munten.back().middellijn;
+    const int buiten = straal * (soort->middellijn + grootste) / (2 * grootste);
     const int binnen = buiten * (soort->rand == soort->hart ? 90 : 76) / 100;
     on.filled_circle(midden.x, midden.y, buiten, soort->rand);
     on.circle(midden.x, midden.y, buiten, zwart);
     on.filled_circle(midden.x, midden.y, binnen, soort->hart);
     on.circle(midden.x, midden.y, binnen, leesbaar_op(soort->rand));
     on.fore_colour = leesbaar_op(soort->hart);
-    on.text_size = buiten / 28.0;
-    druk_om(on, midden, cent < 100 ? regel(kaal(cent), " c") : regel("€", cent / 100));
+    on.text_size = buiten / 25.0;
+    druk_om(on, midden, cent < 100 ? regel(kaal(cent), " ct") : regel("€", cent / 100));
 }
 
 void teken_briefje(drawing& on, int links, int boven, int breedte, int euro) {
@@ -56,8 +57,8 @@ void teken_briefje(drawing& on, int links, int boven, int breedte, int euro) {
     const int hoogte = breedte / 2, rand = breedte / 16;
     on.filled_box(links, boven, breedte, hoogte, soort->tint);
     on.box(links, boven, breedte, hoogte, zwart);
-    on.filled_box(links + rand, boven + rand, breedte - 2 * rand, hoogte - 2 * rand, wit);
-    on.fore_colour = zwart;
+    on.fore_colour = leesbaar_op(soort->tint);
+    on.box(links + rand, boven + rand, breedte - 2 * rand, hoogte - 2 * rand, on.fore_colour);
     on.text_size = breedte / 60.0;
     druk_om(on, {links + breedte / 2, boven + hoogte / 2}, regel("€", euro));
 }

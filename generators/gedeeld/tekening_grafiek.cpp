@@ -28,6 +28,7 @@ assen::assen(drawing& on, const vlak& plot, asschaal langs_x, asschaal langs_y)
     if (langs_x.tot <= langs_x.van || langs_y.tot <= langs_y.van || langs_x.stap < 1 || langs_y.stap < 1)
         throw checked_error("an axis without length");
     const zelfde_stand bewaard(on);
+    on.filled_box(plot.links, plot.boven, plot.breedte, plot.hoogte, wit);
     on.line_width = 2;
     on.line(plot.links, plot.boven, plot.links, plot.onder(), on.fore_colour);
     on.line(plot.links, plot.onder(), plot.rechts(), plot.onder(), on.fore_colour);
@@ -50,15 +51,15 @@ void assen::lijnen_langs() {
         on_.line(x(waarde), plot_.boven, x(waarde), plot_.onder(), lichtgrijs);
 }
 
-void assen::getallen_links(std::string_view achter) {
-    for (int waarde = langs_y_.van; waarde <= langs_y_.tot; waarde += langs_y_.stap)
+void assen::getallen_links(std::string_view achter, int om) {
+    for (int waarde = langs_y_.van; waarde <= langs_y_.tot; waarde += om == 0 ? langs_y_.stap : om)
         on_.print_right(plot_.links - room, y(waarde) - halve_regel(on_.text_size),
                         regel(kaal(duizend(waarde)), achter));
 }
 
-void assen::getallen_onder() {
-    for (int waarde = langs_x_.van; waarde <= langs_x_.tot; waarde += langs_x_.stap)
-        on_.print_centred(x(waarde), plot_.onder() + room / 2, regel(kaal(duizend(waarde))));
+void assen::getallen_onder(int om) {
+    for (int waarde = langs_x_.van; waarde <= langs_x_.tot; waarde += om == 0 ? langs_x_.stap : om)
+        on_.print_centred(x(waarde), plot_.onder() + room / 2, kaal(duizend(waarde)));
 }
 
 void assen::namen_onder(const std::vector<std::string>& namen) {

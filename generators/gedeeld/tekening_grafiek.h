@@ -15,7 +15,7 @@ struct asschaal {
 // it at 8 points, 400 to its left, and 230 above it for the name of the upright axis.
 class assen {
 public:
-    // Draws ground and axes; gridlines and labels come when they are asked for, and are best asked for first.
+    // Draws a white plot with its axes. Gridlines and labels come when they are asked for, before lines and columns.
     assen(drawing& on, const vlak& plot, asschaal langs_x, asschaal langs_y);
 
     // The place of a value, also of one outside the plot.
@@ -26,9 +26,10 @@ public:
     void lijnen_op();    // a horizontal gridline at each step of y
     void lijnen_langs(); // an upright one at each step of x
 
-    // The numbers at the steps of y, each with this behind it, and at the steps of x.
-    void getallen_links(std::string_view achter = "");
-    void getallen_onder();
+    // The numbers beside the gridlines of y, each with this behind it, and below those of x: at every step, or at every
+    // so many units where the steps are too close for that.
+    void getallen_links(std::string_view achter = "", int om = 0);
+    void getallen_onder(int om = 0);
     // A text in the middle of each step of x: a month, a family.
     void namen_onder(const std::vector<std::string>& namen);
     // What the numbers count: above the upright axis, and at the right end of the other.

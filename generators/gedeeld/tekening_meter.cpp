@@ -59,8 +59,10 @@ void teken_wijzerplaat(drawing& on, point midden, int straal, const wijzerschaal
     const zelfde_stand bewaard(on);
     const auto graden = [&](int at) { return langs.vanaf - langs.boog * at / langs.tot; };
     const bool round = langs.boog > 180;
-    on.sector(midden.x, midden.y, straal, langs.vanaf - langs.boog, langs.boog, on.fore_colour, true);
-    on.sector(midden.x, midden.y, straal - 30, langs.vanaf - langs.boog, langs.boog, wit, true);
+    const double sweep = round ? 360 : langs.boog, right_end = langs.vanaf - langs.boog;
+    on.line_width = 3;
+    on.sector(midden.x, midden.y, straal, right_end, sweep, wit, true);
+    on.sector(midden.x, midden.y, straal, right_end, sweep, zwart, false);
     for (int at = 0; at <= langs.tot; at += langs.kort) {
         const bool lang = at % langs.lang == 0;
         on.line_width = lang ? 3 : 1;
@@ -78,7 +80,8 @@ void teken_wijzerplaat(drawing& on, point midden, int straal, const wijzerschaal
     }
     on.line_width = 1;
     teken_naald(on, midden, share(straal, 0.8), share(straal, 0.05), graden(waarde), rood);
-    on.filled_circle(midden.x, midden.y, share(straal, 0.08), on.fore_colour);
+    on.filled_circle(midden.x, midden.y, share(straal, 0.08), zwart);
+    if (round) on.fore_colour = zwart; // it stands on the face
     if (!opschrift.empty())
         druk_om(on, {midden.x, midden.y + (round ? share(straal, 0.5) : share(straal, 0.08) + 150)}, opschrift);
 }
