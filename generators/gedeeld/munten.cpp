@@ -7,10 +7,10 @@
 namespace cijferwerf {
 
 std::string geldstuk(int cent, int aantal) {
-    const std::string soort = cent >= briefwaarden.back() ? "briefje" : aantal == 1 ? "munt" : "munten";
-    const std::string meervoud = cent >= briefwaarden.back() && aantal != 1 ? "s" : "";
-    return regel(soort, meervoud, " van ",
-                 cent < 100 ? regel(kaal(cent), " eurocent") : regel("€", duizend(cent / 100), ",-"));
+    const bool is_briefje = cent >= briefwaarden.back();
+    const std::string_view soort =
+        aantal == 1 ? (is_briefje ? "briefje" : "munt") : (is_briefje ? "briefjes" : "munten");
+    return cent < 100 ? regel(soort, " van", cent, " eurocent") : regel(soort, " van", euro(cent));
 }
 
 bedragen gepast_te_betalen(std::span<const stapel> geld) {

@@ -61,7 +61,7 @@ TEST(units, are_converted_exactly) {
     };
     for (const auto& [number, from, to, expected] :
          {row{{25, 1}, maat("m"), maat("cm"), " 250 cm, 100 keer zo groot"},
-          {{7}, maat("mm"), maat("hm"), " 0,00007 hm, 100.000 keer zo klein"},
+          {{7}, maat("mm"), maat("km"), " 0,000007 km, 1.000.000 keer zo klein"},
           {{3}, maat("ha"), maat("m²"), " 30.000 m², 10.000 keer zo groot"},
           {{250}, maat("are"), maat("hm²"), " 2,5 hm², 100 keer zo klein"},
           {{45, 2}, maat("dag"), maat("g"), " 4,5 g, 10 keer zo groot"},
