@@ -61,8 +61,10 @@ int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view 
 void teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& regels) {
     if (nummer < 1 || nummer > 4) throw checked_error("no advertisement " + std::to_string(nummer));
     const zelfde_stand bewaard(on);
+    constexpr int rand = 12;
     const int width = drawing::inner_width / 2, height = drawing::inner_height / 2;
-    const vlak waar{(nummer - 1) % 2 * width + 30, (nummer - 1) / 2 * height + 30, width - 60, height - 60};
+    const vlak waar{(nummer - 1) % 2 * width + rand, (nummer - 1) / 2 * height + rand, width - 2 * rand,
+                    height - 2 * rand};
     sheet(on, waar, 0);
     const int step = std::min((waar.hoogte - 60) / static_cast<int>(regels.size()), text_height(on.text_size) * 3 / 2);
     int middle = waar.midden().y - step * (static_cast<int>(regels.size()) - 1) / 2;

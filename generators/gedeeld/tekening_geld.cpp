@@ -45,7 +45,7 @@ void teken_munt(drawing& on, point midden, int straal, int cent) {
     on.filled_circle(midden.x, midden.y, binnen, soort->hart);
     on.circle(midden.x, midden.y, binnen, leesbaar_op(soort->rand));
     on.fore_colour = leesbaar_op(soort->hart);
-    on.text_size = buiten / 25.0;
+    on.text_size = buiten / 26.0;
     druk_om(on, midden, cent < 100 ? regel(kaal(cent), " ct") : regel("€", cent / 100));
 }
 

@@ -45,7 +45,7 @@ void teken_teller(drawing& on, int x, int y, std::string_view getal) {
     constexpr int frame = 45;
     on.filled_box(x - frame, y - frame, width + 2 * frame, height + 2 * frame, grijs);
     on.filled_box(x, y, whole, height, zwart);
-    on.filled_box(x + whole, y, width - whole, height, donkerrood);
+    if (whole < width) on.filled_box(x + whole, y, width - whole, height, donkerrood);
     on.fore_colour = wit;
     on.print_at(x + blank, y + height / 2 - halve_regel(on.text_size), wijd);
     // Between the digits, not across the comma that fills half of its gap.
