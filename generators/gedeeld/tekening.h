@@ -5,6 +5,7 @@
 // and every verb leaves colour, text size and lines as it found them.
 #pragma once
 
+#include "generators/gedeeld/kleuren.h"
 #include "runtime/picture_box.h"
 
 #include <cmath>
@@ -48,12 +49,6 @@ private:
     int width_;
     line_style style_;
 };
-
-// White or black, whichever is read best on this ground: the contrast is 4.5 or more on each of the sixteen.
-constexpr kleur leesbaar_op(kleur grond) {
-    const bool donker = grond <= paars || grond == blauw;
-    return donker ? wit : zwart;
-}
 
 // From the top of a line of text to the middle of its digits.
 constexpr int halve_regel(double points) { return static_cast<int>(points * 20 * 0.5585 + 0.5); }

@@ -30,7 +30,7 @@ int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view 
         const int high = text_height(on.text_size) + 40, middle = waar.boven + 40 + high / 2;
         const bool bar = soort == bladsoort::reclame, letter = soort == bladsoort::brief;
         if (bar) on.filled_box(waar.links, waar.boven, waar.breedte, high + 60, tint);
-        on.fore_colour = bar ? leesbaar_op(tint) : tint;
+        on.fore_colour = bar ? letterkleur(tint) : tint;
         if (letter)
             on.print_at(waar.links + marge, middle - halve_regel(on.text_size), kop);
         else

@@ -43,8 +43,8 @@ void teken_munt(drawing& on, point midden, int straal, int cent) {
     on.filled_circle(midden.x, midden.y, buiten, soort->rand);
     on.circle(midden.x, midden.y, buiten, zwart);
     on.filled_circle(midden.x, midden.y, binnen, soort->hart);
-    on.circle(midden.x, midden.y, binnen, leesbaar_op(soort->rand));
-    on.fore_colour = leesbaar_op(soort->hart);
+    on.circle(midden.x, midden.y, binnen, letterkleur(soort->rand));
+    on.fore_colour = letterkleur(soort->hart);
     on.text_size = buiten / 26.0;
     druk_om(on, midden, cent < 100 ? regel(kaal(cent), " ct") : regel("€", cent / 100));
 }
@@ -57,7 +57,7 @@ void teken_briefje(drawing& on, int links, int boven, int breedte, int euro) {
     const int hoogte = breedte / 2, rand = breedte / 16;
     on.filled_box(links, boven, breedte, hoogte, soort->tint);
     on.box(links, boven, breedte, hoogte, zwart);
-    on.fore_colour = leesbaar_op(soort->tint);
+    on.fore_colour = letterkleur(soort->tint);
     on.box(links + rand, boven + rand, breedte - 2 * rand, hoogte - 2 * rand, on.fore_colour);
     on.text_size = breedte / 60.0;
     druk_om(on, {links + breedte / 2, boven + hoogte / 2}, regel("€", euro));

@@ -115,13 +115,13 @@ void teken_taart(drawing& on, point midden, int straal, const std::vector<taartd
     for (std::size_t i = 0; i < delen.size(); ++i) {
         on.sector(midden.x, midden.y, straal, sectoren[i].vanaf, sectoren[i].sweep, delen[i].vulling, true);
         if (delen[i].gestreept)
-            arceer_sector(on, midden, straal, sectoren[i].vanaf, sectoren[i].sweep, leesbaar_op(delen[i].vulling));
+            arceer_sector(on, midden, straal, sectoren[i].vanaf, sectoren[i].sweep, letterkleur(delen[i].vulling));
     }
     on.line_width = 2;
     for (const sector& each : sectoren) on.sector(midden.x, midden.y, straal, each.vanaf, each.sweep, zwart, false);
     for (std::size_t i = 0; i < delen.size(); ++i) {
         if (delen[i].tekst.empty()) continue;
-        on.fore_colour = leesbaar_op(delen[i].vulling);
+        on.fore_colour = letterkleur(delen[i].vulling);
         druk_om(on, op_cirkel(midden, straal * 0.63, sectoren[i].vanaf + sectoren[i].sweep / 2), delen[i].tekst);
     }
 }

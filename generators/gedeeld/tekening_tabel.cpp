@@ -16,7 +16,7 @@ tabel::tabel(drawing& on, int links, int boven, int breedte, int rijhoogte, std:
     if (std::ranges::all_of(kolommen_, [](const tabelkolom& each) { return each.kop.empty(); })) return;
     const zelfde_stand bewaard(on);
     on.filled_box(links, boven, breedte, rijhoogte, on.fore_colour);
-    on.fore_colour = leesbaar_op(on.fore_colour);
+    on.fore_colour = letterkleur(on.fore_colour);
     for (std::size_t i = 0; i < kolommen_.size(); ++i) cel(i, kolommen_[i].kop);
     y_ += rijhoogte;
 }
@@ -35,7 +35,7 @@ void tabel::sluit_rij() {
     const zelfde_stand bewaard(on_);
     on_.line_width = 1;
     y_ += rijhoogte_;
-    on_.line(links_, y_, links_ + breedte_, y_, leesbaar_op(on_.ground) == zwart ? lichtgrijs : grijs);
+    on_.line(links_, y_, links_ + breedte_, y_, letterkleur(on_.ground) == zwart ? lichtgrijs : grijs);
 }
 
 } // namespace cijferwerf

@@ -9,7 +9,7 @@
 #include "generators/gedeeld/tekening_tabel.h"
 
 #include "runtime/checked_error.h"
-#include "tests/support/ink.h"
+#include "tests/support/crossing.h"
 
 #include <gtest/gtest.h>
 
@@ -29,47 +29,14 @@ std::vector<Operation> all(const drawing& drawn) {
 
 // ---- words ----
 
-// Whether a straight line from a to b meets the ink of a word; half a pixel does not count.
-bool crosses(point a, point b, const ink& word) {
-    constexpr double slack = 8;
-    double first = 0, last = 1; // the part of the line that is left
-    const auto clip = [&](int from, int to, double low, double high) {
-        if (from == to) return low < from && from < high;
-        const double enters = (low - from) / (to - from), leaves = (high - from) / (to - from);
-        first = std::max(first, std::min(enters, leaves));
-        last = std::min(last, std::max(enters, leaves));
-        return first < last;
-    };
-    return clip(a.x, b.x, word.left + slack, word.right - slack) &&
-           clip(a.y, b.y, word.top + slack, word.bottom - slack);
-}
-
-std::vector<point> edge(const drawing_op& operation) {
-    if (const auto* line = std::get_if<line_op>(&operation)) return {line->from, line->to};
-    if (const auto* shape = std::get_if<polygon_op>(&operation)) {
-        std::vector<point> around = shape->corners;
-        around.push_back(around.front());
-        return around;
-    }
-    if (const auto* box = std::get_if<box_op>(&operation)) {
-        const int right = box->x + box->width, bottom = box->y + box->height;
-        return {{box->x, box->y}, {right, box->y}, {right, bottom}, {box->x, bottom}, {box->x, box->y}};
-    }
-    return {};
-}
-
 std::string first_fault(const drawing& drawn) {
     const std::vector<ink> words = visible_words(drawn);
     for (std::size_t i = 0; i < words.size(); ++i) {
         if (!words[i].within(0, 0, drawing::inner_width, drawing::inner_height)) return words[i].word + " leaves";
         for (std::size_t j = 0; j < i; ++j)
             if (words[i].meets(words[j])) return words[i].word + " over " + words[j].word;
-        for (const drawing_op& operation : drawn.operations()) {
-            const std::vector<point> path = edge(operation);
-            for (std::size_t k = 1; k < path.size(); ++k)
-                if (crosses(path[k - 1], path[k], words[i])) return "a line through " + words[i].word;
-        }
     }
+    if (const auto crossed = line_through_word(drawn)) return "a line through " + *crossed;
     return words.empty() ? "no words" : "";
 }
 
@@ -220,7 +187,7 @@ TEST(drawings, print_in_white_or_black_what_is_read_on_each_colour) {
         return sum + 0.05;
     };
     for (int i = 0; i < aantal_kleuren; ++i) {
-        const double ground = light(static_cast<kleur>(i)), text = light(leesbaar_op(static_cast<kleur>(i)));
+        const double ground = light(static_cast<kleur>(i)), text = light(letterkleur(static_cast<kleur>(i)));
         EXPECT_GE(std::max(ground, text) / std::min(ground, text), 4.5) << "on colour " << i;
     }
 }

@@ -1,0 +1,14 @@
+// Lines of a picture that run through its words. Which of them are meant is the test's to know.
+#pragma once
+
+#include "tests/support/ink.h"
+
+#include <optional>
+
+namespace cijferwerf {
+
+// The first word through whose ink a line, or the edge of a box or polygon, is seen to run; or nothing. What is filled
+// after the line and before the word hides it.
+std::optional<std::string> line_through_word(const drawing& drawn);
+
+} // namespace cijferwerf
