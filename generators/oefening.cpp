@@ -57,13 +57,17 @@ void oefening::druk_som_met_antwoord(int x, int y, kleur in, int punten, std::st
 
 void oefening::druk_antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen,
                                           const std::string& antwoord) {
-    druk(x, y, stippen);
-    const int breedte = plaatje.x - x;
     const double punten = plaatje.text_size;
+    const int breedte = text_width(stippen, punten);
+    const int ruimte = std::max(breedte, text_width(kaal(antwoord), punten) + 2 * text_width(" ", punten));
+    const int midden = x + ruimte / 2;
+    druk(midden - breedte / 2, y, stippen);
+    plaatje.x = x + ruimte;
     // From the tops of the letters to a little below the line on which they stand.
     const int boven = digit_top(punten) - 20;
-    opdracht(vak_opdracht(x, y + boven, breedte, static_cast<int>(punten * 20 * 0.95) - boven, plaatje.ground));
-    opdracht(druk_midden_opdracht(x + breedte / 2, y, in, punten, kaal(antwoord)));
+    const int hoogte = static_cast<int>(punten * 20 * 0.95) - boven;
+    opdracht(vak_opdracht(midden - breedte / 2, y + boven, breedte, hoogte, plaatje.ground));
+    opdracht(druk_midden_opdracht(midden, y, in, punten, antwoord));
 }
 
 int oefening::trek_eronder(int lager, int hoger) {
@@ -84,54 +88,46 @@ oefening::vier_keuzes oefening::verdeeld(std::span<const keuze<>> opties) {
     return verdeling;
 }
 
-void oefening::antwoord_op_plaats(int plaats, std::string_view text, const melding& feedback) {
-    op_plaats(plaats, text);
-    if (plaats != juiste_positie) schrijf_melding(foutregels(getoond_antwoord(plaats, juiste_positie)), feedback);
+void oefening::toon_opties(point plaats, int regelhoogte, int marge, const std::array<std::string_view, 4>& woorden,
+                           const vier_keuzes& opties, const std::array<kleur, 4>* balken) {
+    constexpr int rand = 180;
+    const int breedte = drawing::inner_width - rand - plaats.x;
+    double punten = plaatje.text_size;
+    int kolom = 0; // where the options begin, after the longest word
+    for (;; punten -= 0.5) {
+        int woord_breedte = 0;
+        int optie_breedte = 0;
+        for (std::size_t i = 0; i < 4; ++i) {
+            woord_breedte = std::max(woord_breedte, text_width(woorden[i], punten));
+            optie_breedte = std::max(optie_breedte, breedte_met_machten(opties[i]->waarde, punten));
+        }
+        kolom = marge + woord_breedte + std::max(2 * marge, 60);
+        if (kolom + optie_breedte + marge <= breedte || punten <= 8) break;
+    }
+    plaatje.text_size = punten;
+    for (std::size_t i = 0; i < 4; ++i) {
+        int y = plaats.y + static_cast<int>(i) * regelhoogte;
+        if (balken != nullptr) {
+            const int hoogte = regelhoogte - 50;
+            plaatje.filled_box(plaats.x, y, breedte, hoogte, (*balken)[i]);
+            plaatje.box(plaats.x, y, breedte, hoogte, grijs);
+            plaatje.fore_colour = letterkleur((*balken)[i]);
+            y += (hoogte - text_height(punten)) / 2;
+        }
+        druk(plaats.x + marge, y, woorden[i]);
+        druk_machten(plaats.x + kolom, y, opties[i]->waarde);
+        // "Erna......." answers as "Erna".
+        const int plek = static_cast<int>(i) + 1;
+        op_plaats(plek, woorden[i].substr(0, woorden[i].find_last_not_of(". ") + 1));
+        if (plek != juiste_positie)
+            schrijf_melding(foutregels(getoond_antwoord(plek, juiste_positie)), opties[i]->melding);
+    }
 }
 
 void oefening::toon_kleurkeuze(point plaats, int regelhoogte, const std::array<kleur, 4>& kleuren,
                                const vier_keuzes& opties) {
-    constexpr int rand = 180;
-    constexpr int marge = 130;
-    const int breedte = drawing::inner_width - rand - plaats.x;
-    const int hoogte = regelhoogte - 50;
-    const auto kolom = [&](double punten) { // where the options begin, after the longest word
-        int woorden = 0;
-        for (const kleur k : kleuren) woorden = std::max(woorden, text_width(woord(k), punten));
-        return marge + woorden + 2 * marge;
-    };
-    const auto past = [&](double punten) {
-        return std::all_of(opties.begin(), opties.end(), [&](const keuze<>* optie) {
-            return kolom(punten) + breedte_met_machten(optie->waarde, punten) + marge <= breedte;
-        });
-    };
-    double punten = plaatje.text_size;
-    while (punten > 8 && !past(punten)) punten -= 0.5;
-    plaatje.text_size = punten;
-    for (std::size_t i = 0; i < kleuren.size(); ++i) {
-        const int y = plaats.y + static_cast<int>(i) * regelhoogte;
-        const int tekst_y = y + (hoogte - text_height(punten)) / 2;
-        plaatje.filled_box(plaats.x, y, breedte, hoogte, kleuren[i]);
-        plaatje.box(plaats.x, y, breedte, hoogte, grijs);
-        plaatje.fore_colour = letterkleur(kleuren[i]);
-        druk(plaats.x + marge, tekst_y, woord(kleuren[i]));
-        druk_machten(plaats.x + kolom(punten), tekst_y, opties[i]->waarde);
-        antwoord_op_plaats(static_cast<int>(i) + 1, woord(kleuren[i]), opties[i]->melding);
-    }
-}
-
-void oefening::toon_rekenaars(point plaats, int regelhoogte, const std::array<std::string_view, 4>& namen,
-                              const vier_keuzes& rekeningen) {
-    int kolom = plaats.x;
-    for (const std::string_view naam : namen)
-        kolom = std::max(kolom, plaats.x + text_width(naam, plaatje.text_size) + 60);
-    for (std::size_t i = 0; i < namen.size(); ++i) {
-        const int y = plaats.y + static_cast<int>(i) * regelhoogte;
-        druk(plaats.x, y, namen[i]);
-        druk_machten(kolom, y, rekeningen[i]->waarde);
-        const std::string_view zonder_stippen = namen[i].substr(0, namen[i].find_last_not_of(". ") + 1);
-        antwoord_op_plaats(static_cast<int>(i) + 1, zonder_stippen, rekeningen[i]->melding);
-    }
+    toon_opties(plaats, regelhoogte, 130, {woord(kleuren[0]), woord(kleuren[1]), woord(kleuren[2]), woord(kleuren[3])},
+                opties, &kleuren);
 }
 
 void oefening::leg_vast(int plaats) {

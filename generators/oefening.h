@@ -163,9 +163,9 @@ protected:
     void som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som, const Text& antwoord) {
         druk_som_met_antwoord(x, y, in, punten, som, regel(antwoord));
     }
-    // Prints dots at (x, y) in the board's colour and size (whole points). The explanation wipes them out with the
-    // board's ground and prints the answer in this colour in the middle of where they stood: give dots that are as
-    // wide as the answer. Two commands.
+    // Prints dots from (x, y) on in the board's colour and size (whole points), in the middle of as much room as they
+    // or the answer need; the picture's x then lies behind it. The explanation wipes the dots out with the board's
+    // ground and prints the answer in their place, in this colour. Two commands.
     template<line_part Text>
     void antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen, const Text& antwoord) {
         druk_antwoord_over_stippen(x, y, in, stippen, regel(antwoord));
@@ -262,7 +262,8 @@ protected:
     template<class List = std::initializer_list<keuze<>>>
     void vier_rekenaars(point plaats, int regelhoogte, const std::array<std::string_view, 4>& namen,
                         const List& rekeningen) {
-        toon_rekenaars(plaats, regelhoogte, namen, verdeeld(std::span(std::data(rekeningen), std::size(rekeningen))));
+        toon_opties(plaats, regelhoogte, 0, namen, verdeeld(std::span(std::data(rekeningen), std::size(rekeningen))),
+                    nullptr);
     }
 
     // The text of the right answer without blanks around it, for the explanation.
@@ -290,10 +291,10 @@ private:
     void druk_antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen, const std::string& antwoord);
     // Four options, the first of them right, in the order in which they will stand; sets the place of the right one.
     vier_keuzes verdeeld(std::span<const keuze<>> opties);
-    void antwoord_op_plaats(int plaats, std::string_view text, const melding& feedback);
+    // Draws each option behind its word, on a bar where there are bars, and makes the words the answers.
+    void toon_opties(point plaats, int regelhoogte, int marge, const std::array<std::string_view, 4>& woorden,
+                     const vier_keuzes& opties, const std::array<kleur, 4>* balken);
     void toon_kleurkeuze(point plaats, int regelhoogte, const std::array<kleur, 4>& kleuren, const vier_keuzes& opties);
-    void toon_rekenaars(point plaats, int regelhoogte, const std::array<std::string_view, 4>& namen,
-                        const vier_keuzes& rekeningen);
 
     static void schrijf_melding(tekstregels& to, const melding& feedback) {
         for (std::size_t i = 0; i < feedback.size(); ++i)
