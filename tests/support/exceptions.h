@@ -23,7 +23,7 @@ enum class exception_kind {
     tells_itself_apart,      // the right answer may have the only length, unit, ... of its kind
     step_not_exact,          // an arithmetic step that is not meant to be exact, or is quoted as a mistake
     tip_gives_more,          // the first tip has numbers that the second one lacks
-    line_through_word,       // a line of the picture is meant to cross a word
+    crossing_line_meant,     // a line of the picture is meant to cross a word
 };
 
 struct exceptions {

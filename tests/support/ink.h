@@ -31,8 +31,10 @@ inline void add_words(std::vector<ink>& to, const text_op& text, std::size_t ope
         const std::string word = text.text.substr(at, end - at);
         const bool tailed = word.find_first_of("gjpqyQ,;()") != std::string::npos;
         const double left = text.x + text_width(text.text.substr(0, at), text.size);
-        to.push_back({left, 1.0 * text.y + digit_top(text.size), left + text_width(word, text.size),
-                      text.y + em * (base_line + (tailed ? tail : 0)), word, text.colour, text.size, operation});
+        const bool dots = word.find_first_not_of('.') == std::string::npos;
+        const double top = text.y + (dots ? em * (base_line - 0.11) : digit_top(text.size));
+        to.push_back({left, top, left + text_width(word, text.size), text.y + em * (base_line + (tailed ? tail : 0)),
+                      word, text.colour, text.size, operation});
         at = text.text.find_first_not_of(' ', end);
     }
 }
