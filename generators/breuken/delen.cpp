@@ -1,6 +1,7 @@
 // Parts of a whole: sharing, colouring, a part of a crowd, pieces of a segment. The wrong answers are the mistakes of a
 // child that swaps numerator and denominator, looks at the other part or miscounts.
 #include "generators/breuken/breuken.h"
+#include "generators/gedeeld/telwoord.h"
 #include "generators/oefeningen.h"
 
 #include <algorithm>
@@ -8,22 +9,11 @@
 namespace cijferwerf {
 
 void oefeningen::B_chocolade_03_03_click() {
-    struct telwoord {
-        int getal;
-        std::string_view met_hoofdletter, klein;
-    };
-    static constexpr std::array<telwoord, 7> telwoorden{{{4, "Vier", "vier"},
-                                                         {2, "Twee", "twee"},
-                                                         {11, "Elf", "elf"},
-                                                         {9, "Negen", "negen"},
-                                                         {7, "Zeven", "zeven"},
-                                                         {5, "Vijf", "vijf"},
-                                                         {3, "Drie", "drie"}}};
+    static constexpr std::array groepen_kinderen{4, 2, 11, 9, 7, 5, 3};
     static constexpr std::array<kleur, 4> truien{blauw, rood, groen, paars};
     kies_variant(14);
     zaai();
-    const telwoord& woord = rij(telwoorden, (variant + 1) / 2);
-    const int kinderen = woord.getal;
+    const int kinderen = rij(groepen_kinderen, (variant + 1) / 2);
     const int repen =
         trek_tot([this] { return trek(11) + 2; }, [&](int drawn) { return std::gcd(drawn, kinderen) == 1; });
 
@@ -56,10 +46,10 @@ void oefeningen::B_chocolade_03_03_click() {
 
     const std::string_view slot = "Welk deel van een reep krijgt ieder kind?";
     if (variant % 2 == 1)
-        vraag(regel("Er moeten", repen, " repen over ", woord.klein), "kinderen verdeeld worden, zodat ieder kind",
-              "een even groot stuk krijgt.", leeg, slot);
+        vraag(regel("Er moeten", repen, " repen over ", telwoord(kinderen)),
+              "kinderen verdeeld worden, zodat ieder kind", "een even groot stuk krijgt.", leeg, slot);
     else
-        vraag(regel(woord.met_hoofdletter, " kinderen verdelen", repen, " repen,"), "zodat ieder kind een even",
+        vraag(regel(Telwoord(kinderen), " kinderen verdelen", repen, " repen,"), "zodat ieder kind een even",
               "groot deel krijgt.", leeg, slot);
 
     goed(streepbreuk({repen, kinderen}));

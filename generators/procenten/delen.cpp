@@ -1,4 +1,5 @@
 // Percentages as parts of a whole: a fraction, a slice of a pie, strips of a lawn.
+#include "generators/gedeeld/kalender.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -47,8 +48,6 @@ void oefeningen::L_snel_01_08_click() {
 void oefeningen::B_alcohol_01_08_Click() {
     static constexpr std::array<std::string_view, 8> steden{"Amsterdam", "Rotterdam",  "Den Haag",   "Utrecht",
                                                             "Eindhoven", "Maastricht", "Middelburg", "Groningen"};
-    static constexpr std::array<std::string_view, 7> dagen{"maandag", "dinsdag",  "woensdag", "donderdag",
-                                                           "vrijdag", "zaterdag", "zondag"};
     // A percentage, its fraction and what both its parts were divided by, and a fraction that it is not (nor 1/p,
     // which would be dividing by the percentage).
     struct paar {
@@ -72,7 +71,7 @@ void oefeningen::B_alcohol_01_08_Click() {
     const int getrokken = trek(850) + 150;
     const int n = getrokken - getrokken % noemer; // so that the fraction of it is whole
     const std::string_view stad = kies(steden);
-    const std::string_view dag = kies(dagen);
+    const std::string_view dag = kies(weekdagen);
     const int juist = trek(4) + 1;
 
     bord(wit, zwart, 11);

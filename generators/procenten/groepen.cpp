@@ -1,5 +1,6 @@
 // Percentages of a group of people: how many they are, how many per cent, and where that is most.
 // The wrong answers are the other group and a count for a percentage.
+#include "generators/gedeeld/kalender.h"
 #include "generators/oefeningen.h"
 
 #include <algorithm>
@@ -147,25 +148,9 @@ void oefeningen::M_blessures_01_08_click() {
         "boksen",  "worstelen", "judo",      "atletiek", "honkbal", "vollybal",  "badminton",  "handbal"};
     static constexpr std::array<std::string_view, 8> landen{"Engeland",  "Nederland", "Noorwegen",  "België",
                                                             "Frankrijk", "Rusland",   "Denemarken", "Italië"};
-    static constexpr std::array<std::string_view, 19> perioden{"januari",
-                                                               "februari",
-                                                               "maart",
-                                                               "april",
-                                                               "mei",
-                                                               "juni",
-                                                               "juli",
-                                                               "augustus",
-                                                               "september",
-                                                               "oktober",
-                                                               "november",
-                                                               "december",
-                                                               "eerste kwartaal",
-                                                               "tweede kwartaal",
-                                                               "derde kwartaal",
-                                                               "vierde kwartaal",
-                                                               "eerste halfjaar",
-                                                               "tweede halfjaar",
-                                                               "in 't jaar"};
+    static constexpr std::array<std::string_view, 7> langere_perioden{
+        "eerste kwartaal", "tweede kwartaal", "derde kwartaal", "vierde kwartaal",
+        "eerste halfjaar", "tweede halfjaar", "in 't jaar"};
     struct sport {
         std::string_view naam;
         int een_procent; // of those who do it
@@ -183,7 +168,9 @@ void oefeningen::M_blessures_01_08_click() {
     zaai();
     const bool grootst = variant > 2;
     const std::string_view land = kies(landen);
-    const std::string_view periode = kies(perioden);
+    const int periode_nummer = trek_van(1, 19);
+    const std::string_view periode =
+        periode_nummer <= 12 ? rij(maanden, periode_nummer).naam : rij(langere_perioden, periode_nummer - 12);
     // The percentages lie at least 2 apart, and who only looks at the numbers of injuries is wrong.
     const overzicht o = trek_tot(
         [&] {
