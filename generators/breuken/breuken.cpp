@@ -8,9 +8,10 @@ namespace cijferwerf {
 
 breuk trek_breuk(random_draws& toeval, int least, int most) {
     const int noemer = least + toeval.below(most - least + 1);
-    int teller = 1 + toeval.below(noemer - 1);
-    while (std::gcd(teller, noemer) > 1) --teller; // 1 always fits
-    return {teller, noemer};
+    std::vector<int> tellers;
+    for (int teller = 1; teller < noemer; ++teller)
+        if (std::gcd(teller, noemer) == 1) tellers.push_back(teller);
+    return {tellers[static_cast<std::size_t>(toeval.below(static_cast<int>(tellers.size())))], noemer};
 }
 
 std::vector<breuk> breuken_onder_1(int grootste_noemer) {

@@ -12,7 +12,8 @@
 
 namespace cijferwerf {
 
-// A fraction below 1 in its simplest form, its denominator from least (at least 2) to most.
+// A fraction below 1 in its simplest form: its denominator from least (at least 2) to most, all numerators that it can
+// have evenly.
 breuk trek_breuk(random_draws& toeval, int least, int most);
 
 // All fractions below 1 in their simplest form with a denominator up to this.

@@ -136,8 +136,13 @@ void oefeningen::L_marathon_03_03_click() {
     const std::string_view stad = kies(steden);
     const breuk deel = kies(rij(vormen, variant));
     const int een_deel = deel.noemer * 10 * (trek(30) + 5); // what one part of so many parts is
+    // The first come in after 2:10; the larger the share that has finished, the later it is.
+    const int minuten = 10 + 50 * deel.teller / deel.noemer + trek(5);
+    const int seconden = trek(60);
     const int gefinisht = een_deel * deel.teller;
     const int gestart = een_deel * deel.noemer;
+    // A part too many, or where that still is more than have finished, mostly a part too few.
+    const int vermenigvuldigd = deel.noemer - deel.teller > 1 && trek(3) > 0 ? deel.noemer - 1 : deel.noemer + 1;
     const std::string alles = streepbreuk({deel.noemer, deel.noemer});
 
     bord(wit, wit, 20);
@@ -149,8 +154,7 @@ void oefeningen::L_marathon_03_03_click() {
     plaatje.filled_box(1890, 760, 1600, 430, zwart);
     plaatje.fore_colour = geel;
     plaatje.text_size = 16;
-    const auto twee_cijfers = [](int getal) { return regel(getal < 10 ? "0" : "", kaal(getal)); };
-    druk_midden(2690, 790, "2:", twee_cijfers(trek(50) + 10), ":", twee_cijfers(trek(60)));
+    druk_midden(2690, 790, "2:", kaal(minuten), seconden < 10 ? ":0" : ":", kaal(seconden));
     plaatje.filled_box(1000, 1370, 3380, 50, rood);
 
     vraag(regel("Bij de marathon van ", stad, " zijn"),
@@ -161,7 +165,7 @@ void oefeningen::L_marathon_03_03_click() {
     goed(duizend(gestart));
     fout(duizend(gefinisht / deel.noemer * deel.teller), "Kan dat? Kunnen er meer mensen over de finish",
          "dan er gestart zijn...!");
-    fout(duizend(een_deel * (deel.noemer + 1)), "Heb je een foutje gemaakt bij het vermenigvuldigen?");
+    fout(duizend(een_deel * vermenigvuldigd), "Heb je een foutje gemaakt bij het vermenigvuldigen?");
     fout(duizend(een_deel), "Je moet nog een vermenigvuldiging doen.");
 
     uitleg(regel("Er zijn", duizend(gefinisht), " deelnemers door de finish. Dat was ", streepbreuk(deel), " deel"),
@@ -183,7 +187,8 @@ void oefeningen::L_stukken_03_14_click() {
     // The length between two marks: a fraction up to 5, or a whole number.
     const breuk stuk = trek_tot(
         [this] {
-            return breuk{trek(5) + 1, trek(6) + 1};
+            const int teller = trek(5) + 1;
+            return breuk{teller, trek(6) + 1};
         },
         [](breuk b) {
             return !b.vereenvoudigbaar() && b != breuk{1, 1};

@@ -61,7 +61,7 @@ void oefeningen::L_helen_maken_03_03_click() {
     const breuk ernaast{nodig + 1 == deel.teller || nodig + 1 == deel.noemer ? nodig - 1 : nodig + 1, deel.noemer};
 
     bord(groen, geel, 16);
-    constexpr int midden = 901;
+    constexpr int midden = 727; // of the dots, and so of all
     constexpr int boven = midden - 185;
     plaatje.filled_box(0, 1780, drawing::inner_width, 90, olijf);
     plaatje.filled_box(3900, 1730, 400, 50, wit); // chalk
@@ -88,12 +88,10 @@ void oefeningen::L_helen_maken_03_03_click() {
     uitleg("Met het breukgedeelte van het eerste getal moet", "precies één hele erbij gemaakt worden.",
            regel("Je moet dus", deel.teller, "/", kaal(deel.noemer), " aanvullen tot 1."),
            regel("Dan heb je dus nog ", streepbreuk(aanvulling), " nodig."));
-    // The dots make room for the answer, upright around the middle of the sum.
-    constexpr int stip = 2520;
-    const auto links = [](int getal) { return kaal(stip - text_width(kaal(getal), 12) / 2); };
+    // The dots give way to the answer.
+    const std::string antwoord = streepbreuk(aanvulling);
     opdrachten("PRINT_2420_470_2_20_..", "LINE_2400_540_240_330_2_BF_0",
-               regel("PRINT_", links(nodig), "_630_15_12_", kaal(nodig)), "LINE_2370_901_300_0_15_B_0",
-               regel("PRINT_", links(deel.noemer), "_921_15_12_", kaal(deel.noemer)));
+               regel("PRINT_", kaal(2520 - text_width(antwoord, 12) / 2), "_630_15_12_", antwoord));
 }
 
 void oefeningen::M_aanvullen_1_03_14_click() {

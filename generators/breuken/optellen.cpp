@@ -14,17 +14,6 @@ std::string met_helen(int helen, breuk b) {
     return helen == 0 ? streepbreuk(b) : regel(kaal(helen), " ", streepbreuk(b));
 }
 
-// The bars and the empty places of the fractions that BREUK1 will write at these x, with y 1400: there are no commands
-// left to draw them.
-template<std::size_t N>
-void teken_lege_breuken(drawing& on, const std::array<int, N>& plaatsen) {
-    on.style = line_style::dot;
-    for (const int x : plaatsen)
-        for (const int top : {1252, 1582}) on.box(x + 255, top, 220, 180, grijs);
-    on.style = line_style::solid;
-    for (const int x : plaatsen) on.line(x + 235, 1507, x + 495, 1507, wit);
-}
-
 } // namespace
 
 void oefeningen::L_prijzen_03_03_click() {
@@ -100,13 +89,18 @@ void oefeningen::L_optellen_03_14_click() {
     // The fractions together are more than 1, and what is left above 1 can be simplified.
     static const auto past = [](const breuksom& s) {
         const breuk samen = s.links + s.rechts;
-        return s.links.noemer != s.rechts.noemer && s.gelijke_noemer() <= 60 && samen > breuk{1, 1} &&
-               samen.teller <= 99 && samen.rest().vereenvoudigbaar() && samen.rest().teller > 0;
+        return s.links.noemer != s.rechts.noemer && samen > breuk{1, 1} && samen.teller <= 99 &&
+               samen.rest().vereenvoudigbaar() && samen.rest().teller > 0;
     };
+    // The second kind has larger denominators, but none that is hard to count with.
+    static constexpr std::array<int, 5> ronde_noemers{12, 18, 20, 24, 30};
     static const std::array sommen{
-        alle_sommen(20, 0, [](const breuksom& s) { return past(s) && s.noemers_passen(); }),
-        alle_sommen(15, 0, [](const breuksom& s) { return past(s) && !s.noemers_passen(); }),
-        alle_sommen(10, 4, past),
+        alle_sommen(15, 0, [](const breuksom& s) { return past(s) && s.noemers_passen(); }),
+        alle_sommen(24, 0,
+                    [](const breuksom& s) {
+                        return past(s) && std::ranges::find(ronde_noemers, s.gelijke_noemer()) != ronde_noemers.end();
+                    }),
+        alle_sommen(10, 4, [](const breuksom& s) { return past(s) && s.gelijke_noemer() <= 60; }),
     };
     kies_variant(3);
     zaai();
@@ -118,7 +112,6 @@ void oefeningen::L_optellen_03_14_click() {
 
     bord(donkerblauw, geel, 16);
     teken_som(plaatje, 700, 520, s, "+", "......");
-    teken_lege_breuken(plaatje, std::array{700, 1550, 2400, 3250, 4100});
 
     vraag("Kijk hiernaast...", "Twee breuken worden gelijknamig", "gemaakt, opgeteld en zo ver mogelijk",
           "vereenvoudigd.", "Welke streepbreuk moet op de", "stippeltjes staan?");
@@ -148,7 +141,7 @@ void oefeningen::M_aftrekken_03_14_click() {
     static const auto past = [](const breuksom& s) {
         const breuk over = s.links - s.rechts;
         const int zonder_aanpassen = s.links.teller - s.rechts.teller;
-        return s.links.noemer != s.rechts.noemer && s.gelijke_noemer() <= 40 && over.teller > 0 &&
+        return s.links.noemer != s.rechts.noemer && s.gelijke_noemer() <= 60 && over.teller > 0 &&
                over.vereenvoudigbaar() && s.helen_links > s.helen_rechts && zonder_aanpassen > 0 &&
                zonder_aanpassen != over.teller;
     };
@@ -165,7 +158,8 @@ void oefeningen::M_aftrekken_03_14_click() {
 
     bord(donkerblauw, geel, 16);
     teken_som(plaatje, 200, 520, s, "-", "......");
-    teken_lege_breuken(plaatje, std::array{200, 1100, 2000, 2900, 3800, 4700});
+    // The bars of the explanation: it has no command left that would draw them.
+    for (const int x : {200, 1100, 2000, 2900, 3800, 4700}) plaatje.line(x + 235, 1507, x + 495, 1507, blauw);
 
     vraag("Kijk hiernaast...", "Twee breuken worden gelijknamig", "gemaakt, afgetrokken en vereenvoudigd.",
           "Welke streepbreuk moet op de", "stippeltjes staan?");

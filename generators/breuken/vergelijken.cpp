@@ -20,25 +20,31 @@ void oefeningen::M_getallenlijn_03_03_click() {
     kies_variant(2);
     zaai();
     // Above 1/10; in their simplest form none of these is a tenth itself.
-    const breuk gegeven = trek_tot(
-        [this] {
-            const int noemer = kies(noemers[variant - 1]);
-            return trek_breuk(toeval, noemer, noemer);
-        },
-        [](breuk drawn) {
-            return drawn > breuk{1, 10};
-        });
+    const auto trek_gegeven = [&] {
+        return trek_tot(
+            [this] {
+                const int noemer = kies(noemers[variant - 1]);
+                return trek_breuk(toeval, noemer, noemer);
+            },
+            [](breuk drawn) {
+                return drawn > breuk{1, 10};
+            });
+    };
+    const auto plek = [](breuk b) { return begin + 10 * tiende * b.teller / b.noemer; };
+    const auto tiende_onder = [](breuk b) { return b.teller * 10 / b.noemer; };
+    const int juist = trek(4) + 1;
+    // What the arrows point at: all such fractions, each between two tenths of its own.
+    std::vector<breuk> aangewezen{trek_gegeven()};
+    const breuk gegeven = aangewezen[0];
+    while (aangewezen.size() < pijlen.size())
+        aangewezen.push_back(trek_tot(trek_gegeven, [&](breuk drawn) {
+            return std::ranges::all_of(aangewezen, [&](breuk b) {
+                return tiende_onder(b) != tiende_onder(drawn) && std::abs(plek(b) - plek(drawn)) >= tussenruimte;
+            });
+        }));
+    std::swap(aangewezen[0], rij(aangewezen, juist));
     const int nieuwe_noemer = std::lcm(gegeven.noemer, 10);
-    const int onder = gegeven.teller * 10 / gegeven.noemer; // in tenths
-    const int juist = trek(4);
-
-    // Every arrow in a stretch of its own between two tenths, the right one on the spot.
-    const int plek = begin + 10 * tiende * gegeven.teller / gegeven.noemer;
-    std::vector<int> vrij;
-    for (int i = 0; i < 10; ++i)
-        if (const int halverwege = begin + i * tiende + tiende / 2; std::abs(halverwege - plek) >= tussenruimte)
-            vrij.push_back(halverwege);
-    vrij = geschud(vrij);
+    const int onder = tiende_onder(gegeven);
 
     bord(lichtgrijs, zwart, 14);
     druk(1200, 170, "Gegeven breuk:");
@@ -56,16 +62,16 @@ void oefeningen::M_getallenlijn_03_03_click() {
     druk_midden(begin, 770, "0");
     druk_midden(begin + 10 * tiende, 770, "1");
     plaatje.text_size = 10;
-    juist_op(juist + 1);
-    for (int i = 0, volgende = 0; i < 4; ++i) {
-        const auto& [woord, tint] = pijlen[static_cast<std::size_t>(i)];
-        const int x = i == juist ? plek : vrij[static_cast<std::size_t>(volgende++)];
+    juist_op(juist);
+    for (int i = 1; i <= 4; ++i) {
+        const auto& [woord, tint] = rij(pijlen, i);
+        const int x = plek(rij(aangewezen, i));
         const std::vector<point> omtrek{{x, lijn + 20}, {x + 100, lijn + 190}, {x + 40, lijn + 190}, {x + 40, 1720},
                                         {x - 40, 1720}, {x - 40, lijn + 190},  {x - 100, lijn + 190}};
         plaatje.polygon(omtrek, tint, true);
         plaatje.polygon(omtrek, zwart, false);
         druk_midden(x, 1750, woord);
-        op_plaats(i + 1, woord);
+        op_plaats(i, woord);
     }
 
     vraag("Je ziet een getallenlijn van 0 tot 1.", "Langs deze getallenlijn zijn tienden",
@@ -90,7 +96,7 @@ void oefeningen::M_getallenlijn_03_03_click() {
            regel("eerst gelijknamig maken, bijv. je neemt als nieuwe noemer", nieuwe_noemer, "."),
            regel("De breuk is dan te schrijven als ", streepbreuk(gegeven.maal(nieuwe_noemer / gegeven.noemer)), "."),
            regel("Dat is méér dan ", grens(onder), " en minder dan ", grens(onder + 1), "."),
-           regel("De juiste kleur is dus ", pijlen[static_cast<std::size_t>(juist)].woord, "."));
+           regel("De juiste kleur is dus ", rij(pijlen, juist).woord, "."));
 }
 
 void oefeningen::M_grootste_kleinste_03_03_click() {
@@ -190,29 +196,31 @@ void oefeningen::M_tussen_in_03_14_click() {
     // Between tenths, or between hundredths.
     const int decimalen = variant;
     const int schaal = variant == 1 ? 10 : 100;
-    // It lies inside a step, and the step ends before 1.
+    // How many steps the others lie away, and of the three none, one, two or all below it.
+    auto afstanden = geschud(variant == 1 ? std::array{1, 2, 3} : std::array{1, 2, 10});
+    for (int lager = trek(4); lager > 0; --lager) rij(afstanden, lager) *= -1;
+    const int laagste = std::min(0, std::ranges::min(afstanden));
+    const int hoogste = std::max(0, std::ranges::max(afstanden));
+    // It lies inside a step, and all steps end before 1.
     const breuk b = trek_tot(
         [&] {
             const int noemer = kies(noemers);
             return breuk{trek(noemer - 1) + 1, noemer};
         },
         [&](breuk drawn) {
-            return !drawn.vereenvoudigbaar() && schaal % drawn.noemer != 0 &&
-                   drawn * breuk{schaal, 1} < breuk{schaal - 1, 1};
+            const int stap = drawn.teller * schaal / drawn.noemer;
+            return !drawn.vereenvoudigbaar() && schaal % drawn.noemer != 0 && stap + laagste >= 0 &&
+                   stap + hoogste <= schaal - 2;
         });
     const int juist = trek(4) + 1;
-    // By colour, where the two numbers begin: the right step, and others near it or some tenths away.
+    // By colour, where the two numbers begin.
     const int stap = b.teller * schaal / b.noemer;
     std::array<int, 4> begin{};
     rij(begin, juist) = stap;
-    const auto afstanden = geschud(variant == 1 ? std::array{-3, -2, -1, 1, 2, 3} : std::array{-10, -2, -1, 1, 2, 10});
+    afstanden = geschud(afstanden);
     auto volgende = afstanden.begin();
-    for (int i = 1; i <= 4; ++i) {
-        if (i == juist) continue;
-        int& hier = rij(begin, i);
-        do hier = stap + *volgende++;
-        while (hier < 0 || hier > schaal - 2);
-    }
+    for (int i = 1; i <= 4; ++i)
+        if (i != juist) rij(begin, i) = stap + *volgende++;
     const auto tussen = [&](int i) {
         const int van = rij(begin, i);
         return regel(komma(van, decimalen), " en", komma(van + 1, decimalen));

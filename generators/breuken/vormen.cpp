@@ -8,7 +8,8 @@ void oefeningen::L_procenten_03_14_click() {
     kies_variant(2);
     zaai();
     // Fives, or the even numbers between the tens: all can be simplified.
-    const int procent = variant == 1 ? trek_van(5, 95, 5) : trek(10) * 10 + trek_van(2, 8, 2);
+    const int tiental = variant == 1 ? 0 : trek(10) * 10;
+    const int procent = variant == 1 ? trek_van(5, 95, 5) : tiental + trek_van(2, 8, 2);
     const breuk honderdsten{procent, 100};
     const int deler = honderdsten.deler();
 
@@ -157,7 +158,8 @@ void oefeningen::M_vereenvoudigen_03_14_click() {
     static const std::vector<breuk> breuken = breuken_onder_1(12);
     const keten k = trek_tot(
         [this] {
-            return keten{kies(breuken), trek(5) + 2};
+            const breuk& laatste = kies(breuken);
+            return keten{laatste, trek(5) + 2};
         },
         [](const keten& drawn) {
             return drawn.midden().noemer <= 40 && drawn.midden().teller != drawn.laatste.noemer;

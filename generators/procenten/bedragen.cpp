@@ -122,7 +122,7 @@ void oefeningen::M_rente_01_08_click() {
     const int nieuw = oud + rente;
     const auto euro = [](int whole) { return regel(kaal(duizend(whole)), " euro"); };
 
-    bord(donkerblauw, zwart, 9);
+    bord(donkerblauw, zwart, 10);
     plaatje.filled_box(200, 150, 4980, 1830, wit);
     plaatje.filled_box(200, 150, 4980, 260, lichtgrijs);
     druk(350, 180, "BANK");
@@ -166,13 +166,16 @@ void oefeningen::Z_kommaprocenten_01_08_click() {
         p = trek(9) * 100 + 150;
         basis = trek_van(200, 4000, 100);
     } else if (variant == 2) { // tenths
-        p = trek(9) * 100 + 100 + kies(std::array{10, 20, 30, 40, 60, 70, 80, 90});
+        p = trek(9) * 100 + 100;
+        p += kies(std::array{10, 20, 30, 40, 60, 70, 80, 90});
         basis = trek_van(200, 2000, 100);
     } else if (variant == 3) { // quarters
-        p = trek(8) * 100 + 100 + (kop() ? 25 : 75);
+        p = trek(8) * 100 + 100;
+        p += kop() ? 25 : 75;
         basis = trek_van(400, 4000, 400);
     } else { // tenths of a base that is no multiple of 100
-        p = trek(8) * 100 + 100 + kies(std::array{20, 40, 50, 60, 80});
+        p = trek(8) * 100 + 100;
+        p += kies(std::array{20, 40, 50, 60, 80});
         basis = trek_van(110, 490, 20);
     }
     const bool leraar = kop();

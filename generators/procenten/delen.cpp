@@ -119,6 +119,8 @@ void oefeningen::L_bevolking_01_08_click() {
          {" een stadsdeel", {"Katholiek", "Protestant", "Islamitisch", "Niet-kerkelijk"}},
          {" een staat", {"Argentijnen", "Brazilianen", "Peruanen", "Europeanen"}},
          {" een werelddeel", {"Boeddhisten", "Hindoes", "Katholieken", "Niet-kerkelijken"}}}};
+    // One group that older atlases list stays out: it is named by a word that hurts people.
+    //
     // The parts of a diagram in halves of a per cent.
     using delen = std::array<int, 4>;
     static constexpr delen juiste_delen{100, 50, 14, 36};
@@ -136,9 +138,11 @@ void oefeningen::L_bevolking_01_08_click() {
         delen stukken;
         std::string_view commentaar_1, commentaar_2;
     };
+    const delen& geen_helft = kies(zonder_helft);
+    const delen& geen_kwart = kies(zonder_kwart);
     const auto fouten = geschud(std::array<diagram, 3>{
-        {{kies(zonder_helft), "Bekijk eerst het makkelijkste percentage.", "Zie je in jouw diagram een halve cirkel?"},
-         {kies(zonder_kwart), "Kijk eerst naar de makkelijke percentages.", "Zie je in jouw diagram een kwart cirkel?"},
+        {{geen_helft, "Bekijk eerst het makkelijkste percentage.", "Zie je in jouw diagram een halve cirkel?"},
+         {geen_kwart, "Kijk eerst naar de makkelijke percentages.", "Zie je in jouw diagram een kwart cirkel?"},
          {gelijke_resten, "De makkelijke percentages kloppen.", "Maar 18 % hoort bij een groter stuk dan 7 %."}}});
 
     bord(wit, zwart, 10);

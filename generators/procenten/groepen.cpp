@@ -31,7 +31,8 @@ void oefeningen::L_voetbal_01_08_click() {
     // "Barcelona" and "FC Barcelona" are one club.
     const auto [thuis, bezoekers] = trek_tot(
         [this] {
-            return affiche{kies(clubs), kies(clubs)};
+            const std::string_view eerste = kies(clubs);
+            return affiche{eerste, kies(clubs)};
         },
         [](const affiche& a) {
             return a.thuis.find(a.bezoekers) == a.thuis.npos && a.bezoekers.find(a.thuis) == a.thuis.npos;
@@ -74,13 +75,14 @@ void oefeningen::L_voetbal_01_08_click() {
 }
 
 void oefeningen::L_examen_01_08_click() {
-    // How many pupils take part, and the percentages that make whole numbers of them.
+    // How many pupils take part, and the percentages that make whole numbers of them. 1 % of them is whole, ends in
+    // ,5 or is a number of tenths: nothing harder to divide by.
     struct groep {
         std::array<int, 4> leerlingen;
         int stap;
     };
     static constexpr std::array<groep, 4> groepen{
-        {{{200, 300, 400, 500}, 1}, {{50, 150, 250, 350}, 2}, {{40, 60, 120, 140}, 5}, {{25, 75, 125, 175}, 4}}};
+        {{{200, 300, 400, 500}, 1}, {{50, 150, 250, 350}, 2}, {{40, 60, 120, 140}, 5}, {{450, 550, 650, 750}, 2}}};
     static constexpr std::array<std::string_view, 6> examenmaanden{"januari",  "mei",     "juni",
                                                                    "augustus", "oktober", "december"};
     kies_variant(8);
@@ -97,7 +99,8 @@ void oefeningen::L_examen_01_08_click() {
             return uitslag{kies(vorm.leerlingen), gezakt ? klein : 100 - klein};
         },
         [](const uitslag& u) {
-            return alle_verschillend(std::array{u.procent, 100 - u.procent, u.aantal(), u.leerlingen - u.aantal()});
+            return u.aantal() > 1 && // the sentences are about several pupils
+                   alle_verschillend(std::array{u.procent, 100 - u.procent, u.aantal(), u.leerlingen - u.aantal()});
         });
     const int n = examen.leerlingen;
     const int aantal = examen.aantal();
@@ -153,12 +156,13 @@ void oefeningen::M_blessures_01_08_click() {
         "eerste halfjaar", "tweede halfjaar", "in 't jaar"};
     struct sport {
         std::string_view naam;
-        int een_procent; // of those who do it
+        int een_procent; // of those who do it: what a child can divide by
         int procent;     // of those who were hurt
         int sporters() const { return een_procent * 100; }
         int blessures() const { return een_procent * procent; }
     };
     using overzicht = std::array<sport, 4>;
+    static constexpr std::array<int, 15> delers{4, 5, 6, 7, 8, 9, 10, 15, 20, 25, 30, 35, 40, 45, 50};
     const auto plaats_van = [](const overzicht& o, bool grootst, auto maat) {
         const auto found = grootst ? std::ranges::max_element(o, {}, maat) : std::ranges::min_element(o, {}, maat);
         return static_cast<int>(found - o.begin()) + 1;
@@ -177,7 +181,7 @@ void oefeningen::M_blessures_01_08_click() {
             const auto namen = geschud(sporten);
             const auto procenten = geschud(std::array{2, 4, 6, 8, 10, 12, 15, 18, 20});
             overzicht drawn{};
-            for (std::size_t i = 0; i < drawn.size(); ++i) drawn[i] = {namen[i], trek(47) + 4, procenten[i]};
+            for (std::size_t i = 0; i < drawn.size(); ++i) drawn[i] = {namen[i], kies(delers), procenten[i]};
             return drawn;
         },
         [&](const overzicht& drawn) {
