@@ -3,6 +3,7 @@
 //
 // The explanation of a sum is worked out below it, in y 1050 to 2000, by the drawing commands.
 #include "generators/breuken/sommen.h"
+#include "generators/gedeeld/opdracht.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -128,12 +129,14 @@ void oefeningen::L_optellen_03_14_click() {
            "makkelijk kunt optellen. Haal er vervolgens een hele uit",
            "en vereenvoudig die breuk door de teller en de noemer", regel("door", deler, " te delen."),
            regel("Het goede antwoord is ", antwoord_1, "."));
-    opdrachten(breuk_opdracht("BREUK1_700_1400_", s.helen_links, s.links.maal(noemer / s.links.noemer)),
-               breuk_opdracht("BREUK1_1550_1400_", s.helen_rechts, s.rechts.maal(noemer / s.rechts.noemer)),
-               breuk_opdracht("BREUK1_2400_1400_", helen, samen),
-               breuk_opdracht("BREUK1_3250_1400_", helen + 1, samen.rest()),
-               breuk_opdracht("BREUK1_4100_1400_", helen + 1, samen.rest().vereenvoudigd()),
-               "PRINT_1400_1350_15_12_+           =            =            =");
+    opdrachten(
+        breuk_opdracht(700, 1400, s.helen_links, s.links.maal(noemer / s.links.noemer)),
+        breuk_opdracht(1550, 1400, s.helen_rechts, s.rechts.maal(noemer / s.rechts.noemer)),
+        breuk_opdracht(2400, 1400, helen, samen), breuk_opdracht(3250, 1400, helen + 1, samen.rest()),
+        breuk_opdracht(4100, 1400, helen + 1, samen.rest().vereenvoudigd()),
+        "PRINT_1400_1350_15_12_+           =            =            =",
+        // the bars, in one line
+        druk_opdracht(1333, wit, 14, {{935, "---"}, {1785, "---"}, {2635, "---"}, {3485, "---"}, {4335, "---"}}));
 }
 
 void oefeningen::M_aftrekken_03_14_click() {
@@ -159,7 +162,7 @@ void oefeningen::M_aftrekken_03_14_click() {
     bord(donkerblauw, geel, 16);
     teken_som(plaatje, 200, 520, s, "-", "......");
     // The bars of the explanation: it has no command left that would draw them.
-    for (const int x : {200, 1100, 2000, 2900, 3800, 4700}) plaatje.line(x + 235, 1507, x + 495, 1507, blauw);
+    for (const int x : {200, 1100, 2000, 2900, 3800, 4700}) plaatje.line(x + 235, 1507, x + 495, 1507, grijs);
 
     vraag("Kijk hiernaast...", "Twee breuken worden gelijknamig", "gemaakt, afgetrokken en vereenvoudigd.",
           "Welke streepbreuk moet op de", "stippeltjes staan?");
@@ -177,12 +180,10 @@ void oefeningen::M_aftrekken_03_14_click() {
            "daarna de streepbreuken. Vereenvoudig de breuk door",
            regel("de teller en de noemer ", "door", over.deler(), " te delen."),
            regel("Het goede antwoord is ", antwoord_1, "."));
-    opdrachten(breuk_opdracht("BREUK1_200_1400_", s.helen_links, s.links),
-               breuk_opdracht("BREUK1_1100_1400_", s.helen_rechts, s.rechts),
-               breuk_opdracht("BREUK1_2000_1400_", s.helen_links, s.links.maal(noemer / s.links.noemer)),
-               breuk_opdracht("BREUK1_2900_1400_", s.helen_rechts, s.rechts.maal(noemer / s.rechts.noemer)),
-               breuk_opdracht("BREUK1_3800_1400_", helen, over),
-               breuk_opdracht("BREUK1_4700_1400_", helen, over.vereenvoudigd()),
+    opdrachten(breuk_opdracht(200, 1400, s.helen_links, s.links), breuk_opdracht(1100, 1400, s.helen_rechts, s.rechts),
+               breuk_opdracht(2000, 1400, s.helen_links, s.links.maal(noemer / s.links.noemer)),
+               breuk_opdracht(2900, 1400, s.helen_rechts, s.rechts.maal(noemer / s.rechts.noemer)),
+               breuk_opdracht(3800, 1400, helen, over), breuk_opdracht(4700, 1400, helen, over.vereenvoudigd()),
                "PRINT_900_1350_15_12_-             =             -             =             =");
 }
 

@@ -36,8 +36,4 @@ std::vector<breuksom> alle_sommen(int grootste_noemer, int meeste_helen, Fits pa
 // The sum on the picture, its bars at y; the dots stand for what is asked.
 void teken_som(drawing& on, int x, int y, const breuksom& s, std::string_view teken, std::string_view stippels);
 
-inline std::string breuk_opdracht(std::string_view plaats, int helen, breuk b) {
-    return regel(plaats, velden(helen, b.teller, b.noemer));
-}
-
 } // namespace cijferwerf
