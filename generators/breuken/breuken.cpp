@@ -1,9 +1,5 @@
 #include "generators/breuken/breuken.h"
 
-#include "runtime/checked_error.h"
-
-#include <algorithm>
-
 namespace cijferwerf {
 
 breuk trek_breuk(random_draws& toeval, int least, int most) {
@@ -20,17 +16,6 @@ std::vector<breuk> breuken_onder_1(int grootste_noemer) {
         for (int teller = 1; teller < noemer; ++teller)
             if (!breuk{teller, noemer}.vereenvoudigbaar()) all.push_back({teller, noemer});
     return all;
-}
-
-std::array<breuk, 3> drie_vergissingen(breuk juist, std::span<const breuk> vergissingen) {
-    std::array<breuk, 3> gekozen{};
-    auto volgende = gekozen.begin();
-    for (const breuk b : vergissingen) {
-        if (b.teller <= 0 || b == juist || std::find(gekozen.begin(), volgende, b) != volgende) continue;
-        *volgende++ = b;
-        if (volgende == gekozen.end()) return gekozen;
-    }
-    throw checked_error("too few different mistakes with a fraction");
 }
 
 } // namespace cijferwerf

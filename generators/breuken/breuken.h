@@ -5,8 +5,6 @@
 #include "generators/gedeeld/breuk.h"
 #include "runtime/random_draws.h"
 
-#include <array>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -21,8 +19,5 @@ std::vector<breuk> breuken_onder_1(int grootste_noemer);
 
 // "2 1/4", "3/4", "5": simplified, the wholes taken out.
 inline std::string kortste(breuk b) { return gemengd(b.vereenvoudigd()); }
-
-// The first three of these mistakes that are above 0 and differ by value from the right answer and from one another.
-std::array<breuk, 3> drie_vergissingen(breuk juist, std::span<const breuk> vergissingen);
 
 } // namespace cijferwerf

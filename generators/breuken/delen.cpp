@@ -225,15 +225,15 @@ void oefeningen::L_stukken_03_14_click() {
           regel("een lengte heeft van ", kortste(vraag_AB ? AC : AB), "."), leeg,
           vraag_AB ? "Hoe lang is het stuk AB?" : "Hoe lang is het stuk AC?");
 
-    // Pieces counted too many or too few, the other part, both together; and if that is too little, half a piece.
+    // Pieces counted too many or too few, the other part, both together, half a piece; all within the drawing.
     const int aantal = vraag_AB ? tot_B : stukken;
-    std::vector<breuk> vergissingen;
-    for (const int n :
-         geschud(std::array{aantal - 2, aantal - 1, aantal + 1, aantal + 2, stukken - tot_B, stukken + tot_B}))
-        if (vraag_AB ? n < stukken : n > tot_B) vergissingen.push_back(lengte(n));
-    vergissingen.push_back(lengte(2 * aantal + 1) * breuk{1, 2});
-    goed(kortste(lengte(aantal)));
-    for (const breuk b : drie_vergissingen(lengte(aantal), vergissingen)) fout(kortste(b));
+    const breuk half{1, 2};
+    std::vector<keuze<breuk>> vergissingen;
+    for (const int n : {aantal - 2, aantal - 1, aantal + 1, aantal + 2, stukken - tot_B, stukken + tot_B})
+        if (vraag_AB ? n < stukken : n > tot_B) vergissingen.push_back({lengte(n)});
+    vergissingen.push_back({lengte(2 * aantal - 1) * half});
+    vergissingen.push_back({lengte(2 * aantal + 1) * half});
+    drie_andere(lengte(aantal), kortste, vergissingen);
     leg_vast(trek(4) + 1);
     tip_1("Eerste stap: beschouw AB/AC als een breuk...");
     tip_2("Tweede stap: bekijk de waarde van een stuk tussen", "twee strepen...");

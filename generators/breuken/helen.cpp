@@ -129,12 +129,17 @@ void oefeningen::M_aanvullen_1_03_14_click() {
 
     vraag("Kijk hiernaast...", leeg, "Op de stippeltjes moet nog", "een getal staan.", "Welk getal is dat?");
 
-    // The fraction forgotten, added for subtracted, without the wholes, a whole too many or too few.
-    const breuk zonder_helen = rest < links ? links - rest : rest - links;
-    const std::array<breuk, 5> vergissingen{
-        {breuk{helen, 1} - over, getal + over, zonder_helen, af + breuk{1, 1}, af - breuk{1, 1}}};
-    goed(kortste(af));
-    for (const breuk b : drie_vergissingen(af, geschud(vergissingen))) fout(kortste(b));
+    // The fraction forgotten; added for subtracted; a whole too many or too few; the smaller fraction taken off the
+    // larger one, with the wholes and without.
+    const breuk een{1, 1};
+    const breuk verschil = rest < links ? links - rest : rest - links;
+    drie_andere(af, kortste,
+                {{breuk{helen, 1} - over},
+                 {getal + over},
+                 {af + een},
+                 {af - een},
+                 {breuk{helen - over.geheel(), 1} + verschil},
+                 {verschil}});
     leg_vast(trek(4) + 1);
     tip_1(regel("Eerste stap: maak van die", helen, " een breuk..."), "Tweede stap: tel daar de streepbreuk bij op.");
     tip_2("Derde stap: trek die rechter streepbreuk ervan af...");

@@ -24,16 +24,12 @@ void oefeningen::L_prijzen_03_03_click() {
         breuk eerste, tweede;
         breuk samen() const { return eerste + tweede; }
         breuk over() const { return breuk{1, 1} - samen(); }
-        breuk zonder_tweede() const { return breuk{1, 1} - eerste; }
         // What is over when the denominators are added up as well.
         breuk met_noemers() const {
             const int noemer = eerste.noemer + tweede.noemer;
             return {noemer - eerste.teller - tweede.teller, noemer};
         }
-        bool geschikt() const {
-            return eerste > tweede && over().teller > 0 && samen().noemer <= 40 && over() != samen() &&
-                   zonder_tweede() != samen() && met_noemers() != samen();
-        }
+        bool geschikt() const { return eerste > tweede && over().teller > 0 && samen().noemer <= 40; }
     };
     kies_variant(2);
     zaai();
@@ -68,12 +64,20 @@ void oefeningen::L_prijzen_03_03_click() {
           regel("en de tweede prijs het ", streepbreuk(tweede), " deel."), "Welk deel van het prijzengeld is nu",
           "nog over voor de andere prijzen?");
 
-    goed(kortste(prijzen.over()));
-    fout(kortste(samen), "Dat is het deel voor de eerste en de tweede prijs", "samen. Hoeveel blijft er dan over?");
-    fout(kortste(prijzen.zonder_tweede()), "Je hebt alleen de eerste prijs ervan afgetrokken.",
-         "De tweede prijs moet er ook nog af.");
-    fout(kortste(prijzen.met_noemers()), "Je hebt ook de noemers bij elkaar opgeteld.",
-         "Als de noemers gelijk zijn, tel je alleen de tellers op.");
+    const breuk een{1, 1};
+    const breuk een_stukje{1, samen.noemer};
+    const std::string verteld = regel("Je hebt je", streepbreuk(een_stukje), " deel vergist.");
+    drie_andere(
+        prijzen.over(), kortste,
+        {{samen, "Dat is het deel voor de eerste en de tweede prijs", "samen. Hoeveel blijft er dan over?"},
+         {een - eerste, "Je hebt alleen de eerste prijs ervan afgetrokken.", "De tweede prijs moet er ook nog af."},
+         {een - tweede, "Je hebt alleen de tweede prijs ervan afgetrokken.", "De eerste prijs moet er ook nog af."},
+         {eerste - tweede, "Je hebt de prijzen van elkaar afgetrokken.",
+          "Tel ze op, en kijk wat er dan van 1 over is."},
+         {prijzen.over() - een_stukje, verteld, "Tel de tellers nog eens op."},
+         {prijzen.over() + een_stukje, verteld, "Tel de tellers nog eens op."},
+         {prijzen.met_noemers(), "Je hebt ook de noemers bij elkaar opgeteld.",
+          "Als de noemers gelijk zijn, tel je alleen de tellers op."}});
     leg_vast(trek(4) + 1);
 
     const std::string slot = regel("Over is dus 1 - ", kortste(samen), " = ", kortste(prijzen.over()), " deel.");

@@ -26,11 +26,19 @@ void oefeningen::L_procenten_03_14_click() {
 
     vraag("Kijk hiernaast...", leeg, "Welke breuk moet er", "op de stippen staan?");
 
-    // The percentage below the bar, what is not meant, only the numerator divided, thousandths, a half of it.
-    const std::array<breuk, 5> vergissingen{
-        {{1, procent}, {100 - procent, 100}, {procent / deler, 100}, {procent, 1000}, {procent, 200}}};
-    goed(kortste(honderdsten));
-    for (const breuk b : drie_vergissingen(honderdsten, geschud(vergissingen))) fout(kortste(b));
+    const int teller = procent / deler, noemer = 100 / deler;
+    std::vector<keuze<breuk>> vergissingen{{{1, procent}},         // the percentage below the bar
+                                           {{100 - procent, 100}}, // what is not meant
+                                           {{procent, 100 - procent}},
+                                           {{teller, 100}}, // only one of both divided
+                                           {{procent, noemer}},
+                                           {{procent, 1000}}, // thousandths, a half of it
+                                           {{procent, 200}},
+                                           {{teller - 1, noemer}}, // divided wrongly
+                                           {{teller + 1, noemer}},
+                                           {{teller, noemer - 1}}};
+    std::erase_if(vergissingen, [](const keuze<breuk>& k) { return k.waarde >= breuk{1, 1}; });
+    drie_andere(honderdsten, kortste, vergissingen);
     if (variant == 1) {
         tip_1("Eerst: bedenk wat 1 % is.");
         tip_2("Dan: schrijf het percentage als een breuk met noemer 100...");
@@ -65,7 +73,7 @@ void oefeningen::M_olievat_03_06_click() {
     const int in_vat = liters * 100 + kwarten.in_vat * 25; // hundredths of a litre, like all that follow
     const int eruit = liters_eruit * 100 + kwarten.eruit * 25;
     const breuk deel = breuk{kwarten.eruit, 4}.vereenvoudigd();
-    const int geplakt = liters_eruit * 100 + deel.teller * 10 + deel.noemer; // 1/4 read as 0,14
+    const int geplakt = deel.teller * 10 + deel.noemer; // the 14 of 1/4
     const std::string liter_breuk = gemengd(gemengd_getal(liters_eruit, deel.teller, deel.noemer));
     const auto getal = [](int honderdsten) { return komma_kort(honderdsten, 2); };
 
@@ -94,10 +102,17 @@ void oefeningen::M_olievat_03_06_click() {
           regel("Een automonteur liet daar ", liter_breuk, " liter"), "uit lopen.", leeg,
           "Hoeveel liter olie zit er nog", "in het olievat?");
 
-    goed(getal(in_vat - eruit));
-    fout(getal(in_vat - liters_eruit * 100)); // the wholes only
-    fout(getal(in_vat - geplakt));
-    fout(getal(in_vat + eruit));
+    const int over = in_vat - eruit;
+    const int helen_eruit = liters_eruit * 100;
+    drie_andere(over, getal,
+                {{in_vat - helen_eruit},                // the wholes only
+                 {in_vat - helen_eruit - geplakt},      // 1/4 read as 0,14
+                 {in_vat - helen_eruit - 10 * geplakt}, // 1/4 read as 1,4
+                 {in_vat - helen_eruit - 100},          // 1/4 rounded to a whole
+                 {in_vat - helen_eruit + eruit % 100},  // the quarters put back
+                 {in_vat + eruit},
+                 {over + 100}, // borrowed wrongly
+                 {over - 100}});
     tip_1(kwarten.tip);
     tip_2(
         regel("Bedenk dat ", streepbreuk(deel), " liter hetzelfde is als ", kaal(getal(kwarten.eruit * 25)), " liter."),
@@ -107,18 +122,40 @@ void oefeningen::M_olievat_03_06_click() {
            regel("maken. Maak dus van ", liter_breuk, " een breuk met een komma."),
            regel("Dat wordt dus", getal(eruit), " liter."),
            regel("Dit moet je aftrekken van", getal(in_vat), " liter."),
-           regel("Dan krijg je", getal(in_vat), " -", getal(eruit), " liter, wat gelijk is aan ",
-                 kaal(getal(in_vat - eruit)), " liter."));
+           regel("Dan krijg je", getal(in_vat), " -", getal(eruit), " liter, wat gelijk is aan ", kaal(getal(over)),
+                 " liter."));
 }
 
 void oefeningen::M_snel_03_03_click() {
     // What both parts can be divided by, each in two steps.
     static constexpr std::array<int, 4> makkelijke_delers{4, 6, 8, 10};
-    static constexpr std::array<int, 6> moeilijke_delers{9, 12, 14, 15, 16, 18};
+    static constexpr std::array<int, 5> moeilijke_delers{9, 12, 15, 16, 18};
+    // As it is written: 2/4 is another answer than 1/2, and comes after it.
+    struct geschreven {
+        int teller = 0, noemer = 1;
+        auto operator<=>(const geschreven& ander) const {
+            const auto waarde = breuk{teller, noemer} <=> breuk{ander.teller, ander.noemer};
+            return waarde != 0 ? waarde : noemer <=> ander.noemer;
+        }
+        bool operator==(const geschreven&) const = default;
+    };
     kies_variant(2);
     zaai();
-    const breuk kort = variant == 1 ? trek_breuk(toeval, 3, 7) : trek_breuk(toeval, 3, 11);
-    const int deler = variant == 1 ? kies(makkelijke_delers) : kies(moeilijke_delers);
+    struct opgave {
+        breuk kort;
+        int deler;
+        breuk lang() const { return kort.maal(deler); }
+    };
+    // No number above 99, and none above 49 from the table of 7 unless the divisor is easy.
+    const auto [kort, deler] = trek_tot(
+        [this] {
+            const breuk drawn = trek_breuk(toeval, 3, variant == 1 ? 7 : 11);
+            return opgave{drawn, variant == 1 ? kies(makkelijke_delers) : kies(moeilijke_delers)};
+        },
+        [this](const opgave& drawn) {
+            const auto [teller, noemer] = drawn.lang();
+            return variant == 1 || (noemer < 100 && noemer % 7 != 0 && (teller <= 49 || teller % 7 != 0));
+        });
     const int te_klein = deler % 2 == 0 ? 2 : 3;
     const int over = deler / te_klein;
     const breuk lang = kort.maal(deler);
@@ -128,12 +165,27 @@ void oefeningen::M_snel_03_03_click() {
 
     vraag("Geef snel antwoord.", leeg, "Je hebt niet veel tijd!");
 
-    goed(streepbreuk(kort));
-    fout(streepbreuk(kort.maal(over)), "Je bent nog niet klaar: je kunt de teller en",
-         regel("de noemer allebei nog delen door", over, "."));
-    fout(streepbreuk({kort.teller, kort.noemer * over}), "Je hebt de teller en de noemer niet door",
-         "hetzelfde getal gedeeld.");
-    fout(streepbreuk({kort.teller, kort.noemer + 1}), "Je hebt je vergist bij het delen van de noemer.");
+    const auto [teller, noemer] = kort;
+    const std::string_view niet_door_hetzelfde = "Je hebt de teller en de noemer niet door";
+    std::vector<keuze<geschreven>> vergissingen{{{teller * over, noemer * over},
+                                                 "Je bent nog niet klaar: je kunt de teller en",
+                                                 regel("de noemer allebei nog delen door", over, ".")}};
+    const auto verdeeld = [&](breuk b, std::string_view regel_1, std::string_view regel_2) {
+        const breuk k = b.vereenvoudigd();
+        if (k < breuk{1, 1}) vergissingen.push_back({{k.teller, k.noemer}, regel_1, regel_2});
+    };
+    for (const int een : {-1, 1}) {
+        verdeeld({teller + een, noemer}, "Je hebt je vergist bij het delen van de teller.", "");
+        verdeeld({teller, noemer + een}, "Je hebt je vergist bij het delen van de noemer.", "");
+    }
+    verdeeld({teller, noemer * te_klein}, niet_door_hetzelfde, "hetzelfde getal gedeeld.");
+    verdeeld({teller * te_klein, noemer}, niet_door_hetzelfde, "hetzelfde getal gedeeld.");
+    drie_andere(
+        geschreven{teller, noemer},
+        [](const geschreven& g) {
+            return streepbreuk({g.teller, g.noemer});
+        },
+        vergissingen);
 
     uitleg(
         regel("De teller kun je delen door", deler, " en de"),
