@@ -66,7 +66,7 @@ TEST(fractions, the_explanation_writes_what_makes_the_whole_over_the_dots) {
         EXPECT_EQ(first + fraction(e.right), (breuk{whole(e.words[5]), 1}));
         EXPECT_EQ(e.last, "Dan heb je dus nog " + e.right + " nodig.");
         const auto written = e.when_explained().words;
-        EXPECT_EQ(written[written.size() - 2] + "/" + written.back(), e.right);
+        EXPECT_EQ(written.back(), e.right);
     });
 }
 
@@ -154,10 +154,8 @@ TEST(fractions, quick_simplifying_goes_as_far_as_it_can) {
         const breuk shown = fraction(e.words[0].substr(std::string("Vereenvoudig: ").size()));
         EXPECT_EQ(fraction(e.right), shown);
         EXPECT_TRUE(in_simplest_form(fraction(e.right)));
-        EXPECT_EQ(fraction(e.answer(2)), shown) << "told that it can be simplified further";
-        EXPECT_NE(fraction(e.answer(3)), shown);
-        EXPECT_NE(fraction(e.answer(4)), shown);
-        EXPECT_NE(fraction(e.answer(3)), fraction(e.answer(4)));
+        for (int i = 2; i <= 4; ++i)
+            EXPECT_EQ(fraction(e.answer(i)) == shown, e.feedback(i).starts_with("Je bent nog niet klaar")) << i;
         EXPECT_EQ(e.made.tijdlimiet, e.made.variant == 1 ? 8 : 15);
         EXPECT_TRUE(e.last.ends_with(" De breuk wordt dus " + e.right + "."));
     });
