@@ -47,8 +47,9 @@ bool crosses(point a, point b, const ink& word) {
            clip(a.y, b.y, word.top + slack, word.bottom - slack);
 }
 
-// What is filled in the colour of the ground has no edge to be seen.
-std::vector<point> edge(const drawing_op& operation, kleur ground) {
+} // namespace
+
+std::vector<point> path_of(const drawing_op& operation, kleur ground) {
     if (const auto* line = std::get_if<line_op>(&operation)) return {line->from, line->to};
     if (const auto* shape = std::get_if<polygon_op>(&operation)) {
         std::vector<point> around = shape->corners;
@@ -76,8 +77,6 @@ std::vector<point> edge(const drawing_op& operation, kleur ground) {
     return {};
 }
 
-} // namespace
-
 bool covers(const drawing_op& operation, double x, double y) { return std::visit(covering{x, y}, operation); }
 
 std::optional<std::string> line_through_word(const drawing& drawn) {
@@ -88,7 +87,7 @@ std::optional<std::string> line_through_word(const drawing& drawn) {
             if (i < word.operation && under(word.left, word.top) && under(word.right, word.top) &&
                 under(word.left, word.bottom) && under(word.right, word.bottom))
                 crossed = false;
-            const std::vector<point> path = edge(drawn.operations()[i], drawn.ground);
+            const std::vector<point> path = path_of(drawn.operations()[i], drawn.ground);
             for (std::size_t k = 1; k < path.size(); ++k) crossed |= crosses(path[k - 1], path[k], word);
         }
         if (crossed) return word.word;

@@ -10,6 +10,9 @@ namespace cijferwerf {
 // Whether what an operation fills lies at a place.
 bool covers(const drawing_op& operation, double x, double y);
 
+// The points around what is drawn; none where nothing but text is, or a box in the colour of the ground.
+std::vector<point> path_of(const drawing_op& operation, kleur ground);
+
 // The first word through whose ink a line, or the edge of a box or polygon, is seen to run; or nothing. What is filled
 // after the line and before the word hides it.
 std::optional<std::string> line_through_word(const drawing& drawn);
