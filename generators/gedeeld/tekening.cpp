@@ -36,8 +36,6 @@ void teken_pijl(drawing& on, point van, point naar, kleur kleur_pijl) {
                                     at(length - head, half_head),
                                     at(length - head, half_shaft),
                                     at(0, half_shaft)};
-    on.line_width = 1;
-    on.style = line_style::solid;
     on.polygon(omtrek, kleur_pijl, true);
     if (kleur_pijl != zwart) on.polygon(omtrek, zwart, false);
 }
@@ -45,8 +43,6 @@ void teken_pijl(drawing& on, point van, point naar, kleur kleur_pijl) {
 void teken_maat(drawing& on, point van, point naar, std::string_view tekst) {
     constexpr int half_dash = 45, room = 35;
     const zelfde_stand bewaard(on);
-    on.line_width = 1;
-    on.style = line_style::solid;
     const double dx = naar.x - van.x, dy = naar.y - van.y, length = std::max(std::hypot(dx, dy), 1.0);
     const point across{heel(-dy / length * half_dash), heel(dx / length * half_dash)};
     for (const point end : {van, naar})

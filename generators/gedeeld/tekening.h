@@ -24,20 +24,20 @@ struct vlak {
     bool operator==(const vlak&) const = default;
 };
 
-// Puts colour, text size, width and style of lines back when it goes.
+// Lines are so many pixels wide until it goes; then they, the colour and the text size are as they were.
 class zelfde_stand {
 public:
-    explicit zelfde_stand(drawing& on)
+    explicit zelfde_stand(drawing& on, int line_width = 1)
         : on_(on),
           colour_(on.fore_colour),
           size_(on.text_size),
-          width_(on.line_width),
-          style_(on.style) {}
+          width_(on.line_width) {
+        on.line_width = line_width;
+    }
     ~zelfde_stand() {
         on_.fore_colour = colour_;
         on_.text_size = size_;
         on_.line_width = width_;
-        on_.style = style_;
     }
     zelfde_stand(const zelfde_stand&) = delete;
     zelfde_stand& operator=(const zelfde_stand&) = delete;
@@ -47,7 +47,6 @@ private:
     kleur colour_;
     double size_;
     int width_;
-    line_style style_;
 };
 
 // From the top of a line of text to the middle of its digits.

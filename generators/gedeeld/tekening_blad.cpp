@@ -11,7 +11,6 @@ namespace {
 constexpr int marge = 110;
 
 void sheet(drawing& on, const vlak& waar, int shadow) {
-    on.line_width = 1;
     on.filled_box(waar.links + shadow, waar.boven + shadow, waar.breedte, waar.hoogte, grijs);
     on.filled_box(waar.links, waar.boven, waar.breedte, waar.hoogte, wit);
     on.box(waar.links, waar.boven, waar.breedte, waar.hoogte, zwart);
@@ -36,7 +35,7 @@ int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view 
         else
             druk_om(on, {waar.midden().x, middle - (bar ? 10 : 0)}, kop);
         const auto rule = [&](int at, int width) {
-            on.line_width = width;
+            const zelfde_stand rule_width(on, width);
             on.line(waar.links + marge, at, waar.rechts() - marge, at, tint);
         };
         if (soort == bladsoort::krant) rule(waar.boven + 40, 3);

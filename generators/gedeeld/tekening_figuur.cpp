@@ -40,14 +40,12 @@ void roosterfiguur::teken(drawing& on, const rooster& op, kleur vulling) const {
     const zelfde_stand bewaard(on);
     std::vector<point> hoeken;
     for (const point& hoek : hoeken_) hoeken.push_back(op.hoek(hoek));
-    on.line_width = 1;
     on.polygon(std::move(hoeken), vulling, true);
     teken_rand(on, op);
 }
 
 void roosterfiguur::teken_rand(drawing& on, const rooster& op) const {
-    const zelfde_stand bewaard(on);
-    on.line_width = 2;
+    const zelfde_stand bewaard(on, 2);
     for (std::size_t i = 0; i < hoeken_.size(); ++i) {
         const point van = op.hoek(hoeken_[i]), naar = op.hoek(hoeken_[(i + 1) % hoeken_.size()]);
         on.line(van.x, van.y, naar.x, naar.y, zwart);
@@ -57,7 +55,6 @@ void roosterfiguur::teken_rand(drawing& on, const rooster& op) const {
 void teken_rooster(drawing& on, const rooster& op, const std::vector<gekleurde_figuur>& figuren) {
     const zelfde_stand bewaard(on);
     for (const auto& [figuur, vulling] : figuren) figuur.teken(on, op, vulling);
-    on.line_width = 1;
     const point eind = op.hoek({op.breed, op.hoog});
     for (int i = 0; i <= op.breed; ++i) on.line(op.hoek({i, 0}).x, op.oorsprong.y, op.hoek({i, 0}).x, eind.y, grijs);
     for (int i = 0; i <= op.hoog; ++i) on.line(op.oorsprong.x, op.hoek({0, i}).y, eind.x, op.hoek({0, i}).y, grijs);
@@ -99,7 +96,6 @@ void teken_doos(drawing& on, const vlak& binnen, int breedte, int diepte, int ho
     const std::vector<point> boven{{x, y}, {x + b, y}, {x + b + schuin.x, y + schuin.y}, {x + schuin.x, y + schuin.y}};
     const std::vector<point> zij{
         {x + b, y}, {x + b + schuin.x, y + schuin.y}, {x + b + schuin.x, y + h + schuin.y}, {x + b, y + h}};
-    on.line_width = 1;
     on.filled_box(x, y, b, h, lichtgrijs);
     on.polygon(boven, wit, true);
     on.polygon(zij, grijs, true);
@@ -108,7 +104,6 @@ void teken_doos(drawing& on, const vlak& binnen, int breedte, int diepte, int ho
     on.polygon(boven, zwart, false);
     on.polygon(zij, zwart, false);
 
-    on.line_width = 1;
     teken_maat(on, {x, y + h + maatlijn}, {x + b, y + h + maatlijn}, maat(breedte));
     teken_maat(on, {x - naast, y + h}, {x - naast, y}, maat(hoogte));
     const point langs{x + b + maatlijn * 3 / 4, y + h + maatlijn / 2};
@@ -125,8 +120,7 @@ void teken_cilinder(drawing& on, const vlak& binnen, int middellijn, int hoogte,
     const int over = binnen.hoogte - onder - h - 2 * boog;
     const int x = binnen.midden().x, y = binnen.onder() - onder - boog - h - over / 2;
 
-    const zelfde_stand bewaard(on);
-    on.line_width = 2;
+    const zelfde_stand bewaard(on, 2);
     on.ellipse(x, y + h, straal, boog, lichtgrijs, true);
     on.ellipse(x, y + h, straal, boog, zwart, false);
     on.filled_box(x - straal, y, 2 * straal, h, lichtgrijs);
@@ -135,7 +129,6 @@ void teken_cilinder(drawing& on, const vlak& binnen, int middellijn, int hoogte,
     on.ellipse(x, y, straal, boog, wit, true);
     on.ellipse(x, y, straal, boog, zwart, false);
 
-    on.line_width = 1;
     const int onder_y = y + h + boog + maatlijn;
     teken_maat(on, {x - straal, onder_y}, {x + straal, onder_y}, maat(middellijn));
     teken_maat(on, {x + straal + naast, y}, {x + straal + naast, y + h}, maat(hoogte));

@@ -36,7 +36,6 @@ void teken_munt(drawing& on, point midden, int straal, int cent) {
     const auto* soort = std::ranges::find(munten, cent, &muntsoort::cent);
     if (soort == munten.end()) throw checked_error("no coin of " + std::to_string(cent) + " cents");
     const zelfde_stand bewaard(on);
-    on.line_width = 1;
     const int grootste = munten.back().middellijn;
     const int buiten = straal * (soort->middellijn + grootste) / (2 * grootste);
     const int binnen = buiten * (soort->rand == soort->hart ? 90 : 76) / 100;
@@ -53,7 +52,6 @@ void teken_briefje(drawing& on, int links, int boven, int breedte, int euro) {
     const auto* soort = std::ranges::find(briefjes, euro, &briefsoort::euro);
     if (soort == briefjes.end()) throw checked_error("no note of " + std::to_string(euro) + " euros");
     const zelfde_stand bewaard(on);
-    on.line_width = 1;
     const int hoogte = breedte / 2, rand = breedte / 16;
     on.filled_box(links, boven, breedte, hoogte, soort->tint);
     on.box(links, boven, breedte, hoogte, zwart);

@@ -39,14 +39,12 @@ int assen::y(int waarde) const { return tussen(waarde, langs_y_, plot_.onder(), 
 
 void assen::lijnen_op() {
     const zelfde_stand bewaard(on_);
-    on_.line_width = 1;
     for (int waarde = langs_y_.van + langs_y_.stap; waarde <= langs_y_.tot; waarde += langs_y_.stap)
         on_.line(plot_.links, y(waarde), plot_.rechts(), y(waarde), lichtgrijs);
 }
 
 void assen::lijnen_langs() {
     const zelfde_stand bewaard(on_);
-    on_.line_width = 1;
     for (int waarde = langs_x_.van + langs_x_.stap; waarde <= langs_x_.tot; waarde += langs_x_.stap)
         on_.line(x(waarde), plot_.boven, x(waarde), plot_.onder(), lichtgrijs);
 }
@@ -82,8 +80,7 @@ void assen::naam_rechts(std::string_view naam) {
 
 void assen::lijn(const std::vector<point>& waarden, kleur met, bool stippen) {
     constexpr int dot = 32;
-    const zelfde_stand bewaard(on_);
-    on_.line_width = 2;
+    const zelfde_stand bewaard(on_, 2);
     for (std::size_t i = 1; i < waarden.size(); ++i)
         on_.line(x(waarden[i - 1].x), y(waarden[i - 1].y), x(waarden[i].x), y(waarden[i].y), met);
     if (!stippen) return;
@@ -93,7 +90,6 @@ void assen::lijn(const std::vector<point>& waarden, kleur met, bool stippen) {
 vlak assen::kolom(int van, int tot, int waarde, kleur met) {
     const vlak staat{x(van), y(waarde), x(tot) - x(van), plot_.onder() - y(waarde)};
     const zelfde_stand bewaard(on_);
-    on_.line_width = 1;
     on_.filled_box(staat.links, staat.boven, staat.breedte, staat.hoogte, met);
     on_.box(staat.links, staat.boven, staat.breedte, staat.hoogte, zwart);
     return staat;
@@ -111,7 +107,6 @@ void teken_taart(drawing& on, point midden, int straal, const std::vector<taartd
         sectoren.push_back({vanaf, 360.0 * each.deel / geheel});
         vanaf += sectoren.back().sweep;
     }
-    on.line_width = 1;
     for (std::size_t i = 0; i < delen.size(); ++i) {
         on.sector(midden.x, midden.y, straal, sectoren[i].vanaf, sectoren[i].sweep, delen[i].vulling, true);
         if (delen[i].gestreept)
@@ -129,7 +124,6 @@ void teken_taart(drawing& on, point midden, int straal, const std::vector<taartd
 void arceer_sector(drawing& on, point midden, int straal, double vanaf, double sweep, kleur met) {
     constexpr int distance = 75; // from line to line
     const zelfde_stand bewaard(on);
-    on.line_width = 1;
     const auto in_sector = [&](double right, double up) {
         const double past = std::atan2(up, right) * 180 / std::numbers::pi - vanaf;
         return past - std::floor(past / 360) * 360 <= sweep;
@@ -162,7 +156,6 @@ void arceer_sector(drawing& on, point midden, int straal, double vanaf, double s
 
 int teken_legenda(drawing& on, int x, int y, const std::vector<legendaregel>& regels) {
     const zelfde_stand bewaard(on);
-    on.line_width = 1;
     const int step = text_height(on.text_size) * 5 / 4, side = step * 3 / 5;
     for (const legendaregel& each : regels) {
         on.filled_box(x, y + (step - side) / 2, side, side, each.vulling);

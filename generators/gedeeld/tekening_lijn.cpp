@@ -14,8 +14,7 @@ getallenlijn::getallenlijn(drawing& on, int links, int rechts, int y, int delen)
       rechts_(rechts),
       y_(y),
       delen_(delen) {
-    const zelfde_stand bewaard(on);
-    on.line_width = 2;
+    const zelfde_stand bewaard(on, 2);
     on.line(links, y, rechts, y, on.fore_colour);
     for (int i = 0; i <= delen; ++i) {
         const int half = i == 0 || i == delen ? half_long_mark : half_mark;
@@ -26,8 +25,7 @@ getallenlijn::getallenlijn(drawing& on, int links, int rechts, int y, int delen)
 int getallenlijn::x(int streepje) const { return links_ + (rechts_ - links_) * streepje / delen_; }
 
 void getallenlijn::getal(int streepje, std::string_view tekst) {
-    const zelfde_stand bewaard(on_);
-    on_.line_width = 2;
+    const zelfde_stand bewaard(on_, 2);
     on_.line(x(streepje), y_ - half_long_mark, x(streepje), y_ + half_long_mark, on_.fore_colour);
     on_.print_centred(x(streepje), y_ + half_long_mark + 20, tekst);
 }

@@ -49,7 +49,6 @@ void teken_teller(drawing& on, int x, int y, std::string_view getal) {
     on.fore_colour = wit;
     on.print_at(x + blank, y + height / 2 - halve_regel(on.text_size), wijd);
     // Between the digits, not across the comma that fills half of its gap.
-    on.line_width = 1;
     for (int edge = x + window; edge < x + width - window / 2; edge += window)
         on.line(edge, y, edge, y + height, grijs);
 }
@@ -78,7 +77,6 @@ void teken_wijzerplaat(drawing& on, point midden, int straal, const wijzerschaal
                          1000;
         druk_om(on, op_cirkel(midden, straal + deep + 25, graden(at)), getal);
     }
-    on.line_width = 1;
     teken_naald(on, midden, share(straal, 0.8), share(straal, 0.05), graden(waarde), rood);
     on.filled_circle(midden.x, midden.y, share(straal, 0.08), zwart);
     if (round) on.fore_colour = zwart; // it stands on the face
@@ -106,7 +104,6 @@ void teken_klok(drawing& on, point midden, int straal, int minuten) {
         line(on, op_cirkel(midden, straal * 0.92, graden), op_cirkel(midden, straal * 0.88, graden), zwart);
         druk_om(on, op_cirkel(midden, straal * 0.72, graden), regel(kaal(hour)));
     }
-    on.line_width = 1;
     teken_naald(on, midden, share(straal, 0.4), share(straal, 0.055), 90 - minuten % 720 * 0.5, zwart);
     teken_naald(on, midden, share(straal, 0.57), share(straal, 0.04), 90 - minuten % 60 * 6.0, zwart);
     on.filled_circle(midden.x, midden.y, share(straal, 0.06), zwart);

@@ -33,7 +33,6 @@ void tabel::cel(std::size_t column, std::string_view tekst) {
 
 void tabel::sluit_rij() {
     const zelfde_stand bewaard(on_);
-    on_.line_width = 1;
     y_ += rijhoogte_;
     on_.line(links_, y_, links_ + breedte_, y_, letterkleur(on_.ground) == zwart ? lichtgrijs : grijs);
 }

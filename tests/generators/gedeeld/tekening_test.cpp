@@ -62,13 +62,14 @@ std::array<int, 4> covered(const drawing& drawn) {
 struct layout {
     const char* name;
     int left, top, width, height; // of what it covers
+    std::size_t operations;
     double size;
     void (*draw)(drawing&);
 };
 
 // Each verb as full as its exercises make it.
 const layout layouts[] = {
-    {"columns", 70, 88, 4'990, 1'925, 8,
+    {"columns", 70, 88, 4'990, 1'925, 56, 8,
      [](drawing& on) {
          assen axes(on, {560, 330, 4500, 1480}, {0, 120, 10}, {0, 50, 5});
          axes.lijnen_op();
@@ -77,7 +78,7 @@ const layout layouts[] = {
          axes.naam_boven("zetels");
          for (int month = 0; month < 12; ++month) axes.kolom(month * 10 + 2, month * 10 + 8, 50, blauw);
      }},
-    {"a line", 70, 38, 5'162, 1'962, 8,
+    {"a line", 70, 38, 5'162, 1'962, 60, 8,
      [](drawing& on) {
          assen axes(on, {560, 280, 4500, 1550}, {0, 16, 1}, {0, 80'000, 10'000});
          axes.lijnen_op();
@@ -88,87 +89,87 @@ const layout layouts[] = {
          axes.naam_rechts("s");
          axes.lijn({{0, 0}, {5, 80'000}, {16, 0}}, rood);
      }},
-    {"pie and legend", 651, 417, 3'357, 1'140, 10,
+    {"pie and legend", 651, 417, 3'357, 1'140, 21, 10,
      [](drawing& on) {
          teken_taart(on, {1300, 1065}, 950, {{6, blauw, "1"}, {3, rood, "2"}, {2, paars, "3"}, {1, geel, "4"}});
          teken_legenda(on, 2800, 500, {{blauw, "1  Spanje"}, {rood, "2  Duitsland"}, {geel, "4  Italië"}});
      }},
-    {"table", 40, 60, 5'300, 2'025, 8.25,
+    {"table", 40, 60, 5'300, 2'025, 81, 8.25,
      [](drawing& on) {
          for (int left = 40; left < 5'000; left += 1'780) {
              tabel table(on, left, 60, 1'740, 225, {{"stad", left + 30}, {"verschil", left + 1'710, true}});
              for (int row = 0; row < 8; ++row) table.rij("Rio de Janeiro", "-3 uur   ");
          }
      }},
-    {"counters", 55, 55, 2'051, 1'610, 14,
+    {"counters", 55, 55, 2'051, 1'610, 19, 14,
      [](drawing& on) {
          teken_teller(on, 100, 100, " 0123456");
          teken_teller(on, 100, 1'200, komma(1'234'567, 2));
      }},
-    {"round dial", 1'675, 122, 2'120, 1'738, 9,
+    {"round dial", 1'675, 122, 2'120, 1'738, 37, 9,
      [](drawing& on) {
          teken_wijzerplaat(on, {2'690, 1'080}, 780, {200, 10, 20, 20}, 0, "km/uur");
      }},
-    {"half a dial", 1'278, 205, 2'967, 1'710, 10,
+    {"half a dial", 1'278, 205, 2'967, 1'710, 37, 10,
      [](drawing& on) {
          teken_wijzerplaat(on, {2'690, 1'600}, 1'200, {200, 10, 20, 20, 180, 180}, 200, "km/uur");
      }},
-    {"clock", 940, 327, 1'520, 1'553, 8,
+    {"clock", 940, 327, 1'520, 1'553, 33, 8,
      [](drawing& on) {
          teken_klok(on, {1'700, 1'120}, 760, 10 * 60 + 50);
      }},
-    {"number line", 350, 515, 4'700, 1'233, 12,
+    {"number line", 350, 515, 4'700, 1'233, 23, 12,
      [](drawing& on) {
          getallenlijn line(on, 500, 4'900, 1'350, 5);
          line.getal(0, "3,8");
          line.getal(5, "3,9");
          for (const int mark : {1, 2, 3, 4}) line.pijl(mark, geel, "groen");
      }},
-    {"flat boxes", 444, 100, 4'905, 1'921, 10,
+    {"flat boxes", 444, 100, 4'905, 1'921, 38, 10,
      [](drawing& on) {
          teken_doos(on, {100, 100, 2'500, 1'930}, 2, 12, 9, " cm");
          teken_doos(on, {2'800, 100, 2'500, 1'930}, 19, 4, 2, " cm");
      }},
-    {"flat cylinder", 1'044, 100, 3'742, 1'769, 10,
+    {"flat cylinder", 1'044, 100, 3'742, 1'769, 17, 10,
      [](drawing& on) {
          teken_cilinder(on, {100, 100, 5'180, 1'930}, 15, 3, " cm");
      }},
-    {"slender cylinder", 2'495, 100, 835, 1'921, 10,
+    {"slender cylinder", 2'495, 100, 835, 1'921, 16, 10,
      [](drawing& on) {
          teken_cilinder(on, {100, 100, 5'180, 1'930}, 2, 17, " cm");
      }},
-    {"short measures", 560, 455, 1'010, 1'164, 10,
+    {"short measures", 560, 455, 1'010, 1'164, 12, 10,
      [](drawing& on) {
          teken_maat(on, {1'000, 500}, {1'100, 500}, "1.000 cm");
          teken_maat(on, {1'000, 1'000}, {1'000, 1'100}, "rechts");
          teken_maat(on, {1'000, 1'600}, {1'000, 1'500}, "links");
      }},
-    {"sum", 1'049, 285, 1'661, 1'459, 20,
+    {"sum", 1'049, 285, 1'661, 1'459, 5, 20,
      [](drawing& on) {
          teken_kolomsom(on, 2'000, 200, {{"1.234"}, {"56,7", -2}, {"8"}}, "+");
      }},
-    {"newspaper", 100, 60, 2'695, 1'995, 10,
+    {"newspaper", 100, 60, 2'695, 1'995, 12, 10,
      [](drawing& on) {
          teken_blad(on, {100, 60, 2'650, 1'950}, bladsoort::krant, "maandag", {6, "Een stad groeit"});
      }},
-    {"letter", 200, 60, 4'945, 1'995, 10,
+    {"letter", 200, 60, 4'945, 1'995, 10, 10,
      [](drawing& on) {
          teken_blad(on, {200, 60, 4'900, 1'950}, bladsoort::brief, "Het Gasbedrijf", {5, "(m³) gas"});
      }},
-    {"advertisement", 200, 60, 4'945, 1'995, 11,
+    {"advertisement", 200, 60, 4'945, 1'995, 9, 11,
      [](drawing& on) {
          teken_blad(on, {200, 60, 4'900, 1'950}, bladsoort::reclame, "RECLAME", {4, "(kJ) per kg"});
      }},
-    {"panel", 100, 30, 5'225, 2'065, 9,
+    {"panel", 100, 30, 5'225, 2'065, 12, 9,
      [](drawing& on) {
          teken_blad(on, {100, 30, 5'180, 2'020}, bladsoort::paneel, "", {9, "(a + b)"});
      }},
-    {"four advertisements", 12, 12, 5'356, 2'106, 8.25,
+    {"four advertisements", 12, 12, 5'356, 2'106, 20, 8.25,
      [](drawing& on) {
          for (const int number : {1, 2, 3, 4})
              teken_advertentie(on, number, {"Te huur:", "op brandstof van 123 eurocent per liter."});
      }},
-    {"money", 60, 200, 5'220, 1'310, 8,
+    {"money", 60, 200, 5'220, 1'310, 64, 8,
      [](drawing& on) {
          for (int left = 350; const int cents : {1, 2, 5, 10, 20, 50, 100, 200})
              teken_munt(on, {std::exchange(left, left + 640), 500}, 300, cents);
@@ -185,7 +186,10 @@ TEST(drawings, keep_words_apart_and_clear_of_lines_and_leave_the_board_as_it_was
         on.line_width = 5;
         each.draw(on);
         EXPECT_EQ(first_fault(on), "") << each.name;
+        EXPECT_EQ(on.operations().size(), each.operations) << each.name;
         EXPECT_EQ(covered(on), (std::array{each.left, each.top, each.width, each.height})) << each.name;
+        const auto lines = all<line_op>(on);
+        EXPECT_EQ(std::ranges::count(lines, 5, [](const line_op& line) { return line.pen.width; }), 0) << each.name;
         EXPECT_TRUE(on.text_size == each.size && on.fore_colour == donkerblauw && on.line_width == 5) << each.name;
     }
 }
