@@ -49,11 +49,7 @@ std::array<int, 4> covered(const drawing& drawn) {
     };
     for (const ink& word : visible_words(drawn)) reach(word.left, word.top), reach(word.right, word.bottom);
     for (const drawing_op& operation : drawn.operations()) {
-        for (const point& corner : path_of(operation)) reach(corner.x, corner.y);
-        if (const auto* circle = std::get_if<circle_op>(&operation); circle != nullptr && circle->sweep == 360) {
-            reach(circle->centre.x - circle->radius_x, circle->centre.y - circle->radius_y);
-            reach(circle->centre.x + circle->radius_x, circle->centre.y + circle->radius_y);
-        }
+        for (const point& corner : path_of(operation, drawn.ground)) reach(corner.x, corner.y);
     }
     const auto whole = [](double value) { return static_cast<int>(std::lround(value)); };
     return {whole(left), whole(top), whole(right - left), whole(bottom - top)};
@@ -89,7 +85,7 @@ const layout layouts[] = {
          axes.naam_rechts("s");
          axes.lijn({{0, 0}, {5, 80'000}, {16, 0}}, rood);
      }},
-    {"pie and legend", 651, 417, 3'357, 1'140, 21, 10,
+    {"pie and legend", 350, 115, 3'658, 1'900, 21, 10,
      [](drawing& on) {
          teken_taart(on, {1300, 1065}, 950, {{6, blauw, "1"}, {3, rood, "2"}, {2, paars, "3"}, {1, geel, "4"}});
          teken_legenda(on, 2800, 500, {{blauw, "1  Spanje"}, {rood, "2  Duitsland"}, {geel, "4  Italië"}});
