@@ -24,18 +24,19 @@ std::string as_text(const outcome& value) {
     return "elsewhere";
 }
 
-bool fits(const outcome& wanted, const std::string& answer, const std::string& right) {
-    if (const auto* text = std::get_if<std::string>(&wanted)) return answer == *text;
+// The option is the answer, or what stands behind its word in the picture.
+bool fits(const outcome& wanted, const std::string& answer, const std::string& option, const std::string& right) {
+    if (const auto* text = std::get_if<std::string>(&wanted)) return answer == *text || option == *text;
     if (const auto* told = std::get_if<told_numbers>(&wanted)) {
-        const auto found = find_pattern("^" + answer + "^", "^" + told->pattern + "^");
+        const auto found = find_pattern("^" + option + "^", "^" + told->pattern + "^");
         return found && std::ranges::equal(found->numbers, told->numbers, same);
     }
-    const auto number = number_of(answer);
+    const auto number = number_of(option);
     if (const auto* value = std::get_if<double>(&wanted)) return number && same(*number, *value);
     switch (std::get<lies>(wanted)) {
     case lies::below: return number && number < number_of(right);
     case lies::above: return number && number > number_of(right);
-    default: return answer != right;
+    default: return option != right;
     }
 }
 
@@ -60,12 +61,16 @@ public:
         for (const formula& count : row_.counts) now.numbers.push_back(std::get<double>(count(now)));
         note(now, place);
 
+        const auto options = e.options();
+        const auto right_place = static_cast<std::size_t>(e.right_place() - 1);
         const outcome right = row_.right(now);
         if (!std::holds_alternative<lies>(right)) {
-            EXPECT_TRUE(fits(right, e.right, "")) << "right is " << as_text(right);
+            EXPECT_TRUE(fits(right, e.right, options[right_place], "")) << "right is " << as_text(right);
         }
         for (int i = 1; i <= 4; ++i)
-            if (i != e.right_place() && !row_.wrong.empty()) look_at_mistake(now, e.answer(i), e.feedback(i));
+            if (i != e.right_place() && !row_.wrong.empty())
+                look_at_mistake(now, e.answer(i), options[static_cast<std::size_t>(i - 1)], options[right_place],
+                                e.feedback(i));
         look_at_explanation(now);
         look_at_tips(e);
         EXPECT_EQ(e.made.tijdlimiet, row_.ticks.empty() ? 0 : row_.ticks[row_.ticks.size() == 1 ? 0 : place]);
@@ -115,14 +120,15 @@ private:
         words_.resize(std::max(words_.size(), now.words.size()));
         for (std::size_t i = 0; i < now.words.size(); ++i) words_[i].insert(now.words[i]);
     }
-    void look_at_mistake(const reading& now, const std::string& answer, const std::string& feedback) {
+    void look_at_mistake(const reading& now, const std::string& answer, const std::string& option,
+                         const std::string& right, const std::string& feedback) {
         std::set<std::string_view> pieces;
         bool explained = false;
         for (std::size_t i = 0; i < row_.wrong.size(); ++i) {
             const auto& [piece, value] = row_.wrong[i];
             if (feedback.empty() ? false : *piece == 0 || !has(feedback, piece)) continue;
             pieces.insert(feedback.empty() ? "" : piece);
-            if (!fits(value(now), answer, now.exercise.right)) continue;
+            if (!fits(value(now), answer, option, right)) continue;
             explained = met_[i] = true;
         }
         EXPECT_EQ(pieces.size(), 1U) << "rows for \"" << feedback << "\" at " << answer;

@@ -20,8 +20,9 @@
 // Patterns are those of pattern.h: "#" reads a number, "(een|twee)" a choice as 0 or 1, "@" a word, "$0" stands for a
 // number that was read before. v[0], v[1], ... are the numbers that `reads` finds, in order, then those of `counts`. A
 // formula is an expression in them, or a lambda [](const reading& n) { return n[0] ...; } that returns a number or a
-// text; says("# : #", v[1], v[0]) is an answer that looks like that. Sub-variants that differ have rows of their own
-// with `of`. Write the numbers of a table by hand and compute another way than the generator does.
+// text; where the answers are words, such as colours, it may tell what stands behind them in the picture. says("# : #",
+// v[1], v[0]) is an answer that looks like that. Sub-variants that differ have rows of their own with `of`. Write the
+// numbers of a table by hand and compute another way than the generator does.
 #pragma once
 
 #include "tests/support/seen.h"

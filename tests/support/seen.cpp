@@ -1,6 +1,6 @@
 #include "tests/support/seen.h"
 
-#include "tests/support/pattern.h"
+#include "tests/support/rows_of.h"
 
 #include <map>
 #include <regex>
@@ -46,6 +46,21 @@ seen::seen(const oefening& exercise)
 std::string seen::feedback(int which) const {
     const std::array all{&made.foutregels_2, &made.foutregels_3, &made.foutregels_4};
     return joined(*all.at(static_cast<std::size_t>(oefening::getoond_antwoord(which, right_place()) - 2)));
+}
+
+std::array<std::string, 4> seen::options() const {
+    std::array<std::string, 4> all = answers();
+    const auto has_digit = [](const std::string& text) { return text.find_first_of("0123456789") != text.npos; };
+    if (std::ranges::any_of(all, has_digit)) return all;
+    const std::vector<std::string> rows = rows_of(made.plaatje);
+    for (std::string& answer : all)
+        for (const std::string& row : rows)
+            if (row.starts_with(answer) && row.size() > answer.size() &&
+                std::string_view(" .:").find(row[answer.size()]) < 3) {
+                answer = row.substr(std::min(row.find_first_not_of(" .:", answer.size()), row.size()));
+                break;
+            }
+    return all;
 }
 
 std::string seen::sheet() const {

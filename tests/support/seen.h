@@ -52,6 +52,9 @@ struct seen {
     }
     // What a pupil is told who picks this wrong answer, 1 to 4 in the order of answers().
     std::string feedback(int which) const;
+    // The answers, or where they are words what stands behind these in the picture, such as the number on a bar of this
+    // colour.
+    std::array<std::string, 4> options() const;
     // The question and the words of the picture, " | " between them.
     std::string sheet() const;
 
