@@ -1,5 +1,6 @@
 // Which fraction is larger: among tenths on a number line, among others, between decimals.
 #include "generators/breuken/breuken.h"
+#include "generators/gedeeld/tekening_lijn.h"
 #include "generators/oefeningen.h"
 
 #include <algorithm>
@@ -49,15 +50,9 @@ void oefeningen::M_getallenlijn_03_03_click() {
     bord(lichtgrijs, zwart, 14);
     druk(1200, 170, "Gegeven breuk:");
     teken_breuk(plaatje, 3400, 331, 0, gegeven.teller, gegeven.noemer);
-    plaatje.line_width = 2;
-    plaatje.line(begin, lijn, begin + 10 * tiende, lijn, zwart);
+    const getallenlijn nul_tot_een(plaatje, begin, begin + 10 * tiende, lijn, 10);
     plaatje.text_size = 9;
-    for (int i = 0; i <= 10; ++i) {
-        const int x = begin + i * tiende;
-        plaatje.line(x, lijn - 70, x, lijn + 70, zwart);
-        if (i % 10 != 0) teken_breuk(plaatje, x - 120, 902, 0, i, 10);
-    }
-    plaatje.line_width = 1;
+    for (int i = 1; i < 10; ++i) teken_breuk(plaatje, nul_tot_een.x(i) - 120, 902, 0, i, 10);
     plaatje.text_size = 12;
     druk_midden(begin, 770, "0");
     druk_midden(begin + 10 * tiende, 770, "1");
@@ -66,10 +61,7 @@ void oefeningen::M_getallenlijn_03_03_click() {
     for (int i = 1; i <= 4; ++i) {
         const auto& [woord, tint] = rij(pijlen, i);
         const int x = plek(rij(aangewezen, i));
-        const std::vector<point> omtrek{{x, lijn + 20}, {x + 100, lijn + 190}, {x + 40, lijn + 190}, {x + 40, 1720},
-                                        {x - 40, 1720}, {x - 40, lijn + 190},  {x - 100, lijn + 190}};
-        plaatje.polygon(omtrek, tint, true);
-        plaatje.polygon(omtrek, zwart, false);
+        teken_pijl(plaatje, {x, 1720}, {x, lijn + 20}, tint);
         druk_midden(x, 1750, woord);
         op_plaats(i, woord);
     }

@@ -21,7 +21,7 @@ void druk_om(drawing& on, point midden, std::string_view tekst) {
 }
 
 void teken_pijl(drawing& on, point van, point naar, kleur kleur_pijl) {
-    constexpr double half_shaft = 22, half_head = 75, longest_head = 170;
+    constexpr double half_shaft = 28, half_head = 85, longest_head = 180;
     const zelfde_stand bewaard(on);
     const double dx = naar.x - van.x, dy = naar.y - van.y, length = std::max(std::hypot(dx, dy), 1.0);
     const double head = std::min(longest_head, length / 2);
@@ -29,13 +29,13 @@ void teken_pijl(drawing& on, point van, point naar, kleur kleur_pijl) {
         return point{van.x + heel((dx * along - dy * aside) / length),
                      van.y + heel((dy * along + dx * aside) / length)};
     };
-    const std::vector<point> omtrek{at(0, -half_shaft),
-                                    at(length - head, -half_shaft),
-                                    at(length - head, -half_head),
-                                    naar,
+    const std::vector<point> omtrek{naar,
                                     at(length - head, half_head),
                                     at(length - head, half_shaft),
-                                    at(0, half_shaft)};
+                                    at(0, half_shaft),
+                                    at(0, -half_shaft),
+                                    at(length - head, -half_shaft),
+                                    at(length - head, -half_head)};
     on.polygon(omtrek, kleur_pijl, true);
     if (kleur_pijl != zwart) on.polygon(omtrek, zwart, false);
 }

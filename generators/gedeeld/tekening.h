@@ -59,6 +59,7 @@ point op_cirkel(point midden, double straal, double graden);
 void druk_om(drawing& on, point midden, std::string_view tekst);
 
 // An arrow from one point to another, in a colour, with a black edge so that light colours show on a light ground.
+// The first corner of its polygon is the tip.
 void teken_pijl(drawing& on, point van, point naar, kleur kleur_pijl);
 
 // A line that tells a measure: a dash across each end, the text in a gap in the middle. Where the line is too short for

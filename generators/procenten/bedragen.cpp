@@ -1,5 +1,6 @@
 // Percentages of a number or an amount: take 1 % first (divide by 100), then multiply. The wrong answers are the
 // mistakes that this guards against: not multiplying, dividing by 10, adding a discount.
+#include "generators/gedeeld/tekening_blad.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -123,12 +124,10 @@ void oefeningen::M_rente_01_08_click() {
     const auto euro = [](int whole) { return regel(kaal(duizend(whole)), " euro"); };
 
     bord(donkerblauw, zwart, 10);
-    plaatje.filled_box(200, 150, 4980, 1830, wit);
-    plaatje.filled_box(200, 150, 4980, 260, lichtgrijs);
-    druk(350, 180, "BANK");
-    druk(350, 600, "Geachte ", wie.naam, ",");
-    druk(350, 1000, "We hebben ", euro(rente), " rente op", jouw, " rekening bijgeschreven.");
-    druk(350, 1300, "Er staat nu ", euro(nieuw), " op", jouw, " rekening.");
+    teken_blad(plaatje, {200, 150, 4980, 1830}, bladsoort::brief, "BANK",
+               {regel("Geachte ", wie.naam, ","),
+                regel("We hebben ", euro(rente), " rente op", jouw, " rekening bijgeschreven."),
+                regel("Er staat nu ", euro(nieuw), " op", jouw, " rekening.")});
 
     vraag(regel(wie.naam, " krijgt van de"), "bank een brief die je hiernaast ziet.", leeg,
           regel("Hoeveel procent rente heeft ", hij), "gekregen?");

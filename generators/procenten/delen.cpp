@@ -1,5 +1,7 @@
 // Percentages as parts of a whole: a fraction, a slice of a pie, strips of a lawn.
 #include "generators/gedeeld/kalender.h"
+#include "generators/gedeeld/tekening_blad.h"
+#include "generators/gedeeld/tekening_grafiek.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -74,15 +76,11 @@ void oefeningen::B_alcohol_01_08_Click() {
     const std::string_view dag = kies(weekdagen);
     const int juist = trek(4) + 1;
 
-    bord(wit, zwart, 11);
-    plaatje.filled_box(0, 0, drawing::inner_width, 330, lichtgrijs);
-    druk(250, 50, "HET NIEUWS");
-    druk_rechts(5130, 50, dag);
-    druk(250, 480, "In ", stad, " is gisteravond een");
-    druk(250, 760, "grote alcoholcontrole gehouden.");
-    druk(250, 1040, "Volgens de politie had bijna ", kaal(deel.procent), " % van ", kaal(n));
-    druk(250, 1320, "aangehouden automobilisten teveel");
-    druk(250, 1600, "gedronken.");
+    bord(cyaan, zwart, 11);
+    teken_blad(plaatje, {150, 60, 5050, 1980}, bladsoort::krant, regel("HET NIEUWS - ", dag),
+               {regel("In ", stad, " is gisteravond een"), "grote alcoholcontrole gehouden.",
+                regel("Volgens de politie had bijna ", kaal(deel.procent), " % van ", kaal(n)),
+                "aangehouden automobilisten teveel", "gedronken."});
 
     vraag("Bekijk hiernaast een artikel", "over een alcoholcontrole...", leeg,
           regel("In plaats van ' ", kaal(deel.procent), " % van ", kaal(n), " ' kun je"), "ook zeggen...");
@@ -152,13 +150,10 @@ void oefeningen::L_bevolking_01_08_click() {
             i == juist ? diagram{juiste_delen, {}, {}} : fouten[static_cast<std::size_t>(volgende++)];
         const int x = 720 + (i - 1) * 1313;
         druk_midden(x, 20, i);
-        double begin = trek(4) * 90;
-        for (std::size_t s = 0; s < 4; ++s) {
-            const double hoek = getekend.stukken[s] * 1.8;
-            plaatje.sector(x, 750, 450, begin, hoek, kleuren[s], true);
-            plaatje.sector(x, 750, 450, begin, hoek, zwart, false);
-            begin += hoek;
-        }
+        const int begin = trek(4) * 90;
+        std::vector<taartdeel> taart;
+        for (std::size_t s = 0; s < 4; ++s) taart.push_back({getekend.stukken[s], kleuren[s]});
+        teken_taart(plaatje, {x, 750}, 450, taart, begin);
         op_plaats(i, regel("nummer", i), getekend.commentaar_1, getekend.commentaar_2);
     }
     static constexpr std::array<std::string_view, 4> procenten{" 50 %", " 25 %", "  7 %", " 18 %"};

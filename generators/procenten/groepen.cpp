@@ -1,6 +1,7 @@
 // Percentages of a group of people: how many they are, how many per cent, and where that is most.
 // The wrong answers are the other group and a count for a percentage.
 #include "generators/gedeeld/kalender.h"
+#include "generators/gedeeld/tekening_tabel.h"
 #include "generators/oefeningen.h"
 
 #include <algorithm>
@@ -195,21 +196,11 @@ void oefeningen::M_blessures_01_08_click() {
     bord(wit, donkerblauw, 11);
     druk(250, 60, "Overzicht van het aantal sportblessures in");
     druk(250, 310, land, ", ", periode);
-    plaatje.filled_box(250, 620, 4880, 290, donkerblauw);
-    plaatje.fore_colour = wit;
     plaatje.text_size = 10.5;
-    druk(400, 640, "sport");
-    druk_rechts(3300, 640, "sporters");
-    druk_rechts(4900, 640, "blessures");
+    tabel overzicht_in_krant(plaatje, 250, 620, 4880, 285,
+                             {{"sport", 400}, {"sporters", 3300, true}, {"blessures", 4900, true}});
     plaatje.fore_colour = zwart;
-    for (int i = 1; i <= 4; ++i) {
-        const sport& deze = rij(o, i);
-        const int y = 665 + i * 285;
-        druk(400, y, deze.naam);
-        druk_rechts(3300, y, duizend(deze.sporters()));
-        druk_rechts(4900, y, duizend(deze.blessures()));
-        plaatje.line(250, y + 265, 5130, y + 265, lichtgrijs);
-    }
+    for (const sport& deze : o) overzicht_in_krant.rij(deze.naam, duizend(deze.sporters()), duizend(deze.blessures()));
 
     vraag("In de krant staat een artikel", "over blessures bij verschillende", regel("sporten in ", land),
           "in een bepaalde tijd.", "Bij welke sport was het percentage",

@@ -180,7 +180,7 @@ const exercise_rows percentages{
          }},
     {.id = B_alcohol_01_08_Click,
      .variants = 4,
-     .reads = "' # % van # ' * | HET NIEUWS | @ | In @ is * bijna $0 % van $1 |",
+     .reads = "' # % van # ' * | HET NIEUWS - @ | In @ is * bijna $0 % van $1 |",
      .ranges = {{{2, 4}, {150, 975}}, {{5, 50}, {140, 998}}, {{15, 20}, {140, 995}}, {{25, 40}, {148, 996}}},
      .words = {7, 8},
      .right = says("& * #", v[0] / 100, v[1]),
