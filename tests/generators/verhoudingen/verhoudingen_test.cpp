@@ -1,0 +1,308 @@
+// The ratios: what they draw, their answers worked out again from what a pupil sees, and each wrong answer as the
+// mistake that its feedback names.
+#include "generators/gedeeld/kleuren.h"
+#include "tests/support/exercise_rows.h"
+
+#include <map>
+#include <numeric>
+#include <set>
+
+namespace cijferwerf {
+namespace {
+
+using enum oefening_id;
+
+template<class Operation, class Wanted>
+std::vector<Operation> operations(const seen& e, Wanted wanted) {
+    std::vector<Operation> all;
+    for (const drawing_op& each : e.made.plaatje.operations())
+        if (const auto* operation = std::get_if<Operation>(&each); operation != nullptr && wanted(*operation))
+            all.push_back(*operation);
+    return all;
+}
+
+// The share that the door takes of each front, under which a word names the colour.
+void check_houses(const reading& n) {
+    const seen& e = n.exercise;
+    std::map<double, std::set<std::string>> by_share;
+    std::map<std::string, std::string> adjectives;
+    ASSERT_EQ(e.blocks.size(), 7U) << "the ground, and three fronts with a door each";
+    for (std::size_t i = 0; i < 3; ++i) {
+        const box_op &front = e.blocks[1 + 2 * i], &door = e.blocks[2 + 2 * i];
+        EXPECT_EQ(front.x + front.width / 2, door.x + door.width / 2);
+        EXPECT_EQ(front.y + front.height, door.y + door.height);
+        EXPECT_TRUE(e.texts[i].x > front.x - 100 && e.texts[i].x < front.x + front.width);
+        EXPECT_EQ(e.words[i], woord(front.pen.colour));
+        adjectives[e.words[i]] = bijvoeglijk(front.pen.colour);
+        by_share[1.0 * door.width * door.height / front.width / front.height].insert(e.words[i]);
+    }
+    const bool largest = n[0] == 0, equal = by_share.size() == 1;
+    EXPECT_TRUE(equal ? n.variant() > 2 : by_share.size() == 3);
+    const std::set<std::string> most = by_share.rbegin()->second, least = by_share.begin()->second;
+    EXPECT_EQ(e.right, equal ? "geen deur" : *(largest ? most : least).begin());
+    for (int i = 2; i <= 4; ++i) {
+        const std::string answer = e.answer(i), told = e.feedback(i);
+        const std::string piece = equal                   ? (largest ? "echt kleiner dan" : "echt groter dan")
+                                  : answer == "geen deur" ? "maar de voorkanten niet"
+                                  : answer == *(largest ? least : most).begin()
+                                      ? (largest ? "is het grootste" : "is het kleinste")
+                                      : (largest ? "een kleiner huisje" : "een groter huisje");
+        EXPECT_NE(told.find(piece), told.npos) << answer << ": " << told;
+        EXPECT_NE(told.find(" " + adjectives[answer]), told.npos) << answer << ": " << told;
+    }
+    EXPECT_TRUE(e.last.ends_with(": " + e.right + "."));
+}
+
+const auto mark = [](const line_op& line) { return line.from.y == line.to.y && line.to.x - line.from.x == 500; };
+const formula full_marks = [](const reading& n) {
+    const int level = n.exercise.blocks[1].y;
+    return operations<line_op>(n.exercise, [&](const line_op& l) { return mark(l) && l.from.y >= level; }).size();
+};
+const formula all_marks = [](const reading& n) { return operations<line_op>(n.exercise, mark).size(); };
+
+// The red part of the left (0) or right (1) circle.
+formula red_part(std::size_t which) {
+    return [which](const reading& n) {
+        const auto red = operations<circle_op>(n.exercise, [](const circle_op& c) { return c.pen.colour == rood; });
+        EXPECT_EQ(red.at(which).centre, (point{which == 0 ? 1500 : 3900, 1000}));
+        return red.at(which).sweep / 360;
+    };
+}
+// The least whole numbers in the ratio of the red parts, so many times, in this order or the other.
+formula ratio(int times, bool swapped = false) {
+    return [=](const reading& n) {
+        int left = 1, right = 1;
+        while (!same(left * n[1], right * n[0])) left* n[1] < right* n[0] ? ++left : ++right;
+        if (swapped) std::swap(left, right);
+        return regel(kaal(times * left), " :", times * right);
+    };
+}
+// The spokes cut both circles in as many parts as the fractions of the explanation say.
+void check_spokes(const reading& n) {
+    const auto parts = n.exercise.told("het \\d/(\\d) deel rood .* het \\d/(\\d) deel\\. ");
+    EXPECT_EQ(n.exercise.made.uitlegopdrachten[0], "PARTJES_3900_1000_" + parts.at(2) + "_");
+    EXPECT_EQ(n.exercise.made.uitlegopdrachten[1], "PARTJES_1500_1000_" + parts.at(1) + "_");
+}
+
+const formula one_in = v[1] + 3;
+
+const formula turned_by = [](const reading& n) { return n[2] == 0 ? n[0] : n[1]; };
+const formula turns = [](const reading& n) { return n[2] == 0 ? n[1] : n[0]; };
+const formula turned = v[3] * turned_by / turns;
+void check_gears(const reading& n) {
+    const auto gears = operations<polygon_op>(n.exercise, [](const polygon_op& p) { return p.filled; });
+    ASSERT_EQ(gears.size(), 2U);
+    EXPECT_LT(gears[0].corners[0].x, gears[1].corners[0].x);
+    for (std::size_t i = 0; i < 2; ++i) EXPECT_EQ(gears[i].corners.size(), 4 * n[i]);
+}
+
+// Of the four cars one is the cheapest for a kilometre; its fuel is not the cheapest, nor does it go farthest.
+void check_cars(const reading& n) {
+    const seen& e = n.exercise;
+    const std::vector<std::string> later = e.when_explained().words;
+    std::map<double, std::string> by_cost, by_price, by_distance;
+    for (std::size_t i = 0; i < 4; ++i) {
+        const std::string make = e.shown(4 * i, "Te koop: (.*), rijdt").at(1);
+        const double price = decimal(e.shown(4 * i + 1, "van (\\d+) eurocent").at(1));
+        const double distance = decimal(e.shown(4 * i + 2, "1 : (\\d+)\\.").at(1));
+        const double cost = rounded(price / distance, 1);
+        by_cost.emplace(cost, make);
+        by_price.emplace(price, make);
+        by_distance.emplace(-distance, make);
+        EXPECT_EQ(later.at(16 + i), regel(kaal(komma(afgerond(cost, 1), 1)), " eurocent per km"));
+    }
+    EXPECT_EQ(by_cost.begin()->second, e.right);
+    EXPECT_NE(by_price.begin()->second, e.right);
+    EXPECT_NE(by_distance.begin()->second, e.right);
+    EXPECT_GE(std::next(by_cost.begin())->first - by_cost.begin()->first, 0.19) << "hardly a difference";
+}
+
+const formula soil = v[1] / (v[0] + 1);
+
+const auto share = [](bool of_other, int slip) -> formula {
+    return [=](const reading& n) {
+        const bool first = (n.words[4] == n.words[0]) != of_other;
+        return n[2] / (n[0] + n[1]) * (first ? n[0] : n[1]) + slip;
+    };
+};
+
+const exercise_rows ratios{
+    {.id = B_huis_02_16_click,
+     .variants = 4,
+     .reads = "tot de voorkant de (grootste|kleinste) deur? * {groter|kleiner} is dan de andere?",
+     .ranges = {{{0, 0}}, {{1, 1}}, {{0, 0}}, {{1, 1}}},
+     .check = check_houses},
+    {.id = B_maatbeker_02_16_click,
+     .variants = 4,
+     .reads = "Voor welk deel is de maatbeker vol?",
+     .counts = {full_marks, all_marks},
+     .ranges = {{{1, 6}, {5, 8}}, {{1, 8}, {7, 10}}, {{1, 9}, {9, 13}}, {{1, 9}, {12, 16}}},
+     .right = says("#/#", v[0], v[1]),
+     .wrong = {{"lege gedeelte gekeken", says("#/#", v[1] - v[0], v[1])},
+               {"het lege deel vergeleken", says("#/#", v[0], v[1] - v[0])},
+               {"goed geteld", says("#/#", v[0] + 1, v[1])},
+               {"goed geteld", says("#/#", v[0] - 1, v[1])},
+               {"goed geteld", says("#/#", v[0], v[1] + 1)},
+               {"goed geteld", says("#/#", v[0], v[1] - 1)}},
+     .explains = {{"is in # gelijke", {v[1]}}, {"voor #/# deel gevuld. | # | #", {v[0], v[1], v[0], v[1]}}}},
+    {.id = B_vakantie_02_16_click,
+     .variants = 3,
+     .of = {1},
+     .reads = "inwoners van @. Hoeveel procent ging naar @? | VAKANTIEGANGERS | * uit @ | * | Een van de "
+              "(vier|vijf|acht|twintig|vijfentwintig|vijftig) ging naar @.",
+     .counts = {[](const reading& n) {
+         return std::array{25.0, 20.0, 12.5, 5.0, 4.0, 2.0}.at(static_cast<std::size_t>(n[0]));
+     }},
+     .words = {5, 6, 5, 6},
+     .right = v[1],
+     .wrong = {{"gaat juist niet naar dat land", 100 - v[1]}, {"Lees de vraag", lies::elsewhere}},
+     .explains = {{"verhouding van # : 100. Je kunt dan ook zeggen: #/100, ofwel # %", {v[1], v[1], v[1]}}},
+     .check = [](const reading& n) { EXPECT_TRUE(n.words[0] == n.words[2] && n.words[1] == n.words[3]); }},
+    {.id = B_vakantie_02_16_click,
+     .variants = 3,
+     .of = {2},
+     .reads = "inwoners van @. Hoeveel procent ging naar @? | VAKANTIEGANGERS | * uit @ | * | (Twee|Drie) van de "
+              "(vijf|vijfentwintig|acht|tien|twintig|vijftig) gingen naar het mooie @.",
+     .counts = {[](const reading& n) {
+         return (n[0] + 2) * std::array{20.0, 4.0, 12.5, 10.0, 5.0, 2.0}.at(static_cast<std::size_t>(n[1]));
+     }},
+     .ranges = {{{0, 1}, {0, 5}, {6, 40}}},
+     .words = {5, 6, 5, 6},
+     .right = v[2],
+     .wrong = {{"gaat juist niet naar dat land", 100 - v[2]}, {"Lees de vraag", lies::elsewhere}},
+     .explains = {{"verhouding van # : 100. Je kunt dan ook zeggen: #/100, ofwel # %", {v[2], v[2], v[2]}}},
+     .check = [](const reading& n) { EXPECT_TRUE(n.words[0] == n.words[2] && n.words[1] == n.words[3]); }},
+    {.id = B_vakantie_02_16_click,
+     .variants = 3,
+     .of = {3},
+     .reads = "ging naar @? | VAKANTIEGANGERS | * bezochten. | # van de # gingen naar het mooie @.",
+     .ranges = {{{1000, 57000}, {4000, 60000}}},
+     .words = {6, 6},
+     .right = v[0] * 100 / v[1],
+     .wrong = {{"gaat juist niet naar dat land", 100 - v[0] * 100 / v[1]}, {"Lees de vraag", lies::elsewhere}},
+     .explains = {{"# van de # inwoners is 't zelfde als", {v[0], v[1]}},
+                  {"verhouding van # : 100", {v[0] * 100 / v[1]}}}},
+    {.id = L_cirkels_02_16_click,
+     .variants = 7,
+     .reads = "rode gedeelten van de linker en de rechter cirkel? | links | rechts",
+     .counts = {red_part(0), red_part(1)},
+     .ranges = {{{1.0 / 3, 2.0 / 3}, {1.0 / 3, 2.0 / 3}},
+                {{0.25, 0.75}, {0.25, 0.75}},
+                {{0.25, 0.75}, {0.25, 0.75}},
+                {{1.0 / 6, 5.0 / 6}, {1.0 / 6, 5.0 / 6}},
+                {{1.0 / 6, 5.0 / 6}, {1.0 / 6, 5.0 / 6}},
+                {{0.125, 0.875}, {0.125, 0.875}},
+                {{0.125, 0.875}, {0.125, 0.875}}},
+     .right = ratio(1),
+     .wrong = {{"cirkels verwisseld", ratio(1, true)},
+               {"Je had moeten vereenvoudigen", ratio(2)},
+               {"Je had moeten vereenvoudigen", ratio(3)},
+               {"Bovendien moet je nog vereenvoudigen", ratio(2, true)},
+               {"Bovendien moet je nog vereenvoudigen", ratio(3, true)}},
+     .explains = {{"linker cirkel is voor het & deel rood gekleurd, De rechter cirkel voor het & deel", {v[0], v[1]}},
+                  {"De verhouding & : & kun je", {v[0], v[1]}}},
+     .check = check_spokes},
+    {.id = L_fietspad_1_02_16_click,
+     .variants = 5,
+     .reads = "heeft van # cm. De schaal is 1 : # Hoe lang is het fietspad in werkelijkheid? | 1 : $1",
+     .ranges = {{{2, 5}, {10000, 100000}},
+                {{3, 9}, {12000, 99000}},
+                {{7, 9}, {12000, 100000}},
+                {{12, 20}, {10000, 78000}},
+                {{16, 30}, {10000, 56000}}},
+     .right = says("# m", v[0] * v[1] / 100),
+     .wrong = {{"Je hebt gedeeld. Je had", says("# m", v[1] / v[0] / 100)},
+               {"aantal cm gekozen", says("# m", v[0] * v[1])},
+               {"bovendien ook zomaar meters", says("# m", v[1] / v[0])}},
+     .explains = {{"in werkelijkheid # cm. Het fietspad is # cm lang", {v[1], v[0]}},
+                  {"van # x # = # cm, ofwel # m.", {v[0], v[1], v[0] * v[1], v[0] * v[1] / 100}}}},
+    {.id = L_museum_02_16_click,
+     .variants = 5,
+     .reads = "gemiddeld # mensen. Eén op de (drie|vier|vijf|zes|zeven|acht|negen|tien|elf|twaalf|dertien|veertien|"
+              "vijftien|zestien|zeventien|achttien|negentien|twintig) bezoekers",
+     .ranges = {{{408, 4000, 12}, {0, 2}},
+                {{420, 3990}, {3, 5}},
+                {{440, 3960}, {6, 8}},
+                {{420, 3990}, {9, 12}},
+                {{420, 3978}, {13, 17}}},
+     .right = v[0] / one_in,
+     .wrong = {{"uit het buitenland komt", v[0] - v[0] / one_in},
+               {"Je hebt vermenigvuldigd", v[0] * one_in},
+               {"hoort zelf ook bij", v[0] / (v[1] + 4)}},
+     .explains = {{"er één buitenlander. Deel je"},
+                  {"Dus: # delen door # is # buitenl", {v[0], one_in, v[0] / one_in}}}},
+    {.id = M_fietspad_2_02_16_click,
+     .variants = 5,
+     .reads = "heeft van # km. Op de kaart is het fietspad # cm lang. * | 1 : ...",
+     .ranges = {{{1, 2}, {2, 20}}, {{3, 4}, {4, 40}}, {{5, 6}, {8, 40}}, {{7, 9}, {10, 40}}, {{1.5, 8.5}, {2, 35}}},
+     .right = says("1 : #", v[0] * 100000 / v[1]),
+     .wrong = {{"van kilometer naar centimeter", says("1 : #", v[0] * 10000 / v[1])},
+               {"van kilometer naar centimeter", says("1 : #", v[0] * 1000000 / v[1])},
+               {"vergeten van meters", says("1 : #", v[0] * 1000 / v[1])}},
+     .explains = {{"van # kilometer eerst centimeters. Dat is # cm", {v[0], v[0] * 100000}},
+                  {"dat # cm in werkelijkheid een afstand van # cm is.", {v[1], v[0] * 100000}}}},
+    {.id = M_tandwielen_02_16_click,
+     .variants = 2,
+     .reads = "linker tandwiel heeft # tanden, het rechter tandwiel heeft er #. Het (linker|rechter) tandwiel draait # "
+              "keer rond. Hoeveel keer draait het {rechter|linker} tandwiel dan rond? | $0 | $1",
+     .ranges = {{{8, 30}, {8, 30}, {0, 0}, {6, 60}}, {{8, 30}, {8, 30}, {1, 1}, {6, 60}}},
+     .right = turned,
+     .wrong = {{"", v[3] * turns / turned_by},
+               {"", v[3]},
+               {"", turned - 2},
+               {"", turned - 1},
+               {"", turned + 1},
+               {"", turned + 2}},
+     .explains = {{"Het grote tandwiel heeft # tanden, het kleine #.",
+                   {[](const reading& n) { return std::max(n[0], n[1]); },
+                    [](const reading& n) { return std::min(n[0], n[1]); }}},
+                  {"keer rond, maar # keer, dan", {v[3]}},
+                  {"= # keer rond.", {turned}}},
+     .tips = {"omgekeerd evenredig'.", "juist (minder|vaker)"},
+     .check = check_gears},
+    {.id = Z_brandstofverbruik_02_16_click,
+     .variants = 5,
+     .reads =
+         "Bij welke auto is de brandstofprijs per km het laagst? | Te koop: @, rijdt | op brandstof van # eurocent "
+         "per liter. | Brandstofverbruik  1 : #.",
+     .ranges = {{{60, 210, 9}, {7, 21}}},
+     .words = {17},
+     .tips = {"(Bereken eerst|Reken bij|Kijk niet alleen|Hoeveel eurocent)",
+              "(Deel daarvoor|1 : 15 betekent|Wat kost|De prijs van een liter gedeeld|Deel steeds)"},
+     .check = check_cars},
+    {.id = Z_tuinman_02_16_click,
+     .variants = 5,
+     .reads = "doet hij # kilogram turfmolm. * nodig om # kilogram tuinaarde te maken? | Groeten uit... @",
+     .ranges =
+         {{{2, 2}, {36, 240}}, {{3, 3}, {36, 240}}, {{4, 4}, {40, 240}}, {{5, 5}, {60, 240}}, {{6, 6}, {42, 210}}},
+     .words = {4},
+     .right = says("# kg", soil* v[0]),
+     .wrong = {{"kg potgrond berekend", says("# kg", soil)},
+               {"door het goede getal", says("# kg", v[1] / v[0])},
+               {"delen in plaats van", says("# kg", v[1] * v[0])}},
+     .explains = {{"potgrond met # kilogram turfmolm, dan heeft hij # kilogram", {v[0], v[0] + 1}},
+                  {"dat is # keer zo veel *want # delen door # is #", {soil, v[1], v[0] + 1, soil}}}},
+    {.id = Z_uitgaven_02_16_click,
+     .variants = 2,
+     .reads = "Familie @ gaat samen met familie @ een weekje uit. Famile @ bestaat uit # personen, familie @ uit # "
+              "personen. Ze geven bij elkaar € #,- uit. * Hoeveel moet familie @ betalen? |* ONKOSTEN | weekje @ | "
+              "familie @: $0 personen | familie @: $1 personen | samen: € $2,-",
+     .ranges = {{{2, 7}, {2, 7}, {150, 999, 6}}},
+     .words = {10, 10, 10, 10, 10, 8, 10, 10},
+     .right = share(false, 0),
+     .wrong = {{"familie berekend", share(true, 0)},
+               {"Heb je soms", share(false, 10)},
+               {"Heb je soms", share(false, -10)},
+               {"ook nog de verkeerde", share(true, 10)},
+               {"ook nog de verkeerde", share(true, -10)}},
+     .explains = {{"hebben samen # personen", {v[0] + v[1]}}, {"€ #,-/# =", {v[2], v[0] + v[1]}}},
+     .check =
+         [](const reading& n) {
+             const auto& w = n.words;
+             EXPECT_TRUE(w[0] == w[2] && w[0] == w[6] && w[1] == w[3] && w[1] == w[7]);
+             EXPECT_EQ(w[4], w[n.variant() == 1 ? 0 : 1]);
+         }},
+};
+
+} // namespace
+} // namespace cijferwerf
