@@ -211,22 +211,15 @@ protected:
     //                                         {korting, "Je hebt alleen de korting berekend."}, ...});
     template<class Value, class Vorm, class List = std::initializer_list<keuze<Value>>>
     void drie_andere(const Value& juist, Vorm vorm, const List& vergissingen) {
-        std::vector<const keuze<Value>*> andere;
-        andere.reserve(std::size(vergissingen));
-        for (const keuze<Value>& k : vergissingen) {
-            const bool komt_voor = std::any_of(andere.begin(), andere.end(),
-                                               [&k](const keuze<Value>* eerder) { return eerder->waarde == k.waarde; });
-            if (!komt_voor && k.waarde != juist && (k.waarde > Value{} || !(juist > Value{}))) andere.push_back(&k);
-        }
-        andere = geschud(std::move(andere));
-        const auto hoger = std::stable_partition(andere.begin(), andere.end(),
-                                                 [&](const keuze<Value>* k) { return k->waarde < juist; });
-        const auto lager = static_cast<int>(hoger - andere.begin());
-        const int eronder = trek_eronder(lager, static_cast<int>(andere.size()) - lager);
-        std::rotate(andere.begin() + eronder, hoger, andere.end()); // after those below come the first of those above
         goed(vorm(juist));
-        for (const keuze<Value>* k : geschud(std::array{andere[0], andere[1], andere[2]}))
-            fout_met(regel(vorm(k->waarde)), k->melding);
+        for (const keuze<Value>* k : kies_drie(juist, vergissingen)) fout_met(regel(vorm(k->waarde)), k->melding);
+    }
+    // The same four as options, the right one first, for kleurkeuze() and vier_rekenaars().
+    template<class Value, class Vorm, class List = std::initializer_list<keuze<Value>>>
+    std::array<keuze<>, 4> vier_opties(const Value& juist, Vorm vorm, const List& vergissingen) {
+        const auto [een, twee, drie] = kies_drie(juist, vergissingen);
+        const auto optie = [&vorm](const keuze<Value>* k) { return keuze<>{regel(vorm(k->waarde)), k->melding}; };
+        return {keuze<>{regel(vorm(juist))}, optie(een), optie(twee), optie(drie)};
     }
     // The right answer and three near it, some steps away; where it stands among the four in size is drawn evenly.
     // Nothing is 0 or less.
@@ -283,6 +276,23 @@ public:
 private:
     using vier_keuzes = std::array<const keuze<>*, 4>;
 
+    template<class Value, class List>
+    std::array<const keuze<Value>*, 3> kies_drie(const Value& juist, const List& vergissingen) {
+        std::vector<const keuze<Value>*> andere;
+        andere.reserve(std::size(vergissingen));
+        for (const keuze<Value>& k : vergissingen) {
+            const bool komt_voor = std::any_of(andere.begin(), andere.end(),
+                                               [&k](const keuze<Value>* eerder) { return eerder->waarde == k.waarde; });
+            if (!komt_voor && k.waarde != juist && (k.waarde > Value{} || !(juist > Value{}))) andere.push_back(&k);
+        }
+        andere = geschud(std::move(andere));
+        const auto hoger = std::stable_partition(andere.begin(), andere.end(),
+                                                 [&](const keuze<Value>* k) { return k->waarde < juist; });
+        const auto lager = static_cast<int>(hoger - andere.begin());
+        const int eronder = trek_eronder(lager, static_cast<int>(andere.size()) - lager);
+        std::rotate(andere.begin() + eronder, hoger, andere.end()); // after those below come the first of those above
+        return geschud(std::array{andere[0], andere[1], andere[2]});
+    }
     // Draws how many of three mistakes lie below the right answer, when so many do and so many lie above it.
     int trek_eronder(int lager, int hoger);
     void fout_met(std::string text, const melding& feedback);

@@ -119,6 +119,21 @@ number_text kaal(const number_text& number) {
 
 number_text kaal(long long number) { return kaal(tekst(number)); }
 
+void voeg_toe(std::string& line, long long number) {
+    std::array<char, 32> buffer{};
+    if (number < 0)
+        line += '-';
+    else if (!line.ends_with(' '))
+        line += ' ';
+    line += digits(magnitude(number), buffer);
+}
+
+void voeg_toe(std::string& line, const number_text& number) {
+    std::string_view text = number;
+    if (text.starts_with(' ') && line.ends_with(' ')) text.remove_prefix(1);
+    line += text;
+}
+
 double lees_getal(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     const bool negative = text.starts_with('-');

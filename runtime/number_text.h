@@ -76,22 +76,22 @@ double lees_getal(std::string_view text);
 template<class T>
 concept line_part = std::convertible_to<const T&, std::string_view> || whole_number<T>;
 
+// Puts a number behind a line, with its blank in front unless the line so far ends in one.
+void voeg_toe(std::string& line, long long number);
+void voeg_toe(std::string& line, const number_text& number);
+
 // Glues a line from its parts in the order in which they are read. A number, whole or in one of the forms above, has
 // its blank in front unless the line so far ends in one; texts go in as they stand.
 template<line_part... Parts>
 std::string regel(const Parts&... parts) {
     std::string line;
     line.reserve(64);
-    const auto add_number = [&line](std::string_view number) {
-        if (line.ends_with(' ') && number.starts_with(' ')) number.remove_prefix(1);
-        line += number;
-    };
-    const auto add = [&](const auto& part) {
+    const auto add = [&line](const auto& part) {
         using type = std::remove_cvref_t<decltype(part)>;
         if constexpr (whole_number<type>)
-            add_number(tekst(static_cast<long long>(part)));
+            voeg_toe(line, static_cast<long long>(part));
         else if constexpr (std::same_as<type, number_text>)
-            add_number(part);
+            voeg_toe(line, part);
         else
             line += std::string_view(part);
     };
@@ -105,7 +105,7 @@ std::string velden(const Parts&... parts) {
     std::string fields;
     const auto add = [&fields](const auto& part) {
         if (!fields.empty()) fields += '_';
-        fields += regel(kaal(part));
+        fields += std::string_view(kaal(part));
     };
     (add(parts), ...);
     return fields;
