@@ -99,7 +99,7 @@ void oefening::toon_opties(point plaats, int regelhoogte, int marge, const std::
         int optie_breedte = 0;
         for (std::size_t i = 0; i < 4; ++i) {
             woord_breedte = std::max(woord_breedte, text_width(woorden[i], punten));
-            optie_breedte = std::max(optie_breedte, breedte_met_machten(opties[i]->waarde, punten));
+            optie_breedte = std::max(optie_breedte, breedte_met_machten(kaal(opties[i]->waarde), punten));
         }
         kolom = marge + woord_breedte + std::max(2 * marge, 60);
         if (kolom + optie_breedte + marge <= breedte || punten <= 8) break;
@@ -115,7 +115,7 @@ void oefening::toon_opties(point plaats, int regelhoogte, int marge, const std::
             y += (hoogte - text_height(punten)) / 2;
         }
         druk(plaats.x + marge, y, woorden[i]);
-        druk_machten(plaats.x + kolom, y, opties[i]->waarde);
+        druk_machten(plaats.x + kolom, y, kaal(opties[i]->waarde));
         // "Erna......." answers as "Erna".
         const int plek = static_cast<int>(i) + 1;
         op_plaats(plek, woorden[i].substr(0, woorden[i].find_last_not_of(". ") + 1));

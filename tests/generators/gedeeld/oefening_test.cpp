@@ -24,6 +24,7 @@ struct proef : oefening {
     using oefening::opeenvolgend;
     using oefening::snel_som;
     using oefening::som_met_antwoord;
+    using oefening::vier_opties;
     using oefening::vier_rekenaars;
 
     void begin() {
@@ -95,6 +96,10 @@ TEST(mistakes, are_compared_by_value) {
     made.drie_andere(breuk{1, 2}, streepbreuk, {{{2, 4}}, {{1, 3}}, {{2, 6}}, {{5, 4}}, {{0, 3}}, {{-1, 3}}, {{1, 5}}});
     std::set<std::string> wrong{made.antwoord_2, made.antwoord_3, made.antwoord_4};
     EXPECT_EQ(wrong, (std::set<std::string>{"1/3", "5/4", "1/5"}));
+    const std::array options = made.vier_opties(3, tekst, {{4, {"fout 4"}}, {5, {"fout 5"}}, {6, {"fout 6"}}});
+    EXPECT_EQ(std::string_view(options[0].waarde), " 3");
+    for (std::size_t i = 1; i < 4; ++i)
+        EXPECT_EQ(regel("fout", options[i].waarde), std::string_view(options[i].melding[0]));
     EXPECT_TRUE(alle_verschillend(std::array{breuk{1, 2}, breuk{2, 3}, breuk{1, 3}}));
     EXPECT_FALSE(alle_verschillend(std::array{breuk{1, 2}, breuk{2, 3}, breuk{4, 6}}));
 }
