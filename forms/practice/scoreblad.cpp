@@ -64,10 +64,14 @@ void scoreblad::load() {
 void scoreblad::afdrukken_click() {
     const print_result result =
         buiten.print(score_report(forms_.globalen, forms_.get<mama>().opschriftbalk.caption, buiten.now()));
-    if (result.what == print_result::outcome::no_printer)
-        buiten.ask("Er is geen printer gevonden. Het rapport is niet afgedrukt.", caption, box_buttons::ok);
-    else if (result.what == print_result::outcome::failed)
-        buiten.ask("Het afdrukken is niet gelukt: " + result.reason, caption, box_buttons::ok);
+    const auto told = [&]() -> std::string {
+        switch (result.what) {
+        case print_result::outcome::no_printer: return "Er is geen printer gevonden. Het rapport is niet afgedrukt.";
+        case print_result::outcome::failed: return "Het afdrukken is niet gelukt: " + result.reason;
+        default: return "Het rapport is naar de printer gestuurd.";
+        }
+    };
+    buiten.ask(told(), caption, box_buttons::ok);
 }
 
 void scoreblad::Command1_click() {
