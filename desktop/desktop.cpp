@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDateTime>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
@@ -25,6 +26,42 @@ constexpr double box_points = 10.5;
 std::chrono::milliseconds steady_now() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now().time_since_epoch());
 }
+
+// A key that is held presses once, a mnemonic too, and closes no message box that its first press opened. Only what
+// moves about goes on.
+class held_keys : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        const auto type = event->type();
+        if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride) return false;
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (type == QEvent::KeyRelease) {
+            released_ = key.key();
+            released_at_ = key.timestamp();
+            return false;
+        }
+        if (!repeats(key) || moves(key.key())) return false;
+        event->accept(); // as taken here, it is no shortcut any more
+        return true;
+    }
+
+private:
+    // The X server repeats a key by releasing and pressing it in the same millisecond, which the toolkit only sees when
+    // it finds both at once.
+    bool repeats(const QKeyEvent& key) const {
+        const bool at_once = key.timestamp() != 0 && key.timestamp() == released_at_ && key.key() == released_;
+        return key.isAutoRepeat() || at_once;
+    }
+    static bool moves(int key) {
+        return key == Qt::Key_Tab || key == Qt::Key_Backtab || (key >= Qt::Key_Home && key <= Qt::Key_PageDown);
+    }
+
+    int released_ = 0;
+    std::uint64_t released_at_ = 0; // ms
+};
 
 } // namespace
 
@@ -143,7 +180,7 @@ void desktop::show(form& shown) {
             const double unit = beside != nullptr ? beside->unit() : 0;
             made->resize(unit > 0 ? (QSizeF(shown.width, shown.height) * unit).toSize() : comfortable_size(shown));
             made->setMinimumSize((QSizeF(shown.width, shown.height) * smallest_unit).toSize());
-            made->setParent(window_.get(), Qt::Window); // stays above the main one
+            made->setParent(window_.get(), Qt::Dialog); // stays above the main one and goes down with it
             if (beside != nullptr) made->move(window_->geometry().center() - made->rect().center());
         }
         made->show();
@@ -231,6 +268,7 @@ void prepare_application() {
 void dress_application() {
     QApplication::setApplicationName(QString::fromStdString(program_name));
     QApplication::setQuitOnLastWindowClosed(false);
+    qApp->installEventFilter(new held_keys(qApp));
     QApplication::setPalette(theme::palette());
     QFont font = twip_font(box_points);
     font.setPixelSize(14);

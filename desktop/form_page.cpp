@@ -1,14 +1,13 @@
 #include "desktop/form_page.h"
 
 #include "desktop/theme.h"
+#include "desktop/widgets.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <cmath>
@@ -16,119 +15,6 @@
 namespace cijferwerf {
 
 namespace {
-
-QString line_breaks(const std::string& caption) { return QString::fromStdString(caption).replace('\r', '\n'); }
-
-// The caption as Qt takes it for a button: "&" in front of the mnemonic, any other "&" doubled.
-QString with_mnemonic(const control& shown) {
-    QString caption = line_breaks(shown.caption);
-    const qsizetype at = shown.mnemonic != 0 ? caption.indexOf(QChar(shown.mnemonic), 0, Qt::CaseInsensitive) : -1;
-    const QString before = caption.left(at).replace('&', "&&");
-    return at < 0 ? before : before + '&' + caption.mid(at).replace('&', "&&");
-}
-
-// A standard widget that the theme paints.
-template<class Base>
-class painted : public Base {
-public:
-    painted(const control& shown, form_page& page) : Base(&page), shown_(shown), page_(page) {}
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        theme::state now{this->isEnabled(), this->underMouse(), false, this->hasFocus(), false};
-        QString caption;
-        if constexpr (std::derived_from<Base, QAbstractButton>) {
-            now.pressed = this->isDown();
-            now.selected = this->isChecked();
-        }
-        if constexpr (requires { this->text(); })
-            caption = this->text();
-        else
-            caption = line_breaks(shown_.caption);
-        QPainter on(this);
-        theme::paint(on, shown_, caption, this->size(), page_.unit(), now);
-    }
-    bool hitButton(const QPoint& at) const requires std::derived_from<Base, QAbstractButton> {
-        return this->rect().contains(at);
-    }
-
-private:
-    const control& shown_;
-    form_page& page_;
-};
-
-class picture_widget : public QWidget {
-public:
-    static constexpr int border = 1; // pixels around the picture
-
-    picture_widget(const picture_box& shown, form_page& page) : QWidget(&page), shown_(shown) {}
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter on(this);
-        on.fillRect(rect(), theme::edge);
-        paint_drawing(on, shown_, QRectF(rect().adjusted(border, border, -border, -border)), pictures_);
-    }
-
-private:
-    const picture_box& shown_;
-    picture_cache pictures_;
-};
-
-class list_widget : public QListWidget {
-public:
-    list_widget(const list_box& shown, form_page& page) : QListWidget(&page), shown_(shown), page_(page) {
-        setFrameShape(NoFrame);
-        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        setVerticalScrollMode(ScrollPerPixel);
-        setEditTriggers(NoEditTriggers);
-        setMouseTracking(true);
-        viewport()->setAutoFillBackground(false);
-        setItemDelegate(new entry_painter(*this));
-    }
-
-    // Fits the entries to the size of the page.
-    void lay_out() {
-        const int room = static_cast<int>(std::ceil(45 * page_.unit()));
-        setViewportMargins(room, room, room, room);
-        doItemsLayout();
-    }
-
-protected:
-    bool event(QEvent* event) override {
-        if (event->type() != QEvent::Paint) return QListWidget::event(event);
-        QPainter on(this);
-        theme::paint_edge(on, rect(), page_.unit(), {.enabled = isEnabled(), .focused = hasFocus()});
-        return true;
-    }
-
-private:
-    class entry_painter : public QStyledItemDelegate {
-    public:
-        explicit entry_painter(list_widget& list) : QStyledItemDelegate(&list), list_(list) {}
-
-        void paint(QPainter* on, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-            const theme::state now{.enabled = list_.isEnabled(),
-                                   .hovered = (option.state & QStyle::State_MouseOver) != 0,
-                                   .selected = index.row() == list_.currentRow()};
-            on->save();
-            theme::paint_entry(*on, list_.shown_, index.data().toString(), option.rect, list_.page_.unit(), now);
-            on->restore();
-        }
-        // Few entries stand wider apart than many.
-        QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
-            const double line = text_height(list_.shown_.font_size);
-            const double fair = (list_.shown_.height - 90.0) / std::max(1, list_.count());
-            return {0, static_cast<int>(std::clamp(fair, 1.35 * line, 1.75 * line) * list_.page_.unit())};
-        }
-
-    private:
-        list_widget& list_;
-    };
-
-    const list_box& shown_;
-    form_page& page_;
-};
 
 // The key as forms name it, or 0 where it is none of theirs (a blank is the focused button's).
 char form_key(const QKeyEvent& event) {
@@ -144,18 +30,6 @@ char form_key(const QKeyEvent& event) {
     const char16_t character = typed.size() == 1 ? typed[0].unicode() : u'\0';
     return character > ' ' && character < 0x7F ? static_cast<char>(character) : '\0';
 }
-
-bool is_button(const control& shown) {
-    return shown.kind == control_kind::button || shown.kind == control_kind::option_button;
-}
-
-// Enter on such a button presses it, or chooses it, also where the form lists Enter for another.
-bool keeps_enter(const control& shown) {
-    if (shown.kind == control_kind::option_button) return !static_cast<const option_button&>(shown).selected;
-    return shown.role == theme_role::action || shown.role == theme_role::main_action;
-}
-
-bool usable(const control& shown) { return shown.visible && shown.enabled; }
 
 } // namespace
 
@@ -226,8 +100,8 @@ void form_page::make_widget(control& shown) {
     }
     case control_kind::option_button: {
         auto* made = new painted<QRadioButton>(shown, *this);
-        made->setAutoExclusive(false); // the form's options are kept apart by select()
-        connect(made, &QRadioButton::clicked, this, [this, &shown] { select(static_cast<option_button&>(shown)); });
+        made->setAutoExclusive(false); // the form keeps its options apart
+        connect(made, &QRadioButton::clicked, this, [this, &shown] { clicked(shown); });
         widget = made;
         break;
     }
@@ -249,7 +123,7 @@ void form_page::make_widget(control& shown) {
     const QString index = shown.index ? QString::number(*shown.index) : QString();
     widget->setObjectName(QString::fromStdString(shown.name) + index);
     widget->installEventFilter(this);
-    if (!is_button(shown) && shown.kind != control_kind::list_box) {
+    if (!shown.is_button() && shown.kind != control_kind::list_box) {
         // What is no button is clicked with the pointer only: for the keyboard there is a button.
         if (shown.click) widget->setAttribute(Qt::WA_Hover);
         if (!shown.click && !shown.hover) widget->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -312,9 +186,9 @@ QWidget* form_page::next_focus() {
         for (const placed_control& placed : placed_)
             if (&placed.shown == form_.focus) return placed.widget;
     const auto lost = std::ranges::find(placed_, focusWidget(), &placed_control::widget);
-    if (lost == placed_.end() || usable(lost->shown)) return nullptr;
+    if (lost == placed_.end() || lost->shown.usable()) return nullptr;
     const auto fits = [&](const placed_control& placed) {
-        return placed.shown.name == lost->shown.name && usable(placed.shown);
+        return placed.shown.name == lost->shown.name && placed.shown.usable();
     };
     auto next = std::find_if(lost, placed_.end(), fits);
     if (next == placed_.end()) next = std::find_if(placed_.begin(), lost, fits);
@@ -343,42 +217,16 @@ void form_page::paintEvent(QPaintEvent* event) { QPainter(this).fillRect(event->
 // ---- from the widgets to the handlers ----
 
 void form_page::clicked(control& on) {
-    if (usable(on) && on.click) run_(on.click);
+    if (on.usable()) run_([this, &on] { form_.press(on); });
 }
 
-void form_page::select(option_button& selected) {
-    run_([this, &selected] {
-        for (control* other : form_.controls())
-            if (other->kind == control_kind::option_button) static_cast<option_button*>(other)->selected = false;
-        selected.selected = true;
-        if (selected.click) selected.click();
-    });
-}
-
-// True when the key is dealt with. A list box, an action button and an option not yet chosen keep Enter; a key that a
-// control of the form lists presses that one wherever the focus is; Enter then presses what has the focus, as the blank
-// does.
+// True when the key is dealt with. The blank on a button is left to the widget.
 bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
-    const char key = form_key(event);
-    const bool chosen = key == '\r' || (event.key() == Qt::Key_Space && focused != nullptr && !is_button(*focused));
-    if (key == 0 && !chosen) return false;
-    if (event.isAutoRepeat()) return true; // a key that is held presses once
-
-    if (key == '\r' && focused != nullptr && focused->kind == control_kind::list_box) {
-        const auto& list = static_cast<const list_box&>(*focused);
-        if (usable(list) && list.keypress) run_([&list] { list.keypress(list_box::enter_key); });
-        return true;
-    }
+    const bool blank = event.key() == Qt::Key_Space && focused != nullptr && !focused->is_button();
+    const char key = blank ? ' ' : form_key(event);
     bool pressed = false;
-    const bool kept = key == '\r' && focused != nullptr && keeps_enter(*focused);
-    if (key != 0 && !kept) run_([&] { pressed = form_.press(key); });
-    if (pressed) return true;
-    if (!chosen || focused == nullptr || !usable(*focused) || focused->kind == control_kind::list_box) return false;
-    if (focused->kind == control_kind::option_button)
-        select(static_cast<option_button&>(*focused));
-    else
-        clicked(*focused);
-    return true;
+    if (key != 0) run_([&] { pressed = form_.key(key, focused); });
+    return pressed;
 }
 
 // The second press of a double click whose first opened this page: meant for what stood there before.
@@ -393,7 +241,7 @@ bool form_page::eventFilter(QObject* watched, QEvent* event) {
     if (placed == placed_.end() || updating_) return false;
     control& on = placed->shown;
     const auto hover = [this, &on] {
-        if (on.hover && usable(on)) run_(on.hover);
+        if (on.hover && on.usable()) run_(on.hover);
     };
     switch (event->type()) {
     case QEvent::KeyPress: return key_pressed(&on, static_cast<QKeyEvent&>(*event));
@@ -405,7 +253,7 @@ bool form_page::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::MouseButtonRelease: {
         const auto& mouse = static_cast<QMouseEvent&>(*event);
-        if (!is_button(on) && pressed_ == watched && mouse.button() == Qt::LeftButton &&
+        if (!on.is_button() && pressed_ == watched && mouse.button() == Qt::LeftButton &&
             placed->widget->rect().contains(mouse.pos()))
             clicked(on);
         break;

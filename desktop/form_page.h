@@ -41,7 +41,6 @@ private:
     QWidget* next_focus();
     void lay_out(placed_control& placed);
     void clicked(control& on);
-    void select(option_button& selected);
     bool key_pressed(control* focused, const QKeyEvent& event);
     bool stray_click(QObject* on, const QEvent& event);
 

@@ -54,18 +54,14 @@ look at_rest(const control& shown) {
     }
 }
 
-bool is_button(const control& shown) {
-    return shown.kind == control_kind::button || shown.kind == control_kind::option_button;
-}
-
 look look_of(const control& shown, const state& now) {
     look drawn = at_rest(shown);
     if (shown.colour)
         drawn.text = shown.role == theme_role::heading ? QColor(kleur_rgb[*shown.colour]) : text_colour(*shown.colour);
     if (!now.enabled) {
         drawn.text = grey_ink;
-        if (is_button(shown)) drawn.fill = grey_fill, drawn.edge = grey_edge;
-    } else if (is_button(shown)) {
+        if (shown.is_button()) drawn.fill = grey_fill, drawn.edge = grey_edge;
+    } else if (shown.is_button()) {
         if (shown.role == theme_role::main_action) {
             if (now.hovered || now.pressed) drawn.fill = drawn.edge = accent_dark;
         } else if (now.pressed)
@@ -139,7 +135,7 @@ const drawing* mark_of(const control& shown) {
 
 // Where the caption of a control stands in its box.
 int alignment(const control& shown) {
-    if (is_button(shown)) return Qt::AlignCenter;
+    if (shown.is_button()) return Qt::AlignCenter;
     if (shown.kind == control_kind::label && static_cast<const label&>(shown).right_aligned)
         return Qt::AlignRight | Qt::AlignVCenter;
     if (shown.role == theme_role::title) return Qt::AlignHCenter | Qt::AlignVCenter;
@@ -170,7 +166,7 @@ QColor text_colour(kleur colour) {
 int padding(const control& shown) {
     using enum theme_role;
     if (shown.role == answer_button) return 0; // its letter stands in the middle
-    const bool edged = is_button(shown) || shown.role == readout || shown.role == hint ||
+    const bool edged = shown.is_button() || shown.role == readout || shown.role == hint ||
                        shown.kind == control_kind::list_box || shown.kind == control_kind::frame;
     return edged ? 105 : 0;
 }
@@ -206,7 +202,7 @@ void paint(QPainter& on, const control& shown, const QString& caption, QSizeF si
     const double side = padding(shown) * unit;
     const double top = shown.kind == control_kind::frame ? side / 2 : 0;
     int flags = alignment(shown);
-    if (is_button(shown)) flags |= Qt::TextShowMnemonic;
+    if (shown.is_button()) flags |= Qt::TextShowMnemonic;
     if (shown.height > 2.5 * text_height(shown.font_size)) flags |= Qt::TextWordWrap;
     paint_text(on, box.adjusted(side, top, -side, 0), unit, flags, caption, font(shown), drawn.text);
 }

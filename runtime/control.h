@@ -64,6 +64,10 @@ struct control {
 
     std::function<void()> click;
     std::function<void()> hover; // the pointer, or the keyboard focus, came upon it
+
+    bool usable() const { return visible && enabled; }
+    bool takes_clicks() const { return click || kind == control_kind::option_button; }
+    bool is_button() const { return kind == control_kind::button || kind == control_kind::option_button; }
 };
 
 struct label : control {
@@ -73,12 +77,13 @@ struct label : control {
 
 struct button : control {
     button() : control(control_kind::button) {}
+    bool keeps_enter = true;     // Enter on it presses it, also where the form lists Enter for another
     std::optional<drawing> mark; // a small drawing above the caption, of drawing::inner_width by drawing::inner_height
 };
 
 struct option_button : control {
     option_button() : control(control_kind::option_button) {}
-    bool selected = false; // the front end keeps at most one of a form selected
+    bool selected = false; // at most one of a form is (see form::press)
     std::optional<drawing> mark;
 };
 

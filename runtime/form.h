@@ -29,9 +29,14 @@ public:
     // The window manager asks to close the form's window.
     virtual void close_requested() { unload(); }
 
-    // Presses the first visible and enabled control that lists this key; false when none does. Keys are the
-    // characters that they type, upper case; Enter is "\r", Escape "\x1b" and Delete "\x7f".
-    bool press(char key);
+    // What a click on a control does, or its mnemonic: an option is chosen, alone of all, and takes the focus; then its
+    // handler is called. Nothing where it is hidden or disabled.
+    void press(control& pressed);
+    // What a key does while this control (or none, null) has the focus; false when nothing. Keys are the characters
+    // that they type, upper case; Enter is "\r", Escape "\x1b" and Delete "\x7f". Enter in a list is the list's; a
+    // button may keep Enter, and an option that is not chosen does; any other key, and Enter, presses the first usable
+    // control that lists it; Enter that none lists presses what has the focus, and so does the blank.
+    bool key(char pressed, control* focused);
 
     const std::string& name() const { return name_; }
     const std::vector<control*>& controls() const { return controls_; } // in tab order

@@ -1,8 +1,8 @@
 #include "forms/introduction/infoscherm.h"
 
+#include "forms/marks.h"
 #include "forms/practice/catalogue.h"
 #include "forms/practice/mama.h"
-#include "forms/shell/marks.h"
 
 namespace cijferwerf {
 

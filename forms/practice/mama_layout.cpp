@@ -62,6 +62,7 @@ void mama::leg_controls_neer() {
     for (int i = 1; i <= 4; ++i) {
         add(knop[i], "knop", {}, answer_button, antwoordletter(i));
         knop[i].font_size = 13;
+        knop[i].keeps_enter = false;
         add(alternatief[i], "alternatief", {}, answer);
         knop[i].click = [this, i] { knop_click(i); };
         alternatief[i].click = [this, i] { alternatief_click(i); };
@@ -122,6 +123,7 @@ void mama::leg_toetsen_neer() {
             add(k[i], "k", {6935 + column * 742, 3795 + row * 405, 718, 360}, i <= 10 ? key : operator_key,
                 std::string(toetsen[i].face));
             k[i].keys = toetsen[i].keys;
+            k[i].keeps_enter = false; // Enter is "=" on every key
             k[i].accessible_name = toetsen[i].spoken;
             k[i].click = [this, i] { k_click(i); };
         }

@@ -1,7 +1,7 @@
 #include "forms/shell/codering.h"
 
+#include "forms/marks.h"
 #include "forms/shell/colofon.h"
-#include "forms/shell/marks.h"
 
 namespace cijferwerf {
 
@@ -26,8 +26,6 @@ codering::codering(outside& with, formulieren& forms) : form(with, "codering"), 
     CL_label.font_size = SW_label.font_size = 11;
     CLgekozen.keys = "1";
     SWgekozen.keys = "2";
-    CLgekozen.click = [this] { CLgekozen_click(); };
-    SWgekozen.click = [this] { SWgekozen_click(); };
 
     add(verder, "verder", {5040, 6120, 2400, 600}, main_action, "verder");
     verder.font_size = 13;
@@ -42,16 +40,6 @@ codering::codering(outside& with, formulieren& forms) : form(with, "codering"), 
 void codering::load() {
     CLgekozen.selected = SWgekozen.selected = false;
     focus = &CLgekozen;
-}
-
-void codering::CLgekozen_click() {
-    CLgekozen.selected = true;
-    SWgekozen.selected = false;
-}
-
-void codering::SWgekozen_click() {
-    SWgekozen.selected = true;
-    CLgekozen.selected = false;
 }
 
 void codering::verder_click() {

@@ -12,8 +12,6 @@ public:
 
     void close_requested() override { forms_.vraag_of_stoppen(); }
 
-    void CLgekozen_click();
-    void SWgekozen_click();
     void verder_click();
     void stoppen_click() { forms_.vraag_of_stoppen(); }
 

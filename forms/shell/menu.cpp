@@ -1,8 +1,8 @@
 #include "forms/shell/menu.h"
 
+#include "forms/marks.h"
 #include "forms/practice/mama.h"
 #include "forms/shell/codering.h"
-#include "forms/shell/marks.h"
 
 namespace cijferwerf {
 

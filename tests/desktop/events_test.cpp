@@ -101,7 +101,7 @@ TEST_F(events, clicks_while_a_handler_runs_are_not_let_in) {
     EXPECT_EQ(screen.log, "knop ");
 }
 
-TEST_F(events, keys_go_to_the_list_the_form_or_the_focused_button) {
+TEST_F(events, keys_go_to_the_form_with_what_has_the_focus) {
     widget("lijst").setFocus();
     type(outside, screen, Qt::Key_Down);
     type(outside, screen, Qt::Key_Enter, Qt::KeypadModifier);
@@ -111,18 +111,30 @@ TEST_F(events, keys_go_to_the_list_the_form_or_the_focused_button) {
     type(outside, screen, Qt::Key_Return); // the form lists Enter for the button
     EXPECT_EQ(screen.log, "toets13 knop klik knop ");
     EXPECT_EQ(screen.lijst.selected, 1);
+}
 
+TEST_F(events, a_key_that_is_held_presses_once) {
+    const auto hold = [this](int key, Qt::KeyboardModifiers with) {
+        for (const bool repeated : {false, true, true}) {
+            QTest::simulateEvent(outside.page(screen)->focusWidget(), true, key, with, {}, repeated);
+            QTest::qWait(150); // a mnemonic takes a tenth of a second
+        }
+    };
     widget("uitgang").setFocus();
-    type(outside, screen, Qt::Key_Return); // but an action button keeps Enter
-    EXPECT_EQ(screen.log, "toets13 knop klik knop uitgang ");
-
-    screen.knop.keys.clear();
-    screen.log.clear();
-    widget("klik").setFocus();
-    type(outside, screen, Qt::Key_Return);
-    widget("links").setFocus();
-    type(outside, screen, Qt::Key_Return);
-    EXPECT_EQ(screen.log, "klik links ");
+    hold(Qt::Key_Return, {});
+    for (int deliberate = 0; deliberate < 2; ++deliberate) hold(Qt::Key_B, Qt::AltModifier);
+    // Released and pressed in the same millisecond, as the X server repeats a key.
+    for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress}) {
+        QKeyEvent event(type, Qt::Key_Return, {}, "\r");
+        event.setTimestamp(5000);
+        QApplication::sendEvent(&widget("uitgang"), &event);
+    }
+    EXPECT_EQ(screen.log, "uitgang knop knop ");
+    widget("lijst").setFocus();
+    hold(Qt::Key_Up, {});
+    EXPECT_EQ(screen.lijst.selected, 0);
+    hold(Qt::Key_Down, {});
+    EXPECT_EQ(screen.lijst.selected, 2) << "what moves goes on";
 }
 
 TEST_F(events, the_tab_key_goes_through_the_controls_in_the_order_of_the_form) {

@@ -77,13 +77,6 @@ TEST_F(practice_screen, is_worked_with_the_mouse_alone) {
     EXPECT_EQ(forms.globalen.gekozen_oefening, "alcohol");
 }
 
-TEST_F(practice_screen, a_held_enter_key_answers_nothing) {
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, "\r", true);
-    press(Qt::Key_Return);
-    QApplication::sendEvent(outside.page(screen)->focusWidget(), &held);
-    EXPECT_EQ(screen.pogingen, 0);
-}
-
 TEST_F(practice_screen, focus_stays_among_the_answers_after_a_wrong_one) {
     press(Qt::Key_Return);
     for (int i = 4; i >= 1; --i) {

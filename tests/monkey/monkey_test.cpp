@@ -15,8 +15,6 @@ namespace {
 constexpr int events = 100'000;
 constexpr int most_titles = 21; // in one list
 
-bool usable(const control& c) { return c.visible && c.enabled; }
-
 class monkey : public practising {
 protected:
     // ---- what it does ----
@@ -60,7 +58,7 @@ protected:
         }
         std::vector<control*> choices;
         for (control* each : on.controls())
-            if (usable(*each) && (each->click || each->hover)) choices.push_back(each);
+            if (each->usable() && (each->takes_clicks() || each->hover)) choices.push_back(each);
         if (choices.empty()) return "nothing";
         control& chosen = *choices[static_cast<std::size_t>(draw(static_cast<int>(choices.size())))];
         // Most of the time it stays on the practice screen, where most can go wrong.
@@ -128,7 +126,7 @@ protected:
             EXPECT_TRUE(background.Timer1.enabled) << "the background form leads nowhere";
             return;
         }
-        EXPECT_TRUE(std::ranges::any_of(on.controls(), [](const control* c) { return usable(*c) && c->click; }))
+        EXPECT_TRUE(std::ranges::any_of(on.controls(), [](const control* c) { return c->usable() && c->click; }))
             << on.name() << " is a dead end";
     }
 

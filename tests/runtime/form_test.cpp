@@ -10,17 +10,27 @@ public:
     explicit test_form(outside& with) : form(with, "test") {
         add(first, "first", {0, 0, 100, 100}, theme_role::action, "first");
         add(second, "second", {0, 200, 100, 100}, theme_role::action, "second");
+        add(words, "words", {0, 400, 100, 100}, theme_role::body, "words");
+        add(list, "list", {0, 600, 100, 100}, theme_role::list);
+        add(chosen, "chosen", {200, 0, 100, 100}, theme_role::choice, "chosen");
+        add(other, "other", {200, 200, 100, 100}, theme_role::choice, "other");
         add(clock, "clock", 1000);
         first.keys = "A1";
         second.keys = "A2";
         first.click = [this] { events += "first "; };
         second.click = [this] { events += "second "; };
+        words.click = [this] { events += "words "; };
+        list.keypress = [this](int key) { events += "list" + std::to_string(key) + " "; };
+        other.click = [this] { events += "other "; };
         clock.tick = [this] { events += "tick "; };
     }
     void load() override { events += "load "; }
     void activate() override { events += "activate "; }
 
     button first, second;
+    label words;
+    list_box list;
+    option_button chosen, other;
     timer clock;
     std::string events;
 };
@@ -40,18 +50,48 @@ TEST(form, is_loaded_again_only_after_it_was_unloaded_and_activated_only_when_op
     EXPECT_EQ(outside.shown.size(), 3U);
 }
 
-TEST(form, a_key_presses_the_first_control_that_can_be_pressed) {
+// What a key does depends on what has the focus.
+TEST(form, a_key_goes_to_the_list_the_button_that_keeps_it_or_the_control_that_lists_it) {
     fake_outside outside;
     test_form screen(outside);
     screen.show();
+    screen.second.keys = "A2\r";
+    screen.second.keeps_enter = false;
+    screen.chosen.selected = true;
+    const struct {
+        char key;
+        control* focused;
+        const char* happens;
+    } rows[]{
+        {'A', nullptr, "first "},          {'2', &screen.list, "second "},  {'3', &screen.first, ""},
+        {'\r', nullptr, "second "},        {'\r', &screen.first, "first "}, {'\r', &screen.list, "list13 "},
+        {'\r', &screen.chosen, "second "}, {'\r', &screen.other, "other "}, {' ', &screen.words, "words "},
+        {'\r', &screen.words, "second "},  {' ', &screen.list, ""},
+    };
+    for (const auto& row : rows) {
+        screen.events.clear();
+        EXPECT_EQ(screen.key(row.key, row.focused), *row.happens != '\0') << row.key;
+        EXPECT_EQ(screen.events, row.happens) << row.key;
+        screen.press(screen.chosen);
+    }
+
     screen.events.clear();
-    EXPECT_TRUE(outside.press(screen, 'A'));
-    screen.first.enabled = false;
-    EXPECT_TRUE(outside.press(screen, 'A'));
-    EXPECT_FALSE(outside.press(screen, '1'));
-    screen.second.visible = false;
-    EXPECT_FALSE(outside.press(screen, '2'));
-    EXPECT_EQ(screen.events, "first second ");
+    screen.first.enabled = screen.second.visible = false;
+    EXPECT_FALSE(outside.press(screen, 'A'));
+    EXPECT_FALSE(screen.key('\r', &screen.first));
+    EXPECT_EQ(screen.events, "");
+}
+
+TEST(form, an_option_is_chosen_alone_and_takes_the_focus) {
+    fake_outside outside;
+    test_form screen(outside);
+    screen.show();
+    for (option_button* each : {&screen.chosen, &screen.other}) {
+        outside.click(*each);
+        EXPECT_TRUE(each->selected);
+        EXPECT_NE(screen.chosen.selected, screen.other.selected);
+        EXPECT_EQ(screen.focus, each);
+    }
 }
 
 TEST(form, a_control_array_ends_the_run_at_an_index_it_does_not_have) {

@@ -1,9 +1,9 @@
 // From the start to the practice screen: the choice of a set, the credits, the menus, and the ways to stop.
 #include "forms/introduction/infoscherm.h"
+#include "forms/marks.h"
 #include "forms/shell/achtergrond.h"
 #include "forms/shell/codering.h"
 #include "forms/shell/colofon.h"
-#include "forms/shell/marks.h"
 #include "forms/shell/menu.h"
 
 #include "tests/support/operation_text.h"

@@ -31,22 +31,22 @@ public:
 
     // ---- what a pupil does; false when the screen does not let it happen ----
     bool click(control& clicked) {
-        return usable(clicked) && clicked.click && gate_.handle([&] { clicked.click(); });
+        return clicked.usable() && clicked.takes_clicks() && gate_.handle([&] { press(clicked); });
     }
     bool hover(control& under_pointer) {
-        return usable(under_pointer) && under_pointer.hover && gate_.handle([&] { under_pointer.hover(); });
+        return under_pointer.usable() && under_pointer.hover && gate_.handle([&] { under_pointer.hover(); });
     }
     bool press(form& in, char key) {
         bool pressed = false;
-        return gate_.handle([&] { pressed = in.press(key); }) && pressed;
+        return gate_.handle([&] { pressed = in.key(key, nullptr); }) && pressed;
     }
     bool pick(list_box& list, int item) {
-        if (!usable(list)) return false;
+        if (!list.usable()) return false;
         list.selected = item;
         return click(list);
     }
     bool pick_by_enter(list_box& list, int item) {
-        if (!usable(list)) return false;
+        if (!list.usable()) return false;
         list.selected = item;
         return gate_.handle([&] { list.keypress(list_box::enter_key); });
     }
@@ -90,7 +90,11 @@ public:
     void end() override { ended = true; }
 
 private:
-    static bool usable(const control& c) { return c.visible && c.enabled; }
+    void press(control& pressed) {
+        for (form* each : shown)
+            if (std::ranges::find(each->controls(), &pressed) != each->controls().end()) return each->press(pressed);
+        pressed.click();
+    }
 
     event_gate::milliseconds clock_{0};
     event_gate gate_{[this] { return clock_; }};

@@ -1,4 +1,4 @@
-#include "forms/shell/marks.h"
+#include "forms/marks.h"
 
 #include "globals/globalen.h"
 
