@@ -1,8 +1,11 @@
-// What the toolkit itself costs: a window of the program's size with as many plain widgets as the practice screen has.
+// What the toolkit itself costs: a window with as many plain widgets as the practice screen has.
+// usage: bare_window WIDTH HEIGHT   in pixels
 #include <QApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+
+#include <cstdlib>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -13,7 +16,7 @@ int main(int argc, char** argv) {
             i % 2 == 0 ? static_cast<QWidget*>(new QLabel(QString::number(i))) : new QPushButton(QString::number(i));
         grid.addWidget(widget, i / 6, i % 6);
     }
-    window.resize(832, 520);
+    if (argc == 3) window.resize(std::atoi(argv[1]), std::atoi(argv[2]));
     window.show();
     return QApplication::exec();
 }

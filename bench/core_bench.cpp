@@ -1,17 +1,31 @@
-// How fast exercises are made and presented, without a screen; and, for the ratio, how long it takes to build the
-// strings of one record and do nothing else.
+// How fast exercises are made and presented, without a screen, against how fast the strings of one record are built and
+// nothing else is done. All run in turn, several times; the last line is the ratio of the medians, and the exit status
+// is 1 when it is below what is demanded.
 #include "forms/practice/mama.h"
-
-#include "tests/support/fake_outside.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <cstdio>
+#include <map>
 
 namespace {
 
 using namespace cijferwerf;
 
 constexpr float fixed_clock = 36'000;
+constexpr double least_ratio = 0.65; // of make_exercises to reference_record_of_strings
+
+// A front end with nothing behind it.
+class nowhere : public outside {
+public:
+    void show(form&) override {}
+    void unload(form&) override {}
+    box_answer ask(const std::string&, const std::string&, box_buttons) override { return box_answer::ok; }
+    print_result print(const report&) override { return {}; }
+    float seconds_since_midnight() const override { return fixed_clock; }
+    local_time now() const override { return {}; }
+    void end() override {}
+};
 
 // The generators that leave a question.
 std::vector<oefening_id> finished() {
@@ -40,7 +54,7 @@ void make_exercises(benchmark::State& state) {
 BENCHMARK(make_exercises);
 
 void present_exercises(benchmark::State& state) {
-    fake_outside outside;
+    nowhere outside;
     formulieren forms(outside);
     forms.globalen.gekozen_pakket = booklet_set;
     forms.globalen.gekozen_onderdeel = "boekje01";
@@ -79,6 +93,34 @@ void reference_record_of_strings(benchmark::State& state) {
 }
 BENCHMARK(reference_record_of_strings);
 
+// Also keeps the medians, to tell the ratio of two.
+class reporter : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& runs) override {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs)
+            if (run.aggregate_name == "median")
+                per_second_[run.run_name.function_name] = run.counters.at("items_per_second");
+    }
+    double ratio(const std::string& of, const std::string& to) { return per_second_[of] / per_second_[to]; }
+
+private:
+    std::map<std::string, double> per_second_;
+};
+
 } // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+    std::vector<char*> arguments(argv, argv + argc);
+    std::string defaults[]{"--benchmark_repetitions=9", "--benchmark_enable_random_interleaving=true",
+                           "--benchmark_display_aggregates_only=true", "--benchmark_min_time=0.2"};
+    for (std::string& option : defaults) arguments.insert(arguments.begin() + 1, option.data());
+    int count = static_cast<int>(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) return 2;
+    reporter seen;
+    benchmark::RunSpecifiedBenchmarks(&seen);
+    const double ratio = seen.ratio("make_exercises", "reference_record_of_strings");
+    std::printf("make_exercises / reference_record_of_strings: %.2f (at least %.2f)\n", ratio, least_ratio);
+    return ratio < least_ratio ? 1 : 0;
+}

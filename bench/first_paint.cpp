@@ -1,6 +1,7 @@
 // Starts a program and tells how long it took until its window was mapped and until it showed something, and what
-// memory it then holds. Waits for events of the X server only, so the program is not slowed down by being watched.
-// usage: first_paint PROGRAM [ARGUMENT]...   prints: MAPPED_MS PAINTED_MS RESIDENT_KIB
+// memory it then holds and how large the window is. Waits for events of the X server only, so the program is not slowed
+// down by being watched. usage: first_paint PROGRAM [ARGUMENT]...   prints: MAPPED_MS PAINTED_MS RESIDENT_KIB WIDTH
+// HEIGHT
 #include <xcb/damage.h>
 #include <xcb/xcb.h>
 
@@ -70,6 +71,7 @@ public:
     bool is_painted() const { return painted != steady_clock::time_point(); }
 
     steady_clock::time_point mapped, painted; // once they happened
+    std::uint16_t width = 0, height = 0;      // in pixels, of the window when it was mapped
 
 private:
     void watch(xcb_window_t window) {
@@ -77,6 +79,8 @@ private:
             xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, window), nullptr)};
         if (!geometry || geometry->width < least_width || geometry->height < least_height) return;
         mapped = steady_clock::now();
+        width = geometry->width;
+        height = geometry->height;
         window_ = window;
         damage_ = xcb_generate_id(connection_);
         xcb_damage_create(connection_, damage_, window, XCB_DAMAGE_REPORT_LEVEL_NON_EMPTY);
@@ -150,6 +154,6 @@ int main(int argc, char** argv) {
     const long resident = resident_kib(child);
     kill(child, SIGTERM);
     waitpid(child, nullptr, 0);
-    std::printf("%.1f %.1f %ld\n", milliseconds(screen.mapped - begin).count(),
-                milliseconds(screen.painted - begin).count(), resident);
+    std::printf("%.1f %.1f %ld %d %d\n", milliseconds(screen.mapped - begin).count(),
+                milliseconds(screen.painted - begin).count(), resident, screen.width, screen.height);
 }
