@@ -158,7 +158,7 @@ void oefeningen::L_marathon_03_03_click() {
     plaatje.filled_box(1000, 1370, 3380, 50, rood);
 
     vraag(regel("Bij de marathon van ", stad, " zijn"),
-          regel("op een zeker moment ", kaal(duizend(gefinisht)), " deelnemers"),
+          regel("op een zeker moment ", duizend(gefinisht), " deelnemers"),
           regel("door de finish. Dat is", deel.teller, "/", kaal(deel.noemer), " van"), "alle gestarte deelnemers.",
           leeg, "Hoeveel zijn er van start gegaan?");
 
@@ -170,11 +170,10 @@ void oefeningen::L_marathon_03_03_click() {
 
     uitleg(regel("Er zijn", duizend(gefinisht), " deelnemers door de finish. Dat was ", streepbreuk(deel), " deel"),
            regel("van alle deelnemers. Je moet dus ", alles, " deel weten."),
-           regel("Je rekent het 1/", kaal(deel.noemer), " deel uit door ", kaal(duizend(gefinisht)), " te delen door",
+           regel("Je rekent het 1/", kaal(deel.noemer), " deel uit door ", duizend(gefinisht), " te delen door",
                  deel.teller, "."),
            regel("Dat zijn", duizend(een_deel), " deelnemers. Tot slot reken je het"),
-           regel(alles, " deel uit door", deel.noemer, " x", duizend(een_deel), " = ", kaal(duizend(gestart)),
-                 " te doen."));
+           regel(alles, " deel uit door", deel.noemer, " x", duizend(een_deel), " = ", duizend(gestart), " te doen."));
 }
 
 void oefeningen::L_stukken_03_14_click() {

@@ -48,7 +48,7 @@ void oefeningen::B_helen_03_03_click() {
                     : regel("Daar gaat nog ", streepbreuk(deel), " af."),
            regel("Dan heb je in totaal", stukken, optellen ? " +" : " -", deel.teller, " =", samen, " stukken van ",
                  stuk, "."),
-           regel("Op de punt moet dus een ", kaal(samen), " staan."));
+           regel("Op de punt moet dus een ", samen, " staan."));
 }
 
 void oefeningen::L_helen_maken_03_03_click() {

@@ -114,16 +114,14 @@ void oefeningen::M_olievat_03_06_click() {
                  {over + 100}, // borrowed wrongly
                  {over - 100}});
     tip_1(kwarten.tip);
-    tip_2(
-        regel("Bedenk dat ", streepbreuk(deel), " liter hetzelfde is als ", kaal(getal(kwarten.eruit * 25)), " liter."),
-        "Doe daarna een aftrekking.");
+    tip_2(regel("Bedenk dat ", streepbreuk(deel), " liter hetzelfde is als ", getal(kwarten.eruit * 25), " liter."),
+          "Doe daarna een aftrekking.");
 
-    uitleg("Om deze som te maken moet je gelijksoortige breuken",
-           regel("maken. Maak dus van ", liter_breuk, " een breuk met een komma."),
-           regel("Dat wordt dus", getal(eruit), " liter."),
-           regel("Dit moet je aftrekken van", getal(in_vat), " liter."),
-           regel("Dan krijg je", getal(in_vat), " -", getal(eruit), " liter, wat gelijk is aan ", kaal(getal(over)),
-                 " liter."));
+    uitleg(
+        "Om deze som te maken moet je gelijksoortige breuken",
+        regel("maken. Maak dus van ", liter_breuk, " een breuk met een komma."),
+        regel("Dat wordt dus", getal(eruit), " liter."), regel("Dit moet je aftrekken van", getal(in_vat), " liter."),
+        regel("Dan krijg je", getal(in_vat), " -", getal(eruit), " liter, wat gelijk is aan ", getal(over), " liter."));
 }
 
 void oefeningen::M_snel_03_03_click() {

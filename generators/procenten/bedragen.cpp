@@ -30,7 +30,7 @@ void oefeningen::L_computer_01_08_click() {
     druk(3000, 1300, kaal(korting), " % korting");
 
     vraag(meneer ? "Een meneer koopt een computer" : "Een mevrouw koopt een computer",
-          regel("van ", kaal(duizend(prijs)), " euro."),
+          regel("van ", duizend(prijs), " euro."),
           regel(verkoopster ? "De verkoopster geeft" : "De verkoper geeft", korting, " % korting."), leeg,
           "Hoeveel kost de computer nu?");
 
@@ -39,11 +39,11 @@ void oefeningen::L_computer_01_08_click() {
     fout(euro(prijs - korting), "Je hebt de procenten niet in euro's", "omgerekend.");
     fout(euro(bedrag), "Je hebt alleen de korting berekend.");
 
-    uitleg(regel("1 % van de oude prijs is ", kaal(een_procent), " euro, dus ", kaal(korting), " % is ", kaal(korting),
-                 " x ", kaal(een_procent), " = ", kaal(duizend(bedrag)), " euro."),
-           regel("De klant krijgt ", kaal(duizend(bedrag)), " euro korting, zodat de"),
-           regel("nieuwe prijs wordt: ", kaal(duizend(prijs)), " - ", kaal(duizend(bedrag)), " = ",
-                 kaal(duizend(prijs - bedrag)), " euro."));
+    uitleg(regel("1 % van de oude prijs is ", een_procent, " euro, dus ", korting, " % is ", korting, " x ",
+                 een_procent, " = ", duizend(bedrag), " euro."),
+           regel("De klant krijgt ", duizend(bedrag), " euro korting, zodat de"),
+           regel("nieuwe prijs wordt: ", duizend(prijs), " - ", duizend(bedrag), " = ", duizend(prijs - bedrag),
+                 " euro."));
 }
 
 void oefeningen::M_hele_procenten_01_08_click() {
@@ -147,12 +147,11 @@ void oefeningen::M_rente_01_08_click() {
               "dat in de rente past.");
     }
 
-    uitleg(
-        regel(wie.naam, " krijgt ", euro(rente), " rente bijgeschreven,"),
-        regel("dus had ", hij, " eerst ", kaal(duizend(nieuw)), " - ", kaal(rente), " = ", euro(oud), "."),
-        regel("1 % van dat bedrag is ", euro(een_procent), " (want", duizend(oud), " :100 = ", kaal(een_procent), ")."),
-        regel(euro(een_procent), " gaat", p, " keer in ", euro(rente), "."),
-        regel("Het goede percentage is inderdaad", p, " %."));
+    uitleg(regel(wie.naam, " krijgt ", euro(rente), " rente bijgeschreven,"),
+           regel("dus had ", hij, " eerst ", duizend(nieuw), " - ", rente, " = ", euro(oud), "."),
+           regel("1 % van dat bedrag is ", euro(een_procent), " (want", duizend(oud), " :100 = ", een_procent, ")."),
+           regel(euro(een_procent), " gaat", p, " keer in ", euro(rente), "."),
+           regel("Het goede percentage is inderdaad", p, " %."));
 }
 
 void oefeningen::Z_kommaprocenten_01_08_click() {
@@ -202,9 +201,9 @@ void oefeningen::Z_kommaprocenten_01_08_click() {
          "en daarna nog vermenigvuldigen...");
 
     uitleg(regel("Reken eerst uit hoeveel 1 % van", b_tekst, " is."),
-           regel("Dat is", b_tekst, " : 100 = ", kaal(getal(een_procent)), "."),
-           regel("Daarna doe je nog", p_tekst, " x ", kaal(getal(een_procent)), " = ", kaal(antwoord), "."),
-           regel("Dus ", kaal(p_tekst), " % van", b_tekst, " = ", kaal(antwoord), "."));
+           regel("Dat is", b_tekst, " : 100 = ", getal(een_procent), "."),
+           regel("Daarna doe je nog", p_tekst, " x ", getal(een_procent), " = ", antwoord, "."),
+           regel("Dus ", p_tekst, " % van", b_tekst, " = ", antwoord, "."));
     opdrachten(regel("PRINT_3600_600_14_20_", kaal(antwoord)));
 }
 

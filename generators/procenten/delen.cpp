@@ -83,22 +83,22 @@ void oefeningen::B_alcohol_01_08_Click() {
                 "aangehouden automobilisten teveel", "gedronken."});
 
     vraag("Bekijk hiernaast een artikel", "over een alcoholcontrole...", leeg,
-          regel("In plaats van ' ", kaal(deel.procent), " % van ", kaal(n), " ' kun je"), "ook zeggen...");
+          regel("In plaats van ' ", deel.procent, " % van ", n, " ' kun je"), "ook zeggen...");
 
     const std::string_view keer = kop() ? " x " : " van ";
     goed(regel(deel.breuk, keer, kaal(n)));
-    fout(regel(n, " : ", kaal(deel.procent)), "Een percentage van iets is niet",
+    fout(regel(n, " : ", deel.procent), "Een percentage van iets is niet",
          "hetzelfde als delen door dat percentage...");
-    fout(regel(n, " x ", kaal(deel.procent)), "Een percentage van een aantal is niet hetzelfde",
+    fout(regel(n, " x ", deel.procent), "Een percentage van een aantal is niet hetzelfde",
          "als vermenigvuldigen met dat percentage.");
     fout(regel(deel.verkeerd, keer, kaal(n)), "Je hebt een verkeerde breuk gemaakt.", "Probeer het nog eens...");
     leg_vast(juist);
 
-    uitleg(regel("Er staat: ", kaal(deel.procent), " % van ", kaal(n), " automobilisten..."),
-           regel("Dat is 't zelfde als ", kaal(deel.procent), "/100 van ", kaal(n), "."),
-           regel("Je kunt ", kaal(deel.procent), "/100 vereenvoudigen tot ", deel.breuk, ", want"),
-           regel("je kunt teller en noemer door ", kaal(deel.gedeeld_door), " delen."),
-           regel("Je mag dus ook zeggen: ", deel.breuk, " van ", kaal(n), " automobilisten."));
+    uitleg(regel("Er staat: ", deel.procent, " % van ", n, " automobilisten..."),
+           regel("Dat is 't zelfde als ", deel.procent, "/100 van ", n, "."),
+           regel("Je kunt ", deel.procent, "/100 vereenvoudigen tot ", deel.breuk, ", want"),
+           regel("je kunt teller en noemer door ", deel.gedeeld_door, " delen."),
+           regel("Je mag dus ook zeggen: ", deel.breuk, " van ", n, " automobilisten."));
 }
 
 void oefeningen::L_bevolking_01_08_click() {
@@ -231,8 +231,8 @@ void oefeningen::B_grasveld_01_08_click() {
     uitleg(regel("Er zijn", n, " baantjes die uiteindelijk gemaaid moeten worden."),
            regel(m == 1 ? "Hiervan is er al" : "Hiervan zijn er al", m, " gedaan,"),
            regel("dat is dus", m, "/", kaal(n), " van het hele grasveld."),
-           regel("Je kunt ook zeggen: ", kaal(procent_gemaaid), " / 100 van het gras is"),
-           regel("gemaaid = ", kaal(procent_gemaaid), " %."),
+           regel("Je kunt ook zeggen: ", procent_gemaaid, " / 100 van het gras is"),
+           regel("gemaaid = ", procent_gemaaid, " %."),
            gemaaid_gevraagd
                ? std::string(leeg)
                : regel("Er moet dus nog 100 % -", procent_gemaaid, " % =", procent_rest, " % gemaaid worden."));
