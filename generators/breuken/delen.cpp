@@ -1,6 +1,7 @@
 // Parts of a whole: sharing, colouring, a part of a crowd, pieces of a segment. The wrong answers are the mistakes of a
 // child that swaps numerator and denominator, looks at the other part or miscounts.
 #include "generators/breuken/breuken.h"
+#include "generators/gedeeld/opdracht.h"
 #include "generators/gedeeld/telwoord.h"
 #include "generators/oefeningen.h"
 
@@ -64,7 +65,7 @@ void oefeningen::B_chocolade_03_03_click() {
            regel("Verdeel een reep eerst in", kinderen, " gelijke stukjes."),
            regel("Elk kind krijgt van die reep zo'n stukje, 1/", kaal(kinderen), " deel dus."),
            regel("Maar er zijn", repen, " repen te verdelen, zodat elk kind", repen, " keer"),
-           regel("zoveel krijgt. Dus", repen, " keer 1/", kaal(kinderen), " is ", antwoord_1, " deel."));
+           regel("zoveel krijgt. Dus", repen, " keer 1/", kaal(kinderen), " is ", juiste_antwoord(), " deel."));
 }
 
 void oefeningen::B_vlakjes_03_03_click() {
@@ -115,7 +116,7 @@ void oefeningen::B_vlakjes_03_03_click() {
 
     const std::string er_zijn = regel("Er zijn", rood_aantal, " van de 36 vlakjes rood gekleurd");
     const std::string dat_is = regel("Dat is", rood_aantal, "/36 deel van alle vlakjes.");
-    const std::string slot = regel("Het juiste antwoord is dus ", antwoord_1, ".");
+    const std::string slot = regel("Het juiste antwoord is dus ", juiste_antwoord(), ".");
     if (deel.vereenvoudigbaar())
         uitleg("Er zijn in totaal 36 vlakjes.", er_zijn, dat_is, "Deze breuk is nog te vereenvoudigen, want de teller",
                regel("en de noemer zijn nog te delen door", deel.deler(), "."), slot);
@@ -253,9 +254,8 @@ void oefeningen::L_stukken_03_14_click() {
     // In the explanation the length takes the place of its question mark.
     const int y = vraag_AB ? maat_AB : maat_AC;
     const int midden = (links + streep(aantal)) / 2;
-    const std::string antwoord = kortste(lengte(aantal));
-    opdrachten(regel("LINE_", velden(midden - 100, y + 40), "_200_220_15_BF_0"),
-               regel("PRINT_", velden(midden - text_width(antwoord, 11) / 2, y + 20), "_4_11_", antwoord));
+    opdrachten(vak_opdracht(midden - 100, y + 40, 200, 220, wit),
+               druk_midden_opdracht(midden, y + 20, donkerrood, 11, juiste_antwoord()));
 }
 
 } // namespace cijferwerf

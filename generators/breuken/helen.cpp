@@ -1,5 +1,6 @@
 // Wholes written as a fraction, and what is missing to a whole or to an outcome.
 #include "generators/breuken/breuken.h"
+#include "generators/gedeeld/opdracht.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -89,9 +90,8 @@ void oefeningen::L_helen_maken_03_03_click() {
            regel("Je moet dus", deel.teller, "/", kaal(deel.noemer), " aanvullen tot 1."),
            regel("Dan heb je dus nog ", streepbreuk(aanvulling), " nodig."));
     // The dots give way to the answer.
-    const std::string antwoord = streepbreuk(aanvulling);
-    opdrachten("PRINT_2420_470_2_20_..", "LINE_2400_540_240_330_2_BF_0",
-               regel("PRINT_", kaal(2520 - text_width(antwoord, 12) / 2), "_630_15_12_", antwoord));
+    opdrachten("PRINT_2420_470_2_20_..", vak_opdracht(2400, 540, 240, 330, groen),
+               druk_midden_opdracht(2520, 630, wit, 12, juiste_antwoord()));
 }
 
 void oefeningen::M_aanvullen_1_03_14_click() {
@@ -157,11 +157,10 @@ void oefeningen::M_aanvullen_1_03_14_click() {
            regel("Op de stippeltjes moet dus het getal ", kortste(af), " staan."));
     const std::string met_breuken =
         regel(streepbreuk(som), " - ", streepbreuk(af), " = ", streepbreuk(over.maal(fijner / over.noemer)));
-    const auto links_van = [](int om, std::string_view text) { return om - text_width(text, 12) / 2; };
     // The dots go in the colour of the ground, and their soft edges under a box.
-    opdrachten("PRINT_2450_450_1_20_..", "LINE_2430_520_240_310_1_BF_0",
-               regel("PRINT_", velden(links_van(gat, kortste(af))), "_550_12_12_", kortste(af)),
-               regel("PRINT_", velden(links_van(gat, met_breuken)), "_1300_15_12_", met_breuken));
+    opdrachten("PRINT_2450_450_1_20_..", vak_opdracht(2430, 520, 240, 310, donkerblauw),
+               druk_midden_opdracht(gat, 550, rood, 12, juiste_antwoord()),
+               druk_midden_opdracht(gat, 1300, wit, 12, met_breuken));
 }
 
 void oefeningen::M_aanvullen_2_03_14_click() { M_aanvullen_1_03_14_click(); }

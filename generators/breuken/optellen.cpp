@@ -133,7 +133,7 @@ void oefeningen::L_optellen_03_14_click() {
     uitleg(regel("Maak van de noemers eerst", noemer, ", zodat je ze"),
            "makkelijk kunt optellen. Haal er vervolgens een hele uit",
            "en vereenvoudig die breuk door de teller en de noemer", regel("door", deler, " te delen."),
-           regel("Het goede antwoord is ", antwoord_1, "."));
+           regel("Het goede antwoord is ", juiste_antwoord(), "."));
     opdrachten(
         breuk_opdracht(700, 1400, s.helen_links, s.links.maal(noemer / s.links.noemer)),
         breuk_opdracht(1550, 1400, s.helen_rechts, s.rechts.maal(noemer / s.rechts.noemer)),
@@ -184,7 +184,7 @@ void oefeningen::M_aftrekken_03_14_click() {
            "makkelijk kunt aftrekken. Trek de helen van elkaar af,",
            "daarna de streepbreuken. Vereenvoudig de breuk door",
            regel("de teller en de noemer ", "door", over.deler(), " te delen."),
-           regel("Het goede antwoord is ", antwoord_1, "."));
+           regel("Het goede antwoord is ", juiste_antwoord(), "."));
     opdrachten(breuk_opdracht(200, 1400, s.helen_links, s.links), breuk_opdracht(1100, 1400, s.helen_rechts, s.rechts),
                breuk_opdracht(2000, 1400, s.helen_links, s.links.maal(noemer / s.links.noemer)),
                breuk_opdracht(2900, 1400, s.helen_rechts, s.rechts.maal(noemer / s.rechts.noemer)),

@@ -1,5 +1,6 @@
 // Which fraction is larger: among tenths on a number line, among others, between decimals.
 #include "generators/breuken/breuken.h"
+#include "generators/gedeeld/opdracht.h"
 #include "generators/gedeeld/tekening_lijn.h"
 #include "generators/oefeningen.h"
 
@@ -88,7 +89,7 @@ void oefeningen::M_getallenlijn_03_03_click() {
            regel("eerst gelijknamig maken, bijv. je neemt als nieuwe noemer", nieuwe_noemer, "."),
            regel("De breuk is dan te schrijven als ", streepbreuk(gegeven.maal(nieuwe_noemer / gegeven.noemer)), "."),
            regel("Dat is méér dan ", grens(onder), " en minder dan ", grens(onder + 1), "."),
-           regel("De juiste kleur is dus ", rij(pijlen, juist).woord, "."));
+           regel("De juiste kleur is dus ", juiste_antwoord(), "."));
 }
 
 void oefeningen::M_grootste_kleinste_03_03_click() {
@@ -176,12 +177,6 @@ void oefeningen::M_grootste_kleinste_03_03_click() {
 }
 
 void oefeningen::M_tussen_in_03_14_click() {
-    struct bordkleur {
-        std::string_view naam;
-        kleur vlak, letters;
-    };
-    static constexpr std::array<bordkleur, 4> kleuren{
-        {{"geel", geel, zwart}, {"blauw", blauw, wit}, {"rood", rood, wit}, {"groen", groen, wit}}};
     static constexpr std::array<int, 8> noemers{3, 4, 6, 7, 8, 9, 11, 12};
     kies_variant(2);
     zaai();
@@ -204,37 +199,20 @@ void oefeningen::M_tussen_in_03_14_click() {
             return !drawn.vereenvoudigbaar() && schaal % drawn.noemer != 0 && stap + laagste >= 0 &&
                    stap + hoogste <= schaal - 2;
         });
-    const int juist = trek(4) + 1;
-    // By colour, where the two numbers begin.
     const int stap = b.teller * schaal / b.noemer;
-    std::array<int, 4> begin{};
-    rij(begin, juist) = stap;
-    afstanden = geschud(afstanden);
-    auto volgende = afstanden.begin();
-    for (int i = 1; i <= 4; ++i)
-        if (i != juist) rij(begin, i) = stap + *volgende++;
-    const auto tussen = [&](int i) {
-        const int van = rij(begin, i);
-        return regel(komma(van, decimalen), " en", komma(van + 1, decimalen));
+    const auto tussen = [&](int afstand) {
+        return regel(kaal(komma(stap + afstand, decimalen)), " en", komma(stap + afstand + 1, decimalen));
     };
 
     bord(lichtgrijs, zwart, 24);
     const int breedte = text_width(kaal(b.noemer), plaatje.text_size) + 60;
     teken_breuk(plaatje, 1050 - breedte / 2, 1065, 0, b.teller, b.noemer);
     plaatje.text_size = 14;
-    for (int i = 1; i <= 4; ++i) {
-        const auto& [naam, vlak, letters] = rij(kleuren, i);
-        const int y = 105 + (i - 1) * 490;
-        plaatje.filled_box(2000, y, 3200, 440, vlak);
-        plaatje.fore_colour = letters;
-        druk(2150, y + 55, naam);
-        druk_rechts(5050, y + 55, kaal(tussen(i)));
-    }
+    kleurkeuze({2000, 105}, 490, {geel, blauw, rood, groen},
+               {{tussen(0)}, {tussen(afstanden[0])}, {tussen(afstanden[1])}, {tussen(afstanden[2])}});
 
     vraag("Kijk hiernaast...", leeg, "Tussen welke twee getallen", "ligt de breuk?", leeg, "Kies de juiste kleur.");
 
-    juist_op(juist);
-    for (int i = 1; i <= 4; ++i) op_plaats(i, rij(kleuren, i).naam);
     if (variant == 1) {
         tip_1("Eerste stap: zet de gegeven breuk in een kommagetal om.");
         tip_2("Tweede stap: vergelijk dat kommagetal met de gegeven", "getallen...");
@@ -248,9 +226,9 @@ void oefeningen::M_tussen_in_03_14_click() {
         deelbaar ? komma_kort(b.teller * 1000 / b.noemer, 3) : komma(b.teller * 1000 / b.noemer, 3);
     uitleg("Je kunt het beste die breuk in een kommagetal",
            regel("omzetten:", b.teller, " delen door", b.noemer, " geeft", kommagetal, deelbaar ? "." : "..."),
-           "Als je alle mogelijkheden bekijkt zie je dat dat getal", regel("alleen tussen", tussen(juist), " ligt."),
-           regel("De juiste kleur is dus ", rij(kleuren, juist).naam, "."));
-    opdrachten(regel("PRINT_550_1690_0_14_=", kommagetal, deelbaar ? "" : "..."));
+           "Als je alle mogelijkheden bekijkt zie je dat dat getal", regel("alleen tussen ", tussen(0), " ligt."),
+           regel("De juiste kleur is dus ", juiste_antwoord(), "."));
+    opdrachten(druk_opdracht(550, 1690, zwart, 14, "=", kommagetal, deelbaar ? "" : "..."));
 }
 
 } // namespace cijferwerf

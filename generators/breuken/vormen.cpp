@@ -1,5 +1,6 @@
 // The same number in another form: a percentage, a decimal, simplified, with a whole taken out.
 #include "generators/breuken/breuken.h"
+#include "generators/gedeeld/opdracht.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -51,8 +52,8 @@ void oefeningen::L_procenten_03_14_click() {
            regel("De breuk", procent, " /100 kun je vereenvoudigen tot ", kortste(honderdsten)),
            regel("door de teller en de noemer door", deler, " te delen."),
            regel("Goede antwoord: ", kortste(honderdsten), "."));
-    opdrachten("LINE_300_880_3000_400_1_BF_0",
-               regel("PRINT_350_880_15_16_", procent, " % =  ", kortste(honderdsten), " deel"));
+    opdrachten(vak_opdracht(300, 880, 3000, 400, donkerblauw),
+               druk_opdracht(350, 880, wit, 16, procent, " % =  ", kortste(honderdsten), " deel"));
 }
 
 void oefeningen::M_olievat_03_06_click() {
@@ -158,8 +159,7 @@ void oefeningen::M_snel_03_03_click() {
     const int over = deler / te_klein;
     const breuk lang = kort.maal(deler);
 
-    bord(zwart, geel, 20);
-    druk_midden(drawing::inner_width / 2, 450, "Vereenvoudig: ", streepbreuk(lang));
+    snel_som(variant == 1 ? 8 : 15, "Vereenvoudig: ", streepbreuk(lang));
 
     vraag("Geef snel antwoord.", leeg, "Je hebt niet veel tijd!");
 
@@ -185,13 +185,12 @@ void oefeningen::M_snel_03_03_click() {
         },
         vergissingen);
 
-    uitleg(
-        regel("De teller kun je delen door", deler, " en de"),
-        regel("noemer ook. Dat getal", deler, " is het grootste getal"),
-        "waar je de teller en de noemer door kunt delen.",
-        regel("De teller wordt dus", lang.teller, " :", deler, " =", kort.teller, " en de"),
-        regel("noemer wordt", lang.noemer, " :", deler, " =", kort.noemer, ". De breuk wordt dus ", antwoord_1, "."));
-    snel(variant == 1 ? 8 : 15);
+    uitleg(regel("De teller kun je delen door", deler, " en de"),
+           regel("noemer ook. Dat getal", deler, " is het grootste getal"),
+           "waar je de teller en de noemer door kunt delen.",
+           regel("De teller wordt dus", lang.teller, " :", deler, " =", kort.teller, " en de"),
+           regel("noemer wordt", lang.noemer, " :", deler, " =", kort.noemer, ". De breuk wordt dus ",
+                 juiste_antwoord(), "."));
 }
 
 void oefeningen::M_vereenvoudigen_03_14_click() {
@@ -256,15 +255,12 @@ void oefeningen::M_vereenvoudigen_03_14_click() {
            "groter geworden). Vervolgens kun je de teller",
            regel("en de noemer van de middelste breuk nog door", k.deler, " delen."),
            regel("De noemer wordt dan", k.midden().noemer, " :", k.deler, " =", noemer, "."),
-           regel("Op de stippeltjes staan dus ", antwoord_1, "."));
+           regel("Op de stippeltjes staan dus ", juiste_antwoord(), "."));
     // The dots give way to the numbers; they are as wide as the bar but for 60 units.
     const auto streep = text_width(stippels, 18) + 60;
-    const auto wis = [streep](int einde, int boven) {
-        return regel("LINE_", velden(einde - streep, boven, streep, 330, int{cyaan}), "_BF_0");
-    };
+    const auto wis = [streep](int einde, int boven) { return vak_opdracht(einde - streep, boven, streep, 330, cyaan); };
     const auto vul_in = [streep](int einde, int boven, int getal) {
-        const auto breedte = text_width(kaal(getal), 18);
-        return regel("PRINT_", velden(einde - (streep + breedte) / 2, boven, int{geel}, 18), "_", kaal(getal));
+        return druk_midden_opdracht(einde - streep / 2, boven, geel, 18, getal);
     };
     opdrachten(wis(einde_midden, y - 365), vul_in(einde_midden, y - 409, teller), wis(einde_laatste, y + 40),
                vul_in(einde_laatste, y + 20, noemer));

@@ -78,9 +78,10 @@ void oefeningen::M_hele_procenten_01_08_click() {
 
     uitleg(regel("Je kunt het beste eerst 1 % van ", basis_kaal, " nemen."),
            regel("Deel het getal ", basis_kaal, " dus door 100."),
-           regel("Dan krijg je ", basis_kaal, " : 100 =", antwoord_2, "."),
+           regel("Dan krijg je ", basis_kaal, " : 100 =", duizend(een_procent), "."),
            regel("Daarna moet je nog met", p, " vermenigvuldigen."),
-           regel("Dus", p, " % van ", basis_kaal, " is", antwoord_2, " x", p, " =", antwoord_1, "."));
+           regel("Dus", p, " % van ", basis_kaal, " is", duizend(een_procent), " x", p, " =", duizend(p * een_procent),
+                 "."));
 }
 
 void oefeningen::M_rente_01_08_click() {
@@ -185,7 +186,7 @@ void oefeningen::Z_kommaprocenten_01_08_click() {
     const number_text antwoord = getal(p * basis);
 
     bord(groen, wit, 20);
-    druk_rechts(3510, 600, kaal(p_tekst), " % van", b_tekst, " =");
+    som_met_antwoord(3600, 600, geel, 20, regel(kaal(p_tekst), " % van", b_tekst, " ="), antwoord);
 
     vraag(regel(leraar ? "De leraar" : "De lerares", " heeft een som op"), "het bord geschreven.", leeg,
           "Weet jij het goede antwoord?");
@@ -204,7 +205,6 @@ void oefeningen::Z_kommaprocenten_01_08_click() {
            regel("Dat is", b_tekst, " : 100 = ", getal(een_procent), "."),
            regel("Daarna doe je nog", p_tekst, " x ", getal(een_procent), " = ", antwoord, "."),
            regel("Dus ", p_tekst, " % van", b_tekst, " = ", antwoord, "."));
-    opdrachten(regel("PRINT_3600_600_14_20_", kaal(antwoord)));
 }
 
 } // namespace cijferwerf

@@ -32,7 +32,7 @@ void oefeningen::L_snel_01_08_click() {
     const int geheel = deel * 100 / gevraagd;
     const std::string breuk = regel("1/", kaal(100 / gevraagd));
 
-    bord(zwart, geel, 14);
+    snel_bord(12, 14);
     druk(1000, 500, "Hoeveel % is", deel, " van", geheel, "?");
 
     vraag("Kijk hiernaast.", leeg, "Je hebt niet zo veel tijd!");
@@ -43,8 +43,7 @@ void oefeningen::L_snel_01_08_click() {
     uitleg(
         regel(kaal(deel), " is het ", breuk, " deel van", geheel, ", want", deel, " /", geheel, " =", " ", breuk, "."),
         regel("Het ", breuk, " deel is hetzelfde als", gevraagd, " %."),
-        regel("Het juiste antwoord is ", antwoord_1, "."));
-    snel(12);
+        regel("Het juiste antwoord is  ", juiste_antwoord(), "."));
 }
 
 void oefeningen::B_alcohol_01_08_Click() {
