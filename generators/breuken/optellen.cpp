@@ -30,7 +30,7 @@ void oefeningen::L_prijzen_03_03_click() {
             return {noemer - eerste.teller - tweede.teller, noemer};
         }
         // Much is left, so that mistakes can be less than that.
-        bool geschikt() const { return eerste > tweede && over() > breuk{2, 5} && samen().noemer <= 40; }
+        bool geschikt() const { return eerste > tweede && over() > breuk{4, 9} && samen().noemer <= 40; }
     };
     kies_variant(2);
     zaai();

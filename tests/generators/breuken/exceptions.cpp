@@ -12,7 +12,6 @@ const exceptions fractions{
     {simplest_form_asked, L_optellen_03_14_click, "what can still be simplified, or lose a whole, is wrong"},
     {simplest_form_asked, M_aftrekken_03_14_click, "what can still be simplified, or lose a whole, is wrong"},
     {rank_forced, L_optellen_03_14_click, "the mistakes forget to simplify, or to take out a whole"},
-    {rank_forced, L_prijzen_03_03_click, "the mistakes take off too little"},
 };
 
 } // namespace
