@@ -27,7 +27,7 @@ int oefening::druk_machten(int x, int y, std::string_view text) { return teken_m
 
 void oefening::snel_bord(int ticks, double size) {
     bord(zwart, geel, size);
-    snel(ticks);
+    tijdlimiet = ticks;
 }
 
 void oefening::toon_snelle_som(int ticks, const std::string& som) {

@@ -262,7 +262,6 @@ protected:
     // The text of the right answer without blanks around it, for the explanation.
     std::string_view juiste_antwoord() { return kaal(antwoord(juiste_positie == 0 ? 1 : juiste_positie)); }
 
-    void snel(int ticks) { tijdlimiet = ticks; }
     void met_rekenmachine() { hulpmiddel = "REKENMACHINE"; }
 
 public:

@@ -99,11 +99,11 @@ void oefeningen::B_vlakjes_03_03_click() {
         plaatje.filled_box(x, y, vorm.vlakje, vorm.vlakje, i < rood_aantal ? rood : geel);
         plaatje.box(x, y, vorm.vlakje, vorm.vlakje, zwart);
     }
-    for (const bool is_rood : {true, false}) {
-        const int y = is_rood ? 750 : 1150;
-        plaatje.filled_box(4250, y, 230, 230, is_rood ? rood : geel);
+    for (const kleur tint : {rood, geel}) {
+        const int y = tint == rood ? 750 : 1150;
+        plaatje.filled_box(4250, y, 230, 230, tint);
         plaatje.box(4250, y, 230, 230, zwart);
-        druk(4580, y - 25, is_rood ? "rood" : "geel");
+        druk(4580, y - 25, woord(tint));
     }
 
     vraag("Geef in een breuk aan welk", "deel van de rechthoek", "rood is gekleurd.");

@@ -10,11 +10,7 @@
 namespace cijferwerf {
 
 void oefeningen::M_getallenlijn_03_03_click() {
-    struct pijl {
-        std::string_view woord;
-        kleur tint;
-    };
-    static constexpr std::array<pijl, 4> pijlen{{{"geel", geel}, {"rood", rood}, {"wit", wit}, {"zwart", zwart}}};
+    static constexpr std::array pijlen{geel, rood, wit, zwart};
     static constexpr int begin = 290, tiende = 480; // where 0 stands, and from tenth to tenth
     static constexpr int lijn = 1230;
     static constexpr int tussenruimte = 430; // of arrows, for the words under them
@@ -60,11 +56,11 @@ void oefeningen::M_getallenlijn_03_03_click() {
     plaatje.text_size = 10;
     juist_op(juist);
     for (int i = 1; i <= 4; ++i) {
-        const auto& [woord, tint] = rij(pijlen, i);
+        const kleur tint = rij(pijlen, i);
         const int x = plek(rij(aangewezen, i));
         teken_pijl(plaatje, {x, 1720}, {x, lijn + 20}, tint);
-        druk_midden(x, 1750, woord);
-        op_plaats(i, woord);
+        druk_midden(x, 1750, woord(tint));
+        op_plaats(i, woord(tint));
     }
 
     vraag("Je ziet een getallenlijn van 0 tot 1.", "Langs deze getallenlijn zijn tienden",
@@ -93,12 +89,7 @@ void oefeningen::M_getallenlijn_03_03_click() {
 }
 
 void oefeningen::M_grootste_kleinste_03_03_click() {
-    struct krijtje {
-        std::string_view woord, kleurig;
-        kleur tint;
-    };
-    static constexpr std::array<krijtje, 4> krijtjes{
-        {{"groen", "groene", lichtgroen}, {"wit", "witte", wit}, {"geel", "gele", geel}, {"rood", "rode", rood}}};
+    static constexpr std::array krijtjes{lichtgroen, wit, geel, rood};
     enum plaats : std::size_t { groene, witte, gele, rode };
     static constexpr std::array<breuk, 4> makkelijke{{{1, 3}, {2, 3}, {1, 4}, {3, 4}}};
 
@@ -134,13 +125,13 @@ void oefeningen::M_grootste_kleinste_03_03_click() {
     juist_op(static_cast<int>(juist) + 1);
     for (std::size_t i = 0; i < 4; ++i) {
         const int x = 900 + static_cast<int>(i) * 1190;
-        plaatje.fore_colour = krijtjes[i].tint;
+        plaatje.fore_colour = krijtjes[i];
         plaatje.text_size = 20;
         const int breedte = text_width(kaal(breuken[i].noemer), 20) + 60;
         teken_breuk(plaatje, x - breedte / 2, 1030, 0, breuken[i].teller, breuken[i].noemer);
         plaatje.text_size = 12;
-        druk_midden(x, 1640, krijtjes[i].woord);
-        op_plaats(static_cast<int>(i) + 1, krijtjes[i].kleurig);
+        druk_midden(x, 1640, woord(krijtjes[i]));
+        op_plaats(static_cast<int>(i) + 1, bijvoeglijk(krijtjes[i]));
     }
 
     vraag("Op het schoolbord heeft een", regel(leraar ? "leraar" : "lerares", " vier breuken geschreven."), leeg,
@@ -164,7 +155,7 @@ void oefeningen::M_grootste_kleinste_03_03_click() {
               paar_kleiner ? ". De gele en rode zijn beide kleiner dan " : ". De gele en rode zijn beide groter dan ",
               grens, ".");
     const std::string slot =
-        regel("De ", krijtjes[juist].kleurig, " breuk is dus de ", grootste ? "grootste" : "kleinste", ".");
+        regel("De ", bijvoeglijk(krijtjes[juist]), " breuk is dus de ", grootste ? "grootste" : "kleinste", ".");
     if (uit_paar) {
         const int noemer = std::lcm(rood_kort.noemer, breuken[gele].noemer);
         const auto met_noemer = [noemer](breuk b) { return streepbreuk(b.maal(noemer / b.noemer)); };

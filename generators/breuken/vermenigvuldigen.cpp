@@ -88,14 +88,6 @@ bool past(breuk uitkomst, const vergissingen& slips, std::size_t minste_lager, s
     return lager.size() >= minste_lager && hoger.size() >= minste_hoger;
 }
 
-// The four answers of an exercise, the right one first, as options in colours.
-std::array<keuze<>, 4> als_keuzes(const oefening& o) {
-    const auto met = [](const std::string& antwoord, const tekstregels& feedback) {
-        return keuze<>{antwoord, {feedback[0], feedback[1]}};
-    };
-    return {keuze<>{o.antwoord_1}, met(o.antwoord_2, o.foutregels_2), met(o.antwoord_3, o.foutregels_3),
-            met(o.antwoord_4, o.foutregels_4)};
-}
 constexpr point keuzeplaats{3050, 90};
 constexpr int keuzehoogte = 500;
 constexpr std::array<kleur, 4> keuzekleuren{geel, rood, wit, lichtgroen};
@@ -149,8 +141,7 @@ void oefeningen::Z_delen_03_14_click() {
 
     bord(donkerblauw, wit, 16);
     teken_som(plaatje, 250, 500, s, ":", "...");
-    drie_andere(quotient, kortste, bij_delen(s));
-    kleurkeuze(keuzeplaats, keuzehoogte, keuzekleuren, als_keuzes(*this));
+    kleurkeuze(keuzeplaats, keuzehoogte, keuzekleuren, vier_opties(quotient, kortste, bij_delen(s)));
 
     vraag("Kijk hiernaast...", "Twee breuken worden gedeeld.", "Slechts één van de", "gegeven uitkomsten is goed.",
           "Welke is dat?", "Kies de juiste kleur.");
@@ -203,8 +194,7 @@ void oefeningen::Z_vermenigvuldigen_03_14_click() {
 
     bord(donkerblauw, wit, 16);
     teken_som(plaatje, 250, 500, s, "x", "...");
-    drie_andere(product, kortste, bij_maal(s));
-    kleurkeuze(keuzeplaats, keuzehoogte, keuzekleuren, als_keuzes(*this));
+    kleurkeuze(keuzeplaats, keuzehoogte, keuzekleuren, vier_opties(product, kortste, bij_maal(s)));
 
     vraag("Kijk hiernaast...", "Twee breuken worden vermenigvuldigd.", "Slechts één van de",
           "gegeven uitkomsten is goed.", "Welke is dat?", "Kies de juiste kleur.");

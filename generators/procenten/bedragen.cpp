@@ -5,6 +5,13 @@
 
 namespace cijferwerf {
 
+namespace {
+
+// "1.250 euro"
+std::string in_euros(int euros) { return regel(kaal(duizend(euros)), " euro"); }
+
+} // namespace
+
 void oefeningen::L_computer_01_08_click() {
     kies_variant(3);
     juiste_positie = 0;
@@ -20,7 +27,6 @@ void oefeningen::L_computer_01_08_click() {
     const bool verkoopster = kop();
     const int een_procent = prijs / 100;
     const int bedrag = korting * een_procent;
-    const auto euro = [](int whole) { return regel(duizend(whole), " euro"); };
 
     bord(wit, zwart, 14);
     plaatje.picture("computer.bmp");
@@ -34,10 +40,10 @@ void oefeningen::L_computer_01_08_click() {
           regel(verkoopster ? "De verkoopster geeft" : "De verkoper geeft", korting, " % korting."), leeg,
           "Hoeveel kost de computer nu?");
 
-    goed(euro(prijs - bedrag));
-    fout(euro(prijs + bedrag), "Je hebt de korting bij de oude", "prijs opgeteld.");
-    fout(euro(prijs - korting), "Je hebt de procenten niet in euro's", "omgerekend.");
-    fout(euro(bedrag), "Je hebt alleen de korting berekend.");
+    goed(in_euros(prijs - bedrag));
+    fout(in_euros(prijs + bedrag), "Je hebt de korting bij de oude", "prijs opgeteld.");
+    fout(in_euros(prijs - korting), "Je hebt de procenten niet in euro's", "omgerekend.");
+    fout(in_euros(bedrag), "Je hebt alleen de korting berekend.");
 
     uitleg(regel("1 % van de oude prijs is ", een_procent, " euro, dus ", korting, " % is ", korting, " x ",
                  een_procent, " = ", duizend(bedrag), " euro."),
@@ -122,13 +128,12 @@ void oefeningen::M_rente_01_08_click() {
     const int een_procent = oud / 100;
     const int rente = p * een_procent;
     const int nieuw = oud + rente;
-    const auto euro = [](int whole) { return regel(kaal(duizend(whole)), " euro"); };
 
     bord(donkerblauw, zwart, 10);
     teken_blad(plaatje, {200, 150, 4980, 1830}, bladsoort::brief, "BANK",
                {regel("Geachte ", wie.naam, ","),
-                regel("We hebben ", euro(rente), " rente op", jouw, " rekening bijgeschreven."),
-                regel("Er staat nu ", euro(nieuw), " op", jouw, " rekening.")});
+                regel("We hebben ", in_euros(rente), " rente op", jouw, " rekening bijgeschreven."),
+                regel("Er staat nu ", in_euros(nieuw), " op", jouw, " rekening.")});
 
     vraag(regel(wie.naam, " krijgt van de"), "bank een brief die je hiernaast ziet.", leeg,
           regel("Hoeveel procent rente heeft ", hij), "gekregen?");
@@ -148,11 +153,12 @@ void oefeningen::M_rente_01_08_click() {
               "dat in de rente past.");
     }
 
-    uitleg(regel(wie.naam, " krijgt ", euro(rente), " rente bijgeschreven,"),
-           regel("dus had ", hij, " eerst ", duizend(nieuw), " - ", rente, " = ", euro(oud), "."),
-           regel("1 % van dat bedrag is ", euro(een_procent), " (want", duizend(oud), " :100 = ", een_procent, ")."),
-           regel(euro(een_procent), " gaat", p, " keer in ", euro(rente), "."),
-           regel("Het goede percentage is inderdaad", p, " %."));
+    uitleg(
+        regel(wie.naam, " krijgt ", in_euros(rente), " rente bijgeschreven,"),
+        regel("dus had ", hij, " eerst ", duizend(nieuw), " - ", rente, " = ", in_euros(oud), "."),
+        regel("1 % van dat bedrag is ", in_euros(een_procent), " (want", duizend(oud), " :100 = ", een_procent, ")."),
+        regel(in_euros(een_procent), " gaat", p, " keer in ", in_euros(rente), "."),
+        regel("Het goede percentage is inderdaad", p, " %."));
 }
 
 void oefeningen::Z_kommaprocenten_01_08_click() {
