@@ -118,10 +118,11 @@ void oefeningen::L_terugbetalen_05_07_click() {
     drie_andere(terug, euro,
                 {{terug - 100},
                  {terug + 100},
-                 {terug - 10},
-                 {terug + 10},
                  {terug - 50},
                  {terug + 50},
+                 {terug - 10},
+                 {terug + 10},
+                 {terug - 5},
                  {prijs - zonder_munten}});
     tip_1(regel("Reken eerst uit hoeveel ", wie.naam, " heeft gegeven..."));
     tip_2(regel("Bereken met hoeveel ", wie.naam, " het te betalen"), "bedrag aan moet vullen...");
