@@ -254,8 +254,10 @@ void oefeningen::M_tandwielen_02_16_click() {
     const int keer = factor * per_keer;
     const int juist = factor * ander_per_keer;
     const int rechtevenredig = keer * per_keer / ander_per_keer;
-    const bool te_veel = kop();
+    // A slip of one or two, from the right answer or from a wrong one.
+    const int bijna = kop() ? juist : kop() ? keer : rechtevenredig;
     const int ernaast = trek(2) + 1;
+    const bool te_veel = kop();
 
     bord(wit, zwart, 12);
     const double straal_groot = 880, straal_klein = straal_groot * klein / groot;
@@ -277,7 +279,7 @@ void oefeningen::M_tandwielen_02_16_click() {
     goed(tekst(juist));
     fout(tekst(rechtevenredig));
     fout(tekst(keer));
-    fout(tekst(juist + (te_veel ? ernaast : -ernaast)));
+    fout(tekst(bijna + (te_veel ? ernaast : -ernaast)));
     leg_vast(trek(4) + 1);
     if (linker_draait) {
         tip_1("Gebruik het begrip 'omgekeerd evenredig'.");
