@@ -11,46 +11,50 @@ namespace cijferwerf {
 namespace {
 
 // Columns of squares on one base line, or hanging from one: so high from left to right.
-struct kolommen {
+struct stuk_grond {
     std::vector<int> hoogten;
+    int omtrek = 0, oppervlakte = 0; // in sides and squares
 
-    roosterfiguur figuur(bool hangt = false) const {
-        const int omhoog = hangt ? 1 : -1;
+    explicit stuk_grond(std::vector<int> kolommen) : hoogten(std::move(kolommen)) {
+        omtrek = figuur(false).omtrek();
+        oppervlakte = figuur(false).oppervlakte();
+    }
+    roosterfiguur figuur(bool hangt) const {
         std::vector<point> hoeken;
         int x = 0, hoog = 0;
-        const auto naar = [&](int volgende) {
-            if (volgende != hoog) hoeken.insert(hoeken.end(), {{x, omhoog * hoog}, {x, omhoog * volgende}});
+        const auto ga_naar = [&](int volgende) {
+            const int omlaag = hangt ? 1 : -1;
+            if (volgende != hoog) hoeken.insert(hoeken.end(), {{x, omlaag * hoog}, {x, omlaag * volgende}});
             hoog = volgende;
         };
         for (const int hoogte : hoogten) {
-            naar(hoogte);
+            ga_naar(hoogte);
             ++x;
         }
-        naar(0);
+        ga_naar(0);
         return roosterfiguur(std::move(hoeken));
     }
     int breed() const { return static_cast<int>(hoogten.size()); }
-    // Two pieces with the same columns, in whatever order, look too much alike.
-    std::vector<int> op_hoogte() const {
-        std::vector<int> sorted = hoogten;
-        std::ranges::sort(sorted);
-        return sorted;
-    }
+    // The same columns in another order look much alike.
+    bool lijkt_op(const stuk_grond& ander) const { return std::ranges::is_permutation(hoogten, ander.hoogten); }
 };
 
-// All pieces of three to five columns, each one to four squares high.
-const std::vector<kolommen>& alle_kolommen() {
+// All pieces of three to five columns, each one to four squares high, of 9 to 13 squares.
+const std::vector<stuk_grond>& alle_stukken() {
     static const auto all = [] {
-        std::vector<kolommen> found{{{}}}, wanted;
-        for (std::size_t breed = 1; breed <= 5; ++breed) {
-            std::vector<kolommen> longer;
-            for (const kolommen& k : found)
+        std::vector<stuk_grond> wanted;
+        std::vector<std::vector<int>> rijen{{}}; // of so many columns
+        for (int breed = 1; breed <= 5; ++breed) {
+            std::vector<std::vector<int>> langer;
+            for (const std::vector<int>& rij : rijen)
                 for (int hoogte = 1; hoogte <= 4; ++hoogte) {
-                    longer.push_back(k);
-                    longer.back().hoogten.push_back(hoogte);
+                    langer.push_back(rij);
+                    langer.back().push_back(hoogte);
                 }
-            found = std::move(longer);
-            if (breed >= 3) wanted.insert(wanted.end(), found.begin(), found.end());
+            rijen = std::move(langer);
+            for (const std::vector<int>& rij : rijen)
+                if (const int som = std::accumulate(rij.begin(), rij.end(), 0); breed >= 3 && som >= 9 && som <= 13)
+                    wanted.emplace_back(rij);
         }
         return wanted;
     }();
@@ -61,18 +65,6 @@ const std::vector<kolommen>& alle_kolommen() {
 
 void oefeningen::M_draad_07_12_click() {
     static constexpr std::array<std::string_view, 3> letters{"A", "B", "C"};
-    struct stukje {
-        kolommen vorm;
-        int omtrek, oppervlakte;
-    };
-    static const auto stukjes = [] {
-        std::vector<stukje> all;
-        for (const kolommen& k : alle_kolommen()) {
-            const roosterfiguur f = k.figuur();
-            all.push_back({k, f.omtrek(), f.oppervlakte()});
-        }
-        return all;
-    }();
     kies_variant(2);
     zaai();
     const bool kortste = variant == 1;
@@ -90,16 +82,15 @@ void oefeningen::M_draad_07_12_click() {
         const auto uiterste = kortste ? std::ranges::min_element(omtrekken) : std::ranges::max_element(omtrekken);
         std::swap(*uiterste, rij(omtrekken, juist));
     }
-    std::vector<stukje> gekozen;
+    // Of even large pieces there are at least three that look different for each of these edges.
+    std::vector<stuk_grond> gekozen;
     for (const int omtrek : omtrekken) {
-        std::vector<const stukje*> mogelijk;
-        for (const stukje& s : stukjes) {
-            const bool andere_vorm = std::ranges::none_of(gekozen, [&](const stukje& eerder) {
-                return even_groot ? even_lang && eerder.vorm.op_hoogte() == s.vorm.op_hoogte()
-                                  : eerder.oppervlakte == s.oppervlakte;
+        std::vector<const stuk_grond*> mogelijk;
+        for (const stuk_grond& s : alle_stukken()) {
+            const bool te_gelijk = std::ranges::any_of(gekozen, [&](const stuk_grond& eerder) {
+                return even_groot ? even_lang && eerder.lijkt_op(s) : eerder.oppervlakte == s.oppervlakte;
             });
-            if (s.omtrek == omtrek && s.oppervlakte >= 9 && s.oppervlakte <= 13 &&
-                (!even_groot || s.oppervlakte == oppervlakte) && andere_vorm)
+            if (s.omtrek == omtrek && (!even_groot || s.oppervlakte == oppervlakte) && !te_gelijk)
                 mogelijk.push_back(&s);
         }
         gekozen.push_back(*kies(mogelijk));
@@ -111,13 +102,13 @@ void oefeningen::M_draad_07_12_click() {
     std::vector<gekleurde_figuur> figuren;
     std::vector<int> middens;
     int breed = 0;
-    for (const stukje& s : gekozen) breed += s.vorm.breed();
+    for (const stuk_grond& s : gekozen) breed += s.breed();
     int x = (op.breed - breed - 2) / 2;
-    for (const stukje& s : gekozen) {
+    for (const stuk_grond& s : gekozen) {
         const bool hangt = kop();
-        figuren.push_back({s.vorm.figuur(hangt).verschoven(x, hangt ? 1 : 5), lichtgroen});
-        middens.push_back(op.hoek({x, 0}).x + s.vorm.breed() * hokje / 2);
-        x += s.vorm.breed() + 1;
+        figuren.push_back({s.figuur(hangt).verschoven(x, hangt ? 1 : 5), lichtgroen});
+        middens.push_back(op.hoek({x, 0}).x + s.breed() * hokje / 2);
+        x += s.breed() + 1;
     }
     teken_rooster(plaatje, op, figuren);
     for (std::size_t i = 0; i < 3; ++i) {
@@ -133,8 +124,9 @@ void oefeningen::M_draad_07_12_click() {
         op_plaats(i, rij(letters, i), "Loop in gedachten om een stukje grond heen.",
                   "Tel de stukken tussen de hoekpunten van elk", "stukje grond bij elkaar op.");
     op_plaats(4, "overal even lang", "Loop in gedachten om elk stukje grond heen en tel.",
-              even_groot ? "De stukjes zijn wel even groot, maar de draad is niet" : "De draad is niet bij elk stukje",
-              "even lang.");
+              even_groot ? "De stukjes zijn wel even groot, maar de draad"
+                         : "De draad is niet bij elk stukje even lang.",
+              even_groot ? "is niet overal even lang." : leeg);
 
     const auto draad = [&](std::size_t i) { return regel("om ", letters[i], " is die", gekozen[i].omtrek, " lang"); };
     uitleg("Tel bij elk stukje grond de zijden van hokjes langs de rand.",

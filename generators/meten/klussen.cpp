@@ -127,6 +127,7 @@ void oefeningen::M_behangen_07_09_click() {
     plaatje.ellipse(rol.midden().x, rol.boven, rol.breedte / 2, 110, wit, true);
     plaatje.ellipse(rol.midden().x, rol.boven, rol.breedte / 2, 110, olijf, false);
     plaatje.ellipse(rol.midden().x, rol.boven, 110, 45, olijf, false);
+    druk_midden(rol.midden().x + 100, rol.onder() + 110, "rol:", meter(k.rol_lang), " m");
     teken_maat(plaatje, {rol.rechts() + 370, rol.boven}, {rol.rechts() + 370, rol.onder()}, breedte);
 
     vraag("Een muur moet behangen worden.", regel("De lengte van de muur is", meter(k.lang), " m."),

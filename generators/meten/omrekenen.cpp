@@ -38,7 +38,7 @@ void oefeningen::L_snel_1_07_09_click() {
 
     snel_som(20, kaal(komma_kort(o.getal)), " ", o.van.teken, " =", komma_kort(o.uitkomst()), " ...");
 
-    vraag("Geef snel antwoord.", leeg, "Je hebt niet veel tijd...", leeg, "Welke eenheid moet op", "de stippen staan?");
+    vraag("Geef snel antwoord.", leeg, "Je hebt niet veel tijd...", leeg, "Welke eenheid moet op de stippen staan?");
 
     goed(o.naar.teken);
     for (std::size_t i = 0; i < 3; ++i) fout(andere[i]);

@@ -77,9 +77,9 @@ void oefeningen::L_vakantie_07_09_click() {
                           {regel("In", aantal, " uur kunnen zij maar", duizend(aantal * snelheid), " km rijden.")}};
     };
     const auto te_lang = [&](int aantal) {
-        return keuze<int>{
-            aantal,
-            {regel("In", aantal, " uur kunnen zij", duizend(aantal * snelheid), " km rijden."), "Zo ver hoeft niet."}};
+        return keuze<int>{aantal,
+                          {regel("In", aantal, " uur kunnen zij", duizend(aantal * snelheid), " km rijden."),
+                           "Zo ver hoeven zij niet te rijden."}};
     };
     const melding afgelezen{"Heb je de snelheid goed afgelezen?", "Elk streepje is 10 km/uur."};
     drie_andere(uren, in_uur,

@@ -85,7 +85,7 @@ const exercise_rows on_the_road{
      .ranges = {{{180, 1440, 60}, {60, 120}}, {{150, 1320, 60}, {50, 110}}},
      .right = v[0] / v[1],
      .wrong = {{"kunnen zij maar", lies::below},
-               {"Zo ver hoeft niet", lies::above},
+               {"Zo ver hoeven zij niet", lies::above},
                {"goed afgelezen?", v[0] / v[1] * 2}},
      .explains = {{"aflezen: # km/uur", {v[1]}}, {"# : # = #.", {v[0], v[1], v[0] / v[1]}}},
      .check =
@@ -113,7 +113,8 @@ const exercise_rows on_the_road{
          }},
     {.id = M_behangen_07_09_click,
      .variants = 2,
-     .reads = "lengte van de muur is # m. De hoogte van de muur is # m. De rollen behang zijn # m lang en # cm breed.",
+     .reads =
+         "De lengte van de muur is # m. De hoogte van de muur is # m. De rollen behang zijn # m lang en # cm breed. * nodig? | $0 m | $1 m | rol: $2 m | $3 cm",
      .ranges = {{{5, 12, 0.2}, {2.2, 3, 0}, {8, 10, 0}, {45, 60, 1}},
                 {{5, 12, 0.4}, {2.2, 3, 0}, {10.5, 15, 0}, {45, 60, 1}}},
      .right = up(strips, strips_per_roll),
