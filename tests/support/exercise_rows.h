@@ -142,7 +142,7 @@ struct exercise_row {
     // Every wrong answer is one of these, and every one of these occurs.
     std::vector<mistake> wrong = {};
     std::vector<statement> explains = {};
-    // A piece that the first tip alone has, and one that the second alone has.
+    // A piece that the first tip alone has ("": the second begins with all of the first), and one that the second has.
     std::vector<const char*> tips = {};
     // The time limit: none, one for all sub-variants, or one for each.
     std::vector<int> ticks = {};

@@ -1,8 +1,11 @@
-// The fraction exercises of booklet 3, worked out again from what a pupil sees: the question, the picture, the answers.
-#include "tests/support/seen.h"
+// Fractions: what they draw, their answers worked out again from what a pupil sees, and each wrong answer as the
+// mistake that its feedback names.
+#include "tests/support/exercise_rows.h"
+#include "tests/support/ink.h"
+#include "tests/support/pattern.h"
+#include "tests/support/rows_of.h"
 
 #include <map>
-#include <regex>
 #include <set>
 
 namespace cijferwerf {
@@ -10,156 +13,479 @@ namespace {
 
 using enum oefening_id;
 
-bool in_simplest_form(breuk b) { return !b.vereenvoudigbaar(); }
+int divisor(const reading& n, std::size_t a, std::size_t b) {
+    return std::gcd(static_cast<int>(n[a]), static_cast<int>(n[b]));
+}
+formula divisor(std::size_t a, std::size_t b) {
+    return [=](const reading& n) { return divisor(n, a, b); };
+}
+formula common(std::size_t a, std::size_t b) {
+    return [=](const reading& n) { return n[a] * n[b] / divisor(n, a, b); };
+}
+formula floor(const formula& a) { return rounded(a - 0.4999999); }
 
-TEST(fractions, chocolate_is_shared_by_the_children_that_the_question_and_the_picture_show) {
-    const std::map<std::string, int> number_words{{"twee", 2},  {"drie", 3},  {"vier", 4}, {"vijf", 5},
-                                                  {"zeven", 7}, {"negen", 9}, {"elf", 11}};
-    std::set<std::string> forms;
-    each(B_chocolade_03_03_click, [&](const seen& e) {
-        const bool passive = e.question.starts_with("Er moeten");
-        const auto part = passive ? e.asked("moeten (\\d+) repen over (\\w+) kinderen")
-                                  : e.asked("([A-Z]\\w+) kinderen verdelen (\\d+) repen,");
-        std::string word = part[passive ? 2 : 1];
-        forms.insert(word);
-        word[0] = static_cast<char>(word[0] | 0x20);
-        const int children = number_words.at(word), bars = whole(part[passive ? 1 : 2]);
-        EXPECT_EQ(fraction(e.right), (breuk{bars, children}));
-        EXPECT_TRUE(in_simplest_form(fraction(e.right)));
-        EXPECT_EQ(e.of_colour(donkerrood), bars);
-        EXPECT_TRUE(e.last.ends_with(" is " + e.right + " deel."));
-    });
-    EXPECT_EQ(forms.size(), 14U);
+bool in_simplest_form(const std::string& answer) {
+    const breuk part = fraction(answer.substr(answer.find(' ') + 1));
+    return !part.vereenvoudigbaar() && (part.teller < part.noemer || part.noemer == 1);
+}
+void all_in_simplest_form(const reading& n) {
+    for (const std::string& answer : n.exercise.answers()) EXPECT_TRUE(in_simplest_form(answer)) << answer;
 }
 
-TEST(fractions, wholes_are_exchanged_before_adding_or_subtracting) {
-    std::set<std::string> tips, feedback;
-    each(B_helen_03_03_click, [&](const seen& e) {
-        const int wholes = whole(e.words[0]), over = whole(e.right);
-        const breuk part = e.fraction_at(2);
-        ASSERT_TRUE(e.words[1] == "+" || e.words[1] == "-");
-        EXPECT_EQ(e.words[6], e.words[3]) << "one denominator on both sides";
-        EXPECT_EQ(wholes * part.noemer, e.words[1] == "+" ? over - part.teller : over + part.teller);
-        EXPECT_EQ(e.last, "Op de punt moet dus een " + e.right + " staan.");
-        (e.made.tipregels_1[0] == leeg ? feedback.insert(e.made.foutregels_2[2]) : tips.insert(e.made.tipregels_2[2]));
-    });
-    EXPECT_EQ(tips, (std::set<std::string>{"Doe daarna een optelling.", "Doe daarna een aftrekking."}));
-    EXPECT_EQ(feedback, (std::set<std::string>{"optelling te doen.", "aftrekking te doen."}));
+// The explanation goes on with the sum, worked out step by step, below the question on the board.
+void check_worked_line(const reading& n) {
+    const seen& e = n.exercise;
+    const std::vector<std::string> rows = rows_of(explained(e.made));
+    EXPECT_TRUE(rows.back().ends_with("= " + e.right)) << rows.back();
+    for (int i = 1; i <= 4; ++i) {
+        const std::string told = i == e.right_place() ? "" : e.feedback(i);
+        if (told.find("elijknamig") != std::string::npos) continue;
+        const breuk part = fraction(e.answer(i).substr(e.answer(i).find(' ') + 1));
+        EXPECT_EQ(part.teller > part.noemer, told.find("geen hele") != std::string::npos) << told;
+        EXPECT_EQ(part.vereenvoudigbaar(), told.find("niet vereenvoudigd") != std::string::npos) << told;
+    }
 }
 
-TEST(fractions, the_red_squares_are_counted) {
-    each(B_vlakjes_03_03_click, [](const seen& e) {
-        EXPECT_EQ(e.blocks.size(), 36U + 2U) << "and two in the legend";
-        const int red = static_cast<int>(e.of_colour(rood)) - 1;
-        EXPECT_EQ(fraction(e.right), (breuk{red, 36}));
-        EXPECT_TRUE(in_simplest_form(fraction(e.right)));
-        EXPECT_EQ(fraction(e.answer(2)), (breuk{36 - red, 36})) << "the yellow ones";
-        EXPECT_EQ(in_simplest_form({red, 36}), e.made.variant % 2 == 0);
-        EXPECT_EQ(e.last, "Het juiste antwoord is dus " + e.right + ".");
-    });
+// One arrow alone points between the right tenths, and nothing but its place tells it from the others.
+void check_arrows(const reading& n) {
+    int zero = 0, length = 0;
+    std::map<kleur, int> points; // where each colour's arrow points
+    for (const drawing_op& operation : n.exercise.made.plaatje.operations()) {
+        if (const auto* line = std::get_if<line_op>(&operation); line != nullptr && line->to.x - line->from.x > length)
+            length = line->to.x - (zero = line->from.x);
+        if (const auto* arrow = std::get_if<polygon_op>(&operation); arrow != nullptr && arrow->filled)
+            points[arrow->pen.colour] = std::ranges::min_element(arrow->corners, {}, &point::y)->x;
+    }
+    const std::map<std::string, kleur> colours{{"geel", geel}, {"rood", rood}, {"wit", wit}, {"zwart", zwart}};
+    std::set<int> stretches;
+    for (const auto& [colour, x] : points) stretches.insert((x - zero) * 10 / length);
+    EXPECT_EQ(stretches.size(), 4U) << "each in a stretch of its own";
+    EXPECT_LE(std::abs(points[colours.at(n.exercise.right)] - zero - n[0] / n[1] * length), 1);
+    EXPECT_FALSE(same(std::round(n[0] * 10 / n[1]), n[0] * 10 / n[1])) << "a tenth itself lies between none";
 }
 
-TEST(fractions, the_explanation_writes_what_makes_the_whole_over_the_dots) {
-    each(L_helen_maken_03_03_click, [](const seen& e) {
-        const breuk first = gemengd_getal(whole(e.words[0]), whole(e.words[1]), whole(e.words[2]));
-        EXPECT_EQ(e.words[3] + e.words[4] + e.words[6], "+=..");
-        EXPECT_EQ(first + fraction(e.right), (breuk{whole(e.words[5]), 1}));
-        EXPECT_EQ(e.last, "Dan heb je dus nog " + e.right + " nodig.");
-        const auto written = e.when_explained().words;
-        EXPECT_EQ(written.back(), e.right);
-    });
+// A fraction of the four on the board, and the colour of the one that is asked.
+std::string colour_asked(const reading& n) {
+    std::map<double, const char*> by_size;
+    static constexpr std::array colours{"groene", "witte", "gele", "rode"};
+    for (std::size_t i = 0; i < 4; ++i) by_size[n[1 + 2 * i] / n[2 + 2 * i]] = colours[i];
+    return n[0] == 0 ? by_size.rbegin()->second : by_size.begin()->second;
 }
 
-TEST(fractions, a_part_of_the_starters_has_finished) {
-    each(L_marathon_03_03_click, [&](const seen& e) {
-        const auto part = e.asked(R"(moment ([\d.]+) deelnemers door de finish\. Dat is (\d+)/(\d+) van)");
-        const int finished = whole(part[1]);
-        EXPECT_EQ(whole(e.right) * whole(part[2]), finished * whole(part[3]));
-        EXPECT_LT(whole(e.answer(2)), finished) << "told that no more can finish than started";
-        EXPECT_GT(whole(e.answer(3)), finished) << "told of a slip only";
-        EXPECT_TRUE(e.last.ends_with(" = " + e.right + " te doen."));
-    });
+// The places of the marks on the segment, and of B among them.
+formula marks(bool up_to_B) {
+    return [=](const reading& n) {
+        std::set<int> places;
+        for (const drawing_op& operation : n.exercise.made.plaatje.operations())
+            if (const auto* line = std::get_if<line_op>(&operation); line != nullptr && line->from.y < 1000)
+                places.insert({line->from.x, line->to.x});
+        const text_op& B = n.exercise.texts[1];
+        const double until = up_to_B ? B.x : drawing::inner_width;
+        return std::ranges::count_if(places, [&](int x) { return x < until; }) - (up_to_B ? 0 : 1);
+    };
+}
+// All lengths are drawn as large as they are said to be, and no answer lies outside the drawing.
+void check_lengths(const reading& n) {
+    const bool first_asked = n.variant() % 2 == 1;
+    for (const std::string& answer : n.exercise.answers()) {
+        const auto length = number_of(answer);
+        EXPECT_TRUE(first_asked ? length < n[0] : length > n[0]) << answer;
+        const double half_pieces = *length / n[0] * 2 * n[2];
+        EXPECT_TRUE(same(std::round(half_pieces), half_pieces)) << answer;
+    }
 }
 
-TEST(fractions, all_prizes_together_are_the_whole) {
-    std::set<bool> simplified;
-    each(L_prijzen_03_03_click, [&](const seen& e) {
-        const auto part = e.asked(R"(jaar (\d+/\d+) deel.* het (\d+/\d+) deel\.)");
-        const breuk first = fraction(part[1]), second = fraction(part[2]);
-        EXPECT_GT(first, second);
-        EXPECT_EQ(first + second + fraction(e.right), (breuk{1, 1}));
-        EXPECT_TRUE(in_simplest_form(fraction(e.right)));
-        EXPECT_EQ(first.noemer == second.noemer, e.made.uitlegregels[1].find("hoeven niet") != std::string::npos);
-        EXPECT_EQ(whole(e.words[4]) % first.teller, 0) << "of the cheque, whole thousands are a part";
-        EXPECT_TRUE(e.last.ends_with(" = " + e.right + " deel."));
-        simplified.insert(e.made.uitlegregels[3].starts_with("Vereenvoudigd"));
-    });
-    EXPECT_EQ(simplified.size(), 2U);
+// ---- shortening ----
+
+// The numerator and denominator of what was read as v[0]/v[1], in its simplest form, with so much added and multiplied.
+formula shortened(int teller, int noemer, bool teller_left = false, bool noemer_left = false) {
+    return [=](const reading& n) {
+        const int by = divisor(n, 0, 1), left = by % 2 == 0 ? 2 : 3;
+        return (n[0] / by + teller) * (teller_left ? left : 1) / ((n[1] / by + noemer) * (noemer_left ? left : 1));
+    };
+}
+void check_shortened(const reading& n) {
+    for (int i = 1; i <= 4; ++i) {
+        const std::string told = i == n.exercise.right_place() ? "" : n.exercise.feedback(i);
+        EXPECT_EQ(in_simplest_form(n.exercise.answer(i)), told.find("nog niet klaar") == told.npos) << told;
+    }
+    EXPECT_TRUE(n.variant() == 1 || (n[1] < 100 && (n[1] < 50 || static_cast<int>(n[1]) % 7 != 0))) << "too hard";
 }
 
-TEST(fractions, one_arrow_alone_points_between_the_right_tenths) {
-    const std::map<kleur, std::string> names{{geel, "geel"}, {rood, "rood"}, {wit, "wit"}, {zwart, "zwart"}};
-    each(M_getallenlijn_03_03_click, [&](const seen& e) {
-        const breuk given = e.fraction_at(1);
-        int zero = 0, length = 0;
-        std::map<int, std::string> arrows; // by the stretch between two tenths
-        for (const drawing_op& operation : e.made.plaatje.operations()) {
-            if (const auto* line = std::get_if<line_op>(&operation);
-                line != nullptr && line->to.x - line->from.x > length)
-                length = line->to.x - (zero = line->from.x);
-            if (const auto* arrow = std::get_if<polygon_op>(&operation); arrow != nullptr && arrow->filled)
-                arrows[(arrow->corners[0].x - zero) * 10 / length] = names.at(arrow->pen.colour);
-        }
-        EXPECT_EQ(arrows.size(), 4U) << "each in a stretch of its own";
-        EXPECT_EQ(arrows[given.teller * 10 / given.noemer], e.right);
-        EXPECT_NE(given.teller * 10 % given.noemer, 0) << "a tenth itself lies between none";
-        EXPECT_EQ(e.last, "De juiste kleur is dus " + e.right + ".");
-    });
+// ---- mixed numbers ----
+
+const formula a = v[0] + v[1] / v[2], b = v[3] + v[4] / v[5];
+
+// The numbers whose fractions the sum has, and by what the first numerator and second denominator, or the first
+// denominator and second numerator, can be divided; of a division the second number is turned over.
+formula cancelled(bool first, bool dividing) {
+    return [=](const reading& n) {
+        const auto at = [&](std::size_t i) { return static_cast<int>(n[i]); };
+        breuk left{at(0) * at(2) + at(1), at(2)}, right{at(3) * at(5) + at(4), at(5)};
+        if (dividing) right = right.omgekeerd();
+        return first ? std::gcd(left.teller, right.noemer) : std::gcd(left.noemer, right.teller);
+    };
+}
+std::vector<mistake> slips(bool dividing, std::initializer_list<mistake> more) {
+    const formula outcome = dividing ? a / b : a * b;
+    const formula under = dividing ? v[3] * v[5] + v[4] : v[5];
+    std::vector<mistake> all{{"alleen de eerste opgeschreven", outcome * under},
+                             {"alleen de tweede opgeschreven", outcome * v[2]},
+                             {"streepbreuk van het eerste", dividing ? v[0] / b : v[0] * b},
+                             {"streepbreuk van het tweede", dividing ? a / v[3] : a * v[3]}};
+    for (const bool first : {true, false}) {
+        all.push_back({"alleen een noemer gedeeld", outcome * cancelled(first, dividing)});
+        all.push_back({"alleen een teller gedeeld", outcome / cancelled(first, dividing)});
+    }
+    all.insert(all.end(), more);
+    return all;
 }
 
-TEST(fractions, the_largest_or_smallest_of_the_board_is_one_alone) {
-    static constexpr std::array<std::string_view, 4> colours{"groene", "witte", "gele", "rode"};
-    each(M_grootste_kleinste_03_03_click, [](const seen& e) {
-        const bool largest = e.words[0].find("GROTER") != std::string::npos;
-        EXPECT_EQ(largest, e.question.find("grootste") != std::string::npos);
-        for (std::size_t i = 0; i < 4; ++i) {
-            const breuk own = e.fraction_at(1 + 3 * i);
-            int beaten = 0;
-            for (std::size_t j = 0; j < 4; ++j) {
-                const breuk other = e.fraction_at(1 + 3 * j);
-                const int apart = own.teller * other.noemer - other.teller * own.noemer;
-                beaten += largest ? apart > 0 : apart < 0;
-            }
-            EXPECT_EQ(beaten == 3, colours[i] == e.right) << colours[i];
-        }
-        EXPECT_EQ(e.last, "De " + e.right + " breuk is dus de " + (largest ? "grootste." : "kleinste."));
-    });
+// Each red stroke runs through a number, and divides it and both rows by as much.
+void check_strokes(const reading& n) {
+    const drawing drawn = explained(n.exercise.made);
+    std::vector<ink> words = visible_words(drawn);
+    std::erase_if(words, [](const ink& w) { return w.top < 1000; });
+    double above = 1, below = 1;
+    for (const drawing_op& operation : drawn.operations()) {
+        const auto* stroke = std::get_if<box_op>(&operation);
+        if (stroke == nullptr || stroke->height != 1 || stroke->pen.colour != rood) continue;
+        const auto number_near = [&](bool red, double reach) {
+            const auto found = std::ranges::find_if(words, [&](const ink& w) {
+                return (w.colour == rood) == red && w.left > stroke->x - 15 && w.middle() < stroke->x + stroke->width &&
+                       w.top < stroke->y + reach && w.bottom > stroke->y - reach;
+            });
+            return found == words.end() ? 0 : decimal(found->word);
+        };
+        const double divided = number_near(false, 0) / number_near(true, 200);
+        EXPECT_TRUE(divided > 1 && same(divided, std::round(divided))) << divided;
+        (stroke->y < 1541 ? above : below) *= divided;
+    }
+    EXPECT_TRUE(same(above, below) && above > 1) << above << " and " << below;
 }
 
-TEST(fractions, what_is_left_in_the_drum_has_quarters_of_a_litre) {
-    std::set<double> quarters;
-    each(M_olievat_03_06_click, [&](const seen& e) {
-        const auto part = e.asked(R"(eerst ([\d,]+) liter olie\. .* daar (\d+) (\d)/(\d) liter)");
-        const double out = lees_getal(part[2]) + lees_getal(part[3]) / lees_getal(part[4]);
-        EXPECT_EQ(decimal(e.right), decimal(part[1]) - out);
-        EXPECT_TRUE(std::regex_search(e.right, std::regex(",(25|5|75)$")));
-        EXPECT_TRUE(e.last.ends_with(" is aan " + e.right + " liter."));
-        quarters.insert(out - lees_getal(part[2]));
-    });
-    EXPECT_EQ(quarters, (std::set{0.25, 0.5, 0.75}));
+// Two numbers of which one interval of tenths or hundredths, so many steps from the right one, lies between.
+formula interval(int away) {
+    return [=](const reading& n) -> outcome {
+        const double scale = n.variant() == 1 ? 10 : 100, from = std::floor(n[0] * scale / n[1] + 1e-9) + away;
+        return told_numbers{"# en #", {from / scale, (from + 1) / scale}};
+    };
 }
 
-TEST(fractions, quick_simplifying_goes_as_far_as_it_can) {
-    each(M_snel_03_03_click, [](const seen& e) {
-        const breuk shown = fraction(e.words[0].substr(std::string("Vereenvoudig: ").size()));
-        EXPECT_EQ(fraction(e.right), shown);
-        EXPECT_TRUE(in_simplest_form(fraction(e.right)));
-        for (int i = 2; i <= 4; ++i)
-            EXPECT_EQ(fraction(e.answer(i)) == shown, e.feedback(i).starts_with("Je bent nog niet klaar")) << i;
-        EXPECT_EQ(e.made.tijdlimiet, e.made.variant == 1 ? 8 : 15);
-        EXPECT_TRUE(e.last.ends_with(" De breuk wordt dus " + e.right + "."));
-    });
+const formula finished_part = v[0] / v[1];
+const formula numerator = v[0] / v[2], denominator = 100 / v[2]; // of a percentage
+const formula glued = 10 * v[3] + v[4];                          // 14 of 1/4
+const formula over = v[3] / v[4], all_of_it = v[0] + v[1] / v[2];
+const formula first_prize = v[0] / v[1], second_prize = v[2] / v[3], part_left = 1 - first_prize - second_prize;
+
+formula absolute(const formula& value) {
+    return [=](const reading& n) { return std::abs(std::get<double>(value(n))); };
 }
+formula children(std::size_t word) {
+    return [=](const reading& n) { return std::array{2, 3, 4, 5, 7, 9, 11}.at(static_cast<std::size_t>(n[word])); };
+}
+
+exercise_row completing(oefening_id id) {
+    return {.id = id,
+            .variants = 9,
+            .reads = "| # | # | # | - | = | # | # | ..",
+            .ranges = {{{1, 5}, {1, 11}, {2, 12}, {1, 23}, {2, 12}}},
+            .right = all_of_it - over,
+            .wrong = {{"", v[0] - over},
+                      {"", all_of_it + over},
+                      {"", all_of_it - over - 1},
+                      {"", all_of_it - over + 1},
+                      {"", v[0] - floor(over) + absolute(v[1] / v[2] - over + floor(over))},
+                      {"", absolute(v[1] / v[2] - over + floor(over))}},
+            .explains = {{"getal # de breuk &. Tel daar", {v[0], v[0]}},
+                         {"Dan krijg je &. Om", {all_of_it}},
+                         {"moet je er & van aftrekken", {all_of_it - over}},
+                         {"& - & = &", {all_of_it, all_of_it - over, over}}},
+            .tips = {"Eerste stap: maak van die # een breuk", "Derde stap"}};
+}
+
+const exercise_rows fractions{
+    {.id = B_chocolade_03_03_click,
+     .variants = 14,
+     .of = {1, 3, 5, 7, 9, 11, 13},
+     .reads = "Er moeten # repen over (twee|drie|vier|vijf|zeven|negen|elf) kinderen",
+     .counts = {children(1), blocks(donkerrood) - v[0]},
+     .ranges = {{{2, 12}, {0, 6}, {2, 11}, {0, 0}}},
+     .right = v[0] / v[2],
+     .wrong = {{"slechts één reep", 1 / v[2]}, {"verwisseld", v[2] / v[0]}, {"opgeteld", v[0] / (v[0] + v[2])}},
+     .explains = {{"moet # repen over # kinderen", {v[0], v[2]}}, {"stukje, & deel dus", {1 / v[2]}}}},
+    {.id = B_chocolade_03_03_click,
+     .variants = 14,
+     .of = {2, 4, 6, 8, 10, 12, 14},
+     .reads = "(Twee|Drie|Vier|Vijf|Zeven|Negen|Elf) kinderen verdelen # repen,",
+     .counts = {children(0), blocks(donkerrood) - v[1]},
+     .ranges = {{{0, 6}, {2, 12}, {2, 11}, {0, 0}}},
+     .right = v[1] / v[2],
+     .wrong = {{"slechts één reep", 1 / v[2]}, {"verwisseld", v[2] / v[1]}, {"opgeteld", v[1] / (v[1] + v[2])}}},
+    {.id = B_helen_03_03_click,
+     .variants = 2,
+     .reads = "| # | (+|-) | # | # | = | . | $3",
+     .ranges = {{{2, 9}, {0, 0}, {1, 11}, {3, 12}}, {{2, 9}, {1, 1}, {1, 11}, {3, 12}}},
+     .right = v[0] * v[3] + (1 - 2 * v[1]) * v[2],
+     .wrong = {{"De helen heb je wel", v[0] * v[3]},
+               {"maar het is een", v[0] * v[3] - (1 - 2 * v[1]) * v[2]},
+               {"één hele ingewisseld", v[3] + (1 - 2 * v[1]) * v[2]}},
+     .explains = {{"schrijven als &", {1}}, {"# x # = # stukken van &", {v[0], v[3], v[0] * v[3], 1 / v[3]}}},
+     .tips = {"", "Doe daarna een (optelling|aftrekking)"}},
+    {.id = B_vlakjes_03_03_click,
+     .variants = 4,
+     .reads = "rood is gekleurd.",
+     .counts = {blocks(rood) - 1, blocks(geel) - 1 + blocks(rood) - 1},
+     .ranges = {{{8, 28}, {36, 36}}, {{7, 29}, {36, 36}}, {{8, 28}, {36, 36}}, {{7, 29}, {36, 36}}},
+     .right = v[0] / 36,
+     .wrong = {{"gele vlakjes", 1 - v[0] / 36},
+               {"een vlakje verteld", (v[0] - 1) / 36},
+               {"een vlakje verteld", (v[0] + 1) / 36},
+               {"paar rode", (v[0] - 3) / 36},
+               {"paar rode", (v[0] + 3) / 36}},
+     .explains = {{"Er zijn # van de 36 * Dat is & deel", {v[0], v[0] / 36}}},
+     .check =
+         [](const reading& n) {
+             all_in_simplest_form(n);
+             const auto told = find_pattern(n.exercise.explanation, "te delen door #.");
+             EXPECT_EQ(told ? told->numbers[0] : 1, divisor(n, 0, 1));
+         }},
+    {.id = L_helen_maken_03_03_click,
+     .variants = 2,
+     .reads = "| # | # | # | + | = | # | ..",
+     .counts = {v[3] - v[0]},
+     .ranges = {{{1, 9}, {1, 9}, {4, 10}, {2, 10}, {1, 1}}, {{1, 9}, {1, 19}, {11, 20}, {2, 10}, {1, 1}}},
+     .right = 1 - v[1] / v[2],
+     .wrong = {{"zelf gekozen", v[1] / v[2]},
+               {"hele te veel", 2 - v[1] / v[2]},
+               {"Tel eens na", 1 - (v[1] - 1) / v[2]},
+               {"Tel eens na", 1 - (v[1] + 1) / v[2]}},
+     .explains = {{"Je moet dus & aanvullen", {v[1] / v[2]}}, {"| .. | .. | &", {1 - v[1] / v[2]}}}},
+    {.id = L_marathon_03_03_click,
+     .variants = 4,
+     .reads = "van @ zijn op een zeker moment # deelnemers door de finish. Dat is #/# van * | 2:#:#",
+     .ranges = {{{300, 5100}, {2, 3}, {3, 5}, {30, 51}, {0, 59}},
+                {{1000, 13600}, {3, 5}, {5, 8}, {28, 55}, {0, 59}},
+                {{1500, 30600}, {3, 9}, {8, 10}, {25, 59}, {0, 59}},
+                {{700, 15300}, {2, 5}, {7, 9}, {24, 49}, {0, 59}}},
+     .words = {8},
+     .right = finished_part * v[2],
+     .wrong = {{"over de finish", v[0] / v[2] * v[1]},
+               {"foutje gemaakt", finished_part*(v[2] - 1)},
+               {"foutje gemaakt", finished_part*(v[2] + 1)},
+               {"nog een vermenigvuldiging", finished_part}},
+     .explains = {{"het & deel uit door # te delen door #. Dat zijn #", {1 / v[2], v[0], v[1], finished_part}},
+                  {"uit door # x # = #", {v[2], finished_part, finished_part* v[2]}}}},
+    {.id = L_optellen_03_14_click,
+     .variants = 3,
+     .of = {1, 2},
+     .reads = "| # | # | + | # | # | = | ......",
+     .counts = {common(1, 3)},
+     .ranges = {{{1, 14}, {2, 15}, {1, 14}, {2, 15}, {6, 15}}, {{1, 23}, {2, 24}, {1, 23}, {2, 24}, {12, 30}}},
+     .right = v[0] / v[1] + v[2] / v[3],
+     .wrong = {{"Je hebt niet vereenvoudigd.", v[0] / v[1] + v[2] / v[3]},
+               {"uitgehaald. ", v[0] / v[1] + v[2] / v[3]},
+               {"uitgehaald en je", v[0] / v[1] + v[2] / v[3]}},
+     .explains = {{"noemers eerst #,", {v[4]}}},
+     .check = check_worked_line},
+    {.id = L_optellen_03_14_click,
+     .variants = 3,
+     .of = {3},
+     .reads = "| # | # | # | + | # | # | # | = | ......",
+     .ranges = {{{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}},
+     .right = a + b,
+     .wrong = {{"Je hebt niet vereenvoudigd.", a + b}, {"uitgehaald. ", a + b}, {"uitgehaald en je", a + b}},
+     .explains = {{"noemers eerst #,", {common(2, 5)}}},
+     .check = check_worked_line},
+    {.id = M_aftrekken_03_14_click,
+     .variants = 2,
+     .reads = "| # | # | # | - | # | # | # | = | ......",
+     .counts = {common(2, 5)},
+     .ranges = {{{2, 6}, {2, 14}, {3, 15}, {1, 5}, {1, 5}, {2, 15}, {6, 15}},
+                {{2, 6}, {2, 14}, {6, 15}, {1, 5}, {1, 7}, {6, 15}, {30, 60}}},
+     .right = a - b,
+     .wrong = {{"niet vereenvoudigd.", a - b},
+               {"niet gelijknamig", v[0] - v[3] + (v[1] - v[4]) / v[6]},
+               {"alleen de streepbreuken", a - v[4] / v[5]}},
+     .explains = {{"noemers eerst #,", {v[6]}}},
+     .check = check_worked_line},
+    {.id = L_prijzen_03_03_click,
+     .variants = 2,
+     .reads = "In @ wordt * jaar #/# deel van * het #/# deel. * | # euro",
+     .ranges = {{{2, 5}, {7, 12}, {1, 2}, {7, 12}}, {{1, 5}, {3, 12}, {1, 2}, {4, 12}}},
+     .words = {8},
+     .right = part_left,
+     .wrong = {{"eerste en de tweede prijs samen", 1 - part_left},
+               {"alleen de eerste prijs", 1 - first_prize},
+               {"alleen de tweede prijs", 1 - second_prize},
+               {"van elkaar afgetrokken", first_prize - second_prize},
+               {"deel vergist", part_left - 1 / common(1, 3)},
+               {"deel vergist", part_left + 1 / common(1, 3)},
+               {"ook de noemers", 1 - (v[0] + v[2]) / (v[1] + v[3])}},
+     .explains = {{"(hoeven|moeten)", {[](const reading& n) { return n[1] == n[3] ? 0 : 1; }}},
+                  {"Over is dus 1 - & = &", {1 - part_left, part_left}}},
+     .check =
+         [](const reading& n) {
+             all_in_simplest_form(n);
+             const double second = n[4] / n[0] * n[1] * n[2] / n[3];
+             EXPECT_TRUE(same(std::fmod(second + 1e-6, 1000), 1e-6)) << "the second prize is " << second;
+         }},
+    {.id = M_getallenlijn_03_03_click,
+     .variants = 2,
+     .reads = "| Gegeven breuk: | # | # |",
+     .ranges = {{{1, 19}, {3, 20}}, {{1, 14}, {7, 15}}},
+     .explains = {{"schrijven als &. Dat", {v[0] / v[1]}},
+                  {"\\(#/10) en", {floor(v[0] * 10 / v[1])}},
+                  {"\\(#/10). De", {floor(v[0] * 10 / v[1]) + 1}}},
+     .tips = {"(Ga eerst gelijknamig maken...|gelijknamig met de tienden)", "noemer #"},
+     .check = check_arrows},
+    {.id = M_grootste_kleinste_03_03_click,
+     .variants = 4,
+     .reads = "| Welke breuk is (GROTER|KLEINER) dan * | # | # | groen | # | # | wit | # | # | geel | # | # | rood",
+     .ranges = {{{0, 1}, {1, 15}, {3, 20}, {1, 15}, {3, 20}, {1, 11}, {3, 12}, {2, 24}, {6, 27}}},
+     .right = colour_asked,
+     .tips = {"vereenvoudigen. ", "en daarna"}},
+    {.id = M_olievat_03_06_click,
+     .variants = 5,
+     .reads = "eerst # liter olie. Een automonteur liet daar & liter * | $0 liter * | # | # | # | liter",
+     .ranges = {{{12.25, 88.75}, {2.25, 19.75}}},
+     .right = v[0] - v[1],
+     .wrong = {{"", v[0] - v[2]},
+               {"", v[0] - v[2] - glued / 100},
+               {"", v[0] - v[2] - glued / 10},
+               {"", v[0] - v[2] - 1},
+               {"", v[0] - 2 * v[2] + v[1]},
+               {"", v[0] + v[1]},
+               {"", v[0] - v[1] + 1},
+               {"", v[0] - v[1] - 1}},
+     .explains = {{"van & een breuk met een komma. Dat wordt dus # liter", {v[1], v[1]}},
+                  {"aftrekken van # liter. Dan krijg je # - # liter", {v[0], v[0], v[1]}}},
+     .tips = {"streepbreuk", "Bedenk dat & liter hetzelfde is als #"}},
+    {.id = M_snel_03_03_click,
+     .variants = 2,
+     .reads = "| Vereenvoudig: #/#",
+     .ranges = {{{4, 60}, {12, 70}}, {{9, 90}, {27, 99}}},
+     .right = v[0] / v[1],
+     .wrong = {{"nog niet klaar", v[0] / v[1]},
+               {"delen van de teller", shortened(-1, 0)},
+               {"delen van de teller", shortened(1, 0)},
+               {"delen van de noemer", shortened(0, -1)},
+               {"delen van de noemer", shortened(0, 1)},
+               {"hetzelfde getal", shortened(0, 0, false, true)},
+               {"hetzelfde getal", shortened(0, 0, true, false)}},
+     .explains = {{"delen door # en de", {divisor(0, 1)}}, {"getal # is het grootste", {divisor(0, 1)}}},
+     .ticks = {8, 15},
+     .check = check_shortened},
+    {.id = L_procenten_03_14_click,
+     .variants = 2,
+     .reads = "| # % =  .. deel",
+     .counts = {100, divisor(0, 1)},
+     .ranges = {{{5, 95}}, {{2, 98}}},
+     .right = v[0] / 100,
+     .wrong = {{"", 1 / v[0]},
+               {"", 1 - v[0] / 100},
+               {"", v[0] / (100 - v[0])},
+               {"", numerator / 100},
+               {"", v[0] / denominator},
+               {"", v[0] / 1000},
+               {"", v[0] / 200},
+               {"", (numerator - 1) / denominator},
+               {"", (numerator + 1) / denominator},
+               {"", numerator / (denominator - 1)}},
+     .explains = {{"kun je schrijven als &", {v[0] / 100}},
+                  {"vereenvoudigen tot & door de teller en de noemer door # te", {v[0] / 100, v[2]}},
+                  {"# % =  & deel", {v[0], v[0] / 100}}},
+     .tips = {"(Eerst: bedenk|Bedenk eerst)", "(Dan: schrijf|Maak van)"},
+     .check =
+         [](const reading& n) {
+             all_in_simplest_form(n);
+             int yellow = 0;
+             for (const box_op& box : n.exercise.blocks)
+                 if (box.pen.colour == geel) yellow += box.width * box.height;
+             EXPECT_EQ(yellow * 100, n[0] * n.exercise.blocks[0].width * n.exercise.blocks[0].height);
+         }},
+    {.id = L_stukken_03_14_click,
+     .variants = 14,
+     .of = {1, 3, 5, 7, 9, 11, 13},
+     .reads = "stuk AC een lengte heeft van &. Hoe lang is het stuk AB? | A | B | C | ? | &",
+     .counts = {marks(false), marks(true), v[1] - v[0]},
+     .ranges = {{{2.0 / 3, 50}, {2.0 / 3, 50}, {4, 10}, {1, 9}, {0, 0}}},
+     .right = v[0] * v[3] / v[2],
+     .wrong = {{"", lies::below}, {"", lies::above}},
+     .explains = {{"is het & deel van AC", {v[3] / v[2]}}, {"& : # = &", {v[0], v[2], v[0] / v[2]}}},
+     .tips = {"Eerste stap", "Tweede stap"},
+     .check = check_lengths},
+    {.id = L_stukken_03_14_click,
+     .variants = 14,
+     .of = {2, 4, 6, 8, 10, 12, 14},
+     .reads = "stuk AB een lengte heeft van &. Hoe lang is het stuk AC? | A | B | C | & | ?",
+     .counts = {marks(true), marks(false), v[1] - v[0]},
+     .ranges = {{{1.0 / 6, 45}, {1.0 / 6, 45}, {1, 9}, {4, 10}, {0, 0}}},
+     .right = v[0] * v[3] / v[2],
+     .wrong = {{"", lies::below}, {"", lies::above}},
+     .explains = {{"is het & deel van AC", {v[2] / v[3]}}, {"bestaat uit # van", {v[3]}}},
+     .tips = {"Eerste stap", "Tweede stap"},
+     .check = check_lengths},
+    {.id = M_tussen_in_03_14_click,
+     .variants = 2,
+     .reads = "| # | # | geel |",
+     .ranges = {{{1, 11}, {3, 12}}},
+     .right = interval(0),
+     .wrong = {{"", interval(-10)},
+               {"", interval(-3)},
+               {"", interval(-2)},
+               {"", interval(-1)},
+               {"", interval(1)},
+               {"", interval(2)},
+               {"", interval(3)},
+               {"", interval(10)}},
+     .explains = {{"omzetten: # delen door # geeft #", {v[0], v[1], floor(v[0] * 1000 / v[1]) / 1000}}},
+     .tips = {"(Eerste stap: zet|Maak eerst)", "(Tweede stap: verg|Kijk daarna)"}},
+    {.id = M_vereenvoudigen_03_14_click,
+     .variants = 2,
+     .of = {1},
+     .reads = "| # | # | = | 1 | .... | $1 | = | 1 | # | ....",
+     .ranges = {{{8, 76}, {6, 40}, {1, 11}}},
+     .right = says("# en #", v[0] - v[1], v[1] * v[2] / (v[0] - v[1])),
+     .wrong = {{"de volgorde niet", says("# en #", v[1] * v[2] / (v[0] - v[1]), v[0] - v[1])},
+               {"geen hele", says("# en #", v[0], v[1] * v[2] / (v[0] - v[1]))},
+               {"door hetzelfde getal", says("# en #", v[0] - v[1], v[1])}},
+     .explains = {{"nog # - # = # over", {v[0], v[1], v[0] - v[1]}}, {"nog door # delen", {(v[0] - v[1]) / v[2]}}}},
+    {.id = M_vereenvoudigen_03_14_click,
+     .variants = 2,
+     .of = {2},
+     .reads = "| # | # | # | = | # | .... | $2 | = | $3 | # | ....",
+     .counts = {v[3] - v[0]},
+     .ranges = {{{1, 4}, {8, 76}, {6, 40}, {2, 5}, {1, 11}, {1, 1}}},
+     .right = says("# en #", v[1] - v[2], v[2] * v[4] / (v[1] - v[2])),
+     .wrong = {{"de volgorde niet", says("# en #", v[2] * v[4] / (v[1] - v[2]), v[1] - v[2])},
+               {"geen hele", says("# en #", v[1], v[2] * v[4] / (v[1] - v[2]))},
+               {"door hetzelfde getal", says("# en #", v[1] - v[2], v[2])}},
+     .tips = {"Eerste stap", "Tweede stap"}},
+    {.id = Z_delen_03_14_click,
+     .variants = 4,
+     .reads = "| # | # | # | : | # | # | # | = | ... | geel |",
+     .ranges = {{{2, 5}, {1, 6}, {2, 8}, {1, 2}, {1, 7}, {2, 8}}},
+     .right = a / b,
+     .wrong = slips(true, {{"zonder de tweede breuk", a* b},
+                           {"apart gedeeld", v[0] / v[3] + v[1] / v[2] / (v[4] / v[5])},
+                           {"een hele te weinig", a / b - 1}}),
+     .explains = {{"Je krijgt & = &:", {a / b, a / b}}},
+     .tips = {"Eerste stap", "Tweede stap"},
+     .check = check_strokes},
+    {.id = Z_vermenigvuldigen_03_14_click,
+     .variants = 3,
+     .reads = "| # | # | # | x | # | # | # | = | ... | geel |",
+     .ranges = {{{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}},
+     .right = a * b,
+     .wrong = slips(false, {{"opgeteld", a + b},
+                            {"apart vermenigvuldigd", v[0] * v[3] + v[1] / v[2] * (v[4] / v[5])},
+                            {"een hele te veel", a* b + 1}}),
+     .explains = {{"Je krijgt & = &:", {a * b, a* b}}},
+     .check = check_strokes},
+    completing(M_aanvullen_1_03_14_click),
+    completing(M_aanvullen_2_03_14_click),
+};
 
 } // namespace
 } // namespace cijferwerf
