@@ -5,6 +5,8 @@
 #include "generators/gedeeld/tekening.h"
 #include "generators/oefeningen.h"
 
+#include <numeric>
+
 namespace cijferwerf {
 
 namespace {
@@ -138,90 +140,90 @@ void oefeningen::M_boodschap_05_07_click() {
          {"Nel", vrouw},    {"Henk", man},    {"Stien", vrouw},  {"Govert", man},   {"Mirjam", vrouw},
          {"Leo", man},      {"Marry", vrouw}, {"Sander", man},   {"Diana", vrouw},  {"Ruud", man},
          {"Ingrid", vrouw}, {"Robert", man},  {"Peibro", vrouw}, {"Arjan", man},    {"Nancy", vrouw}}};
-    // What is on the list: one of it, several, of what there is so much in a shop, and the prices in cents.
-    struct boodschap {
+    struct artikel {
         std::string_view soort, een, meer, per;
-        std::array<int, 4> prijzen;
+        std::array<int, 4> prijzen; // cents
     };
-    static constexpr std::array<boodschap, 4> winkel{
+    static constexpr std::array<artikel, 4> winkel{
         {{"suiker", "pak suiker", "pakken suiker", "/pak", {70, 80, 90, 120}},
          {"brood", "brood", "broden", "/stuk", {140, 160, 180, 200}},
          {"melk", "pak melk", "pakken melk", "/pak", {60, 70, 80, 90}},
          {"zout", "pak zout", "pakken zout", "/pak", {40, 50, 60, 70}}}};
-    struct lijst {
-        std::vector<boodschap> andere;
-        std::vector<int> aantallen, prijzen;
-        int halve_kilos, kiloprijs;
-
-        int aardappelen() const { return halve_kilos * kiloprijs / 2; }
-        int bedrag(std::size_t i) const { return aantallen[i] * prijzen[i]; }
-        int totaal() const {
-            int som = aardappelen();
-            for (std::size_t i = 0; i < andere.size(); ++i) som += bedrag(i);
-            return som;
-        }
+    struct boodschap {
+        std::string_view soort;
+        std::string op_briefje;
+        int kosten, van_een;
+    };
+    using boodschappen = std::vector<boodschap>;
+    const auto optellen = [](const boodschappen& alle, int boodschap::*wat) {
+        return std::accumulate(alle.begin(), alle.end(), 0, [=](int som, const boodschap& b) { return som + b.*wat; });
     };
     kies_variant(4);
     juiste_positie = 0;
     zaai();
     const persoon& wie = kies(namen);
     const bool vader = variant % 2 == 1;
-    const std::size_t soorten = variant <= 2 ? 2 : 3;
+    const std::size_t hoeveel = variant <= 2 ? 3 : 4;
     // The potatoes make the total end in 5 cents. An amount of 10 or 30 cents and some euros is paid with a euro less
     // in whole coins, and that is not what is asked here.
-    const lijst briefje = trek_tot(
+    const boodschappen briefje = trek_tot(
         [&] {
-            lijst l{{}, {}, {}, kies(std::array{3, 5}), kies(std::array{50, 70, 90, 150, 170, 190})};
-            for (const boodschap& b : geschud(winkel))
-                if (l.andere.size() < soorten) {
-                    l.andere.push_back(b);
-                    l.aantallen.push_back(trek_van(1, 4));
-                    l.prijzen.push_back(kies(b.prijzen));
-                }
-            return l;
+            const int halve_kilos = kies(std::array{3, 5});
+            const int kiloprijs = kies(std::array{50, 70, 90, 150, 170, 190});
+            boodschappen alle{
+                {"aardappelen",
+                 regel(kaal(komma(halve_kilos * 5, 1)), " kg aardappelen (", kaal(euro(kiloprijs)), "/kg)"),
+                 halve_kilos * kiloprijs / 2, kiloprijs}};
+            for (const artikel& a : geschud(winkel)) {
+                if (alle.size() == hoeveel) break;
+                const int aantal = trek_van(1, 4);
+                const int prijs = kies(a.prijzen);
+                alle.push_back(
+                    {a.soort,
+                     regel(kaal(aantal), " ", aantal == 1 ? a.een : a.meer, " (", kaal(euro(prijs)), a.per, ")"),
+                     aantal * prijs, prijs});
+            }
+            return alle;
         },
-        [](const lijst& l) { return l.totaal() % 100 != 5 && l.totaal() % 100 != 25; });
-    const int totaal = briefje.totaal();
+        [&](const boodschappen& alle) {
+            const int centen = optellen(alle, &boodschap::kosten) % 100;
+            return centen != 5 && centen != 25;
+        });
+    const int totaal = optellen(briefje, &boodschap::kosten);
     const int mee = totaal + 5;
     const std::string_view ouder = vader ? "Vader" : "Moeder";
 
     plaatje.picture("boodschap.bmp");
     plaatje.fore_colour = donkerblauw;
     plaatje.text_size = 12;
-    int y = 300;
-    druk(2290, y, kaal(komma(briefje.halve_kilos * 5, 1)), " kg aardappelen (", kaal(euro(briefje.kiloprijs)), "/kg)");
-    std::string namen_van_boodschappen = "aardappelen", som = regel(kaal(euro(briefje.aardappelen())));
-    int van_elk_een = briefje.aardappelen();
-    for (std::size_t i = 0; i < soorten; ++i) {
-        const boodschap& b = briefje.andere[i];
-        const int aantal = briefje.aantallen[i], prijs = briefje.prijzen[i];
-        druk(2290, y += 320, kaal(aantal), " ", aantal == 1 ? b.een : b.meer, " (", kaal(euro(prijs)), b.per, ")");
-        namen_van_boodschappen += regel(i + 1 == soorten ? " en " : ", ", b.soort);
-        som += regel(" +", euro(briefje.bedrag(i)));
-        van_elk_een += prijs;
+    std::string soorten, som;
+    for (int y = 300; const boodschap& b : briefje) {
+        druk(2290, y, b.op_briefje);
+        y += 320;
+        soorten += regel(soorten.empty() ? "" : &b == &briefje.back() ? " en " : ", ", b.soort);
+        som += regel(som.empty() ? "" : " +", euro(b.kosten));
     }
 
-    vraag(regel(wie.naam, " haalt voor ", wie.zijn(), vader ? " vader" : " moeder"), regel(namen_van_boodschappen, "."),
+    vraag(regel(wie.naam, " haalt voor ", wie.zijn(), vader ? " vader" : " moeder"), regel(soorten, "."),
           regel(ouder, " geeft zo min mogelijk geld mee."), regel(ouder, " heeft geen munten van 1, 2, 5 en"),
           "10 eurocent. ", regel("Hoeveel krijgt ", wie.naam, " mee?"));
 
-    // Not rounded, rounded down, to the next larger coin or the next euro, one of each, something left out.
+    // Not rounded, rounded down, to a larger coin or the next euro; one of each, something left out or one too many.
     drie_andere(mee, euro,
                 {{totaal},
                  {totaal - 5},
                  {mee + 10},
                  {mee + 20},
                  {(mee + 99) / 100 * 100},
-                 {van_elk_een},
-                 {mee - briefje.bedrag(0)},
-                 {mee + briefje.kiloprijs}});
+                 {optellen(briefje, &boodschap::van_een)},
+                 {mee - briefje.back().kosten},
+                 {mee + briefje.back().van_een}});
     tip_1("De afzonderlijke bedragen moet je eerst optellen.");
     tip_2("Tel alle bedragen op en bedenk dan dat", regel(ouder, " niet kan betalen met munten van"),
           regel(kaal(euro(5)), " en", euro(10), " (maar wel met"), "munten van 20 en 50 eurocent).");
 
     uitleg("Als je alle bedragen goed bij elkaar optelt,",
-           regel("zie je dat deze boodschappen", euro(totaal), " kosten."),
-           regel("Want ", som, " =", euro(totaal), "."),
+           regel("zie je dat deze boodschappen", euro(totaal), " kosten."), regel("Want", som, " =", euro(totaal), "."),
            regel("Aangezien ", ouder, " geen munten van 1, 2, 5 en 10 eurocent heeft,"),
            regel("krijgt ", wie.naam, " dus", euro(mee), " mee."));
 }

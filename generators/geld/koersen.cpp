@@ -53,7 +53,7 @@ void teken_koersen(drawing& on, const koersen& alle) {
     on.print_at(links, kop, "KOERSEN");
     on.print_right(links + breedte, kop, "OVERZICHT");
     tabel t(on, links, kop + 320, breedte, rijhoogte,
-            {{"", links + 80}, {"bank koopt", 3500, true}, {"bank verkoopt", 5000, true}});
+            {{"in euro's", links + 80}, {"bank koopt", 3500, true}, {"bank verkoopt", 5000, true}});
     for (std::size_t i = 0; i < valutas.size(); ++i)
         t.rij(valutas[i].in_tabel, komma(alle[i].laag, 2), komma(alle[i].hoog, 2));
 }
@@ -134,7 +134,7 @@ void oefeningen::L_vreemd_geld_2_05_07_click() {
            regel("tegen de laagste koers:", komma(nu.laag, 2), ","),
            regel("Dit betekent dat je voor elke ", geld.een, euro(nu.laag)),
            regel("terug krijgt. Voor", bedrag, " ", geld.meer, " krijg je"),
-           regel("dus", bedrag, " x", komma(nu.laag, 2), " =", komma_kort(centen, 2),
+           regel("dus", bedrag, " x", komma(nu.laag, 2), " =", afgerond ? komma(centen, 2) : tekst(euros),
                  afgerond ? ". Dat zijn, naar beneden afgerond," : ". Dat zijn"),
            regel(kaal(duizend(euros)), " HELE euro's terug."));
 }

@@ -84,7 +84,7 @@ void oefeningen::M_brandstof_05_07_click() {
     juiste_positie = 0;
     zaai();
     const persoon wie = variant == 1 ? persoon{"Een man", man} : persoon{"Een vrouw", vrouw};
-    const int liters = trek_van(21, 59);
+    const int liters = trek_van(21, 52);
     const int literprijs = trek_van(111, 189);
     const int bedrag = liters * literprijs;
 

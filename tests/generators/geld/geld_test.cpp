@@ -74,15 +74,6 @@ double to_bring(const reading& n) {
     return total / 100.0;
 }
 
-// What a counter of the pump says; its digits are set wide.
-formula counter(std::size_t word) {
-    return [=](const reading& n) {
-        std::string digits = n.exercise.words[word];
-        std::erase(digits, ' ');
-        return decimal(digits);
-    };
-}
-
 double days_of(const reading& n) {
     return std::set<std::string>{"april", "juni", "september", "november"}.contains(n.words[0]) ? 30 : 31;
 }
@@ -91,6 +82,7 @@ const formula months = of_table({3, 6, 9, 6, 18, 24, 30}, 0), weeks = of_table({
 const formula extra = v[3] + v[4] / 100, change = v[2] + extra - v[1];
 const formula paid = (v[1] + 1) * v[2] + (v[3] + 1) * v[4];
 const formula coins_in = v[1] * 100 / v[0], exchanged = of_table({1, 2, 3, 6}, 0) * v[1];
+const formula pumped = v[1] * 10 + v[2] + v[3] / 10 + v[4] / 100, litres = v[5] * 10 + v[6]; // digit by digit
 const formula hours = v[2] + v[3] + v[4] + v[5] + v[6] + v[7];
 const formula cds = v[0] * v[1], half = v[0] / 2, threes = rounded_down(v[1] / 3);
 
@@ -115,14 +107,14 @@ const exercise_rows money{
     {.id = L_snel_05_07_click,
      .variants = 6,
      .reads = "| Hoeveel munten van # eurocent | gaan er in € #,-?",
-     .ranges = {{{1, 50}, {2, 10}}},
+     .counts = {[](const reading& n) {
+         const double right = n[1] * 100 / n[0];
+         const auto gap = [=](double each) { return std::abs(each - right); };
+         return std::ranges::count_if(
+             std::array{5, 10, 15}, [&](int near) { return std::ranges::count(n.exercise.numbers(), near, gap) == 1; });
+     }},
+     .ranges = {{{1, 50}, {2, 10}, {3, 3}}},
      .right = coins_in,
-     .wrong = {{"", coins_in - 5},
-               {"", coins_in + 5},
-               {"", coins_in - 10},
-               {"", coins_in + 10},
-               {"", coins_in - 15},
-               {"", coins_in + 15}},
      .explains = {{"In een euro * # *, dus in € #,- zitten # x ", {100 / v[0], v[1], v[1]}}},
      .ticks = {10}},
     {.id = M_niet_gepast_05_07_click,
@@ -210,12 +202,11 @@ const exercise_rows money{
      .explains = {{"er in totaal #. * Dus: # x", {hours, hours}}}},
     {.id = M_brandstof_05_07_click,
      .variants = 2,
-     .reads = "(Een man|Een vrouw) heeft bij een pompstation {zijn|haar} auto volgetankt.",
-     .counts = {counter(2), counter(3)},
-     .ranges = {{{0, 1}, {23.31, 111.51, 3}, {21, 59}}},
-     .right = v[1] / v[2],
+     .reads = "(Een man|Een vrouw) heeft bij een pompstation {zijn|haar} auto volgetankt. * | #  #, #  # | #  #",
+     .ranges = {{{0, 1}, {2, 9}, {0, 9}, {0, 9}, {0, 9}, {2, 5}, {0, 9}}},
+     .right = pumped / litres,
      .wrong = either_side,
-     .explains = {{"hoeveel (hij|zij) voor # liters * Dus € #* : #", {v[0], v[2], v[1], v[2]}}},
+     .explains = {{"hoeveel (hij|zij) voor # liters * Dus € #* : #", {v[0], litres, pumped, litres}}},
      .tips = {"Je moet delen.", "een deling doen"}},
     {.id = Z_huren_05_07_click,
      .variants = 4,
