@@ -25,7 +25,8 @@ assen::assen(drawing& on, const vlak& plot, asschaal langs_x, asschaal langs_y)
       plot_(plot),
       langs_x_(langs_x),
       langs_y_(langs_y) {
-    if (langs_x.tot <= langs_x.van || langs_y.tot <= langs_y.van || langs_x.stap < 1 || langs_y.stap < 1)
+    if (langs_x.tot <= langs_x.van || langs_y.tot <= langs_y.van || langs_x.stap < 1 || langs_y.stap < 1 ||
+        langs_x.een < 1 || langs_y.een < 1)
         throw checked_error("an axis without length");
     const zelfde_stand bewaard(on);
     on.filled_box(plot.links, plot.boven, plot.breedte, plot.hoogte, wit);
@@ -52,12 +53,12 @@ void assen::lijnen_langs() {
 void assen::getallen_links(std::string_view achter, int om) {
     for (int waarde = langs_y_.van; waarde <= langs_y_.tot; waarde += om == 0 ? langs_y_.stap : om)
         on_.print_right(plot_.links - room, y(waarde) - halve_regel(on_.text_size),
-                        regel(kaal(duizend(waarde)), achter));
+                        regel(kaal(duizend(waarde / langs_y_.een)), achter));
 }
 
 void assen::getallen_onder(int om) {
     for (int waarde = langs_x_.van; waarde <= langs_x_.tot; waarde += om == 0 ? langs_x_.stap : om)
-        on_.print_centred(x(waarde), plot_.onder() + room / 2, kaal(duizend(waarde)));
+        on_.print_centred(x(waarde), plot_.onder() + room / 2, kaal(duizend(waarde / langs_x_.een)));
 }
 
 void assen::namen_onder(const std::vector<std::string>& namen) {

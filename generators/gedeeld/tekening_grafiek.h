@@ -6,9 +6,11 @@
 
 namespace cijferwerf {
 
-// The values along an axis: from and to at its ends, a gridline and a label at each step.
+// The values along an axis: from and to at its ends, a gridline and a label at each step. Where values are tenths of
+// what the labels count, `een` is 10.
 struct asschaal {
     int van = 0, tot = 0, stap = 1;
+    int een = 1;
 };
 
 // Two axes around a plot rectangle. The labels stand outside it, so that no gridline crosses one: leave about 230 below
