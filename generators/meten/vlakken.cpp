@@ -71,10 +71,9 @@ void oefeningen::B_rechthoek_07_12_click() {
         });
     const int in_m = lange_in_m ? r.lang : r.kort, in_cm = lange_in_m ? r.kort : r.lang;
     const bool antwoord_in_m = kop();
-    const auto ergens = [this](int cm) {
-        const bool in = kop();
-        return lengte{cm * 10, in};
-    };
+    // In which unit the mistakes are told that could be made in either.
+    std::array<bool, 5> ook_in_m{};
+    for (bool& elk : ook_in_m) elk = kop();
     const lengte juist{20 * (r.lang + r.kort), antwoord_in_m};
     const std::string zijde_m = regel(komma_kort(in_m, 2), " m"), zijde_cm = regel(in_cm, " cm");
 
@@ -93,15 +92,18 @@ void oefeningen::B_rechthoek_07_12_click() {
           "Bereken de omtrek van deze", "rechthoek.");
 
     const std::vector<keuze<lengte>> vergissingen{
-        {ergens(r.lang + r.kort), {"Je hebt maar twee zijden opgeteld.", "Een rechthoek heeft vier zijden."}},
-        {ergens(2 * r.lang + r.kort), {"Je hebt maar drie zijden opgeteld.", "Een rechthoek heeft vier zijden."}},
-        {ergens(r.lang + 2 * r.kort), {"Je hebt maar drie zijden opgeteld.", "Een rechthoek heeft vier zijden."}},
+        {{10 * (r.lang + r.kort), ook_in_m[0]},
+         {"Je hebt maar twee zijden opgeteld.", "Een rechthoek heeft vier zijden."}},
+        {{10 * (2 * r.lang + r.kort), ook_in_m[1]},
+         {"Je hebt maar drie zijden opgeteld.", "Een rechthoek heeft vier zijden."}},
+        {{10 * (r.lang + 2 * r.kort), ook_in_m[2]},
+         {"Je hebt maar drie zijden opgeteld.", "Een rechthoek heeft vier zijden."}},
         {{2 * (in_m / 10 + in_cm * 10), false}, {"Je hebt meters en centimeters zomaar bij elkaar", "opgeteld."}},
         {{200 * (in_m / 10 + in_cm * 10), true}, {"Je hebt meters en centimeters zomaar bij elkaar", "opgeteld."}},
         {{20 * (in_m / 10 + in_cm), false}, {"Eén meter is niet 10 cm, maar 100 cm."}},
         {{20 * (in_m + 10 * in_cm), true}, {"Eén meter is niet 10 cm, maar 100 cm."}},
-        {ergens(4 * r.lang), {"Niet alle vier de zijden zijn even lang."}},
-        {ergens(4 * r.kort), {"Niet alle vier de zijden zijn even lang."}}};
+        {{40 * r.lang, ook_in_m[3]}, {"Niet alle vier de zijden zijn even lang."}},
+        {{40 * r.kort, ook_in_m[4]}, {"Niet alle vier de zijden zijn even lang."}}};
     drie_andere(
         juist, [](const lengte& l) { return l.tekst(); }, vergissingen);
 
