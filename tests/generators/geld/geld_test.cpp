@@ -83,6 +83,7 @@ const formula extra = v[3] + v[4] / 100, change = v[2] + extra - v[1];
 const formula paid = (v[1] + 1) * v[2] + (v[3] + 1) * v[4];
 const formula coins_in = v[1] * 100 / v[0], exchanged = of_table({1, 2, 3, 6}, 0) * v[1];
 const formula pumped = v[1] * 10 + v[2] + v[3] / 10 + v[4] / 100, litres = v[5] * 10 + v[6]; // digit by digit
+const formula sub_variant = [](const reading& n) { return n.variant(); };
 const formula hours = v[2] + v[3] + v[4] + v[5] + v[6] + v[7];
 const formula cds = v[0] * v[1], half = v[0] / 2, threes = rounded_down(v[1] / 3);
 
@@ -153,7 +154,9 @@ const exercise_rows money{
      .words = {10, 5, 10, 5, 5},
      .right = rounded_down(v[0] / v[3]),
      .wrong = either_side,
-     .explains = {{"koers: #, * moet je € # betalen. * getal: #/#", {v[3], v[3], v[0], v[3]}}},
+     .explains = {{"koers: #, dat wil zeggen voor een (Amerikaanse dollar|Australische dollar|Canadese "
+                   "dollar|Engelse pond|Zwitserse franc) moet je € # betalen. * getal: #/#",
+                   {v[3], sub_variant - 1, v[3], v[0], v[3]}}},
      .tips = {"Weet je dat je de hoogste", "Doe een deling en gebruik de hoogste"}},
     {.id = L_vreemd_geld_2_05_07_click,
      .variants = 5,
@@ -163,7 +166,9 @@ const exercise_rows money{
      .words = {10, 5, 10, 5},
      .right = rounded_down(v[0] * v[1]),
      .wrong = either_side,
-     .explains = {{"koers: #, * € # terug krijgt. Voor # * dus # x #", {v[1], v[1], v[0], v[0], v[1]}}},
+     .explains = {{"koers: #, Dit betekent dat je voor elke (Amerikaanse dollar|Australische dollar|Canadese "
+                   "dollar|Engelse pond|Zwitserse franc) € # terug krijgt. Voor # * dus # x #",
+                   {v[1], sub_variant - 1, v[1], v[0], v[0], v[1]}}},
      .tips = {"Weet je dat je de laagste", "Doe een vermenigvuldiging en gebruik de laagste"}},
     {.id = M_boodschap_05_07_click,
      .variants = 4,
@@ -173,7 +178,7 @@ const exercise_rows money{
      .ranges = {{{0, 1}, {0, 1}, {0, 1}, {1.5, 2.5}, {.5, 1.9}, {3, 4}}},
      .right = to_bring,
      .wrong = either_side,
-     .explains = {{"boodschappen € # kosten", {[](const reading& n) { return to_bring(n) - .05; }}}},
+     .explains = {{"boodschappen € # kosten. Want € # +", {formula(to_bring) - .05, v[3] * v[4]}}},
      .tips = {"De afzonderlijke bedragen", "(Vader|Moeder) niet kan betalen"}},
     {.id = M_CDs_05_07_click,
      .variants = 2,
