@@ -104,7 +104,7 @@ void oefeningen::M_brandstof_05_07_click() {
                  {literprijs - 1},
                  {literprijs + 1}});
     tip_1("Je moet delen.");
-    tip_2("Je moet een deling doen: deel het hele bedrag", "door het aantal liters.");
+    tip_2("Je moet een deling doen.", "Deel het hele bedrag door het aantal liters.");
 
     uitleg(regel("Je weet hoeveel ", wie.hij(), " voor", liters, " liters brandstof"),
            "betaald heeft. Wil je weten hoeveel één liter", "kost, dan moet je dat hele bedrag delen door het aantal",
