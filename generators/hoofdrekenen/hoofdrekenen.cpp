@@ -3,13 +3,6 @@
 namespace cijferwerf {
 
 // Not written yet: each leaves the record blank.
-void oefeningen::B_tafels_09_02_click() {}
-void oefeningen::L_aftrekken_09_01_click() {}
-void oefeningen::L_delen_1_09_06_click() {}
-void oefeningen::L_keer_09_02_click() {}
-void oefeningen::M_delen_2_09_06_click() {}
-void oefeningen::M_nullen_09_06_click() {}
-void oefeningen::Z_komma_09_06_click() {}
 void oefeningen::B_gestreept_10_03_click() {}
 void oefeningen::B_schatten_1_10_09_click() {}
 void oefeningen::L_betegelen_10_12_click() {}
