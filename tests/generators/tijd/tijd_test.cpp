@@ -1,0 +1,230 @@
+// Time: what is drawn, the answers worked out again from what a pupil sees, and each wrong answer as the mistake that
+// its feedback names.
+#include "generators/gedeeld/kalender.h"
+
+#include "tests/support/exercise_rows.h"
+#include "tests/support/pattern.h"
+
+#include <set>
+
+namespace cijferwerf {
+namespace {
+
+using enum oefening_id;
+
+// What a table says for the sub-variant.
+formula by_variant(std::vector<double> values) {
+    return [=](const reading& n) { return values.at(static_cast<std::size_t>(n.variant() - 1)); };
+}
+
+int month_number(const std::string& name) {
+    return static_cast<int>(std::ranges::find(maanden, std::string_view(name), &maand::naam) - maanden.begin()) + 1;
+}
+
+// The date of birth in this order of its parts.
+formula in_figures(const char* order) {
+    return [=](const reading& n) {
+        std::string figures;
+        for (const char part : std::string(order)) {
+            const int number = part == 'm' ? month_number(n.words[0]) : static_cast<int>(n[part == 'd' ? 0 : 1]);
+            figures += std::string(figures.empty() ? "" : "-") + (number < 10 ? "0" : "") + std::to_string(number);
+        }
+        return figures;
+    };
+}
+
+double month_length(const reading& n) {
+    const int number = month_number(n.words[0]);
+    return number == 2 ? 28 : std::set{4, 6, 9, 11}.contains(number) ? 30 : 31;
+}
+std::string due(const reading& n) {
+    const auto day = static_cast<int>(n[1] + n[2] * 7), length = static_cast<int>(n[3]);
+    const auto month = static_cast<std::size_t>(month_number(n.words[0]) - (day <= length));
+    return regel(kaal(day <= length ? day : day - length), " ", maanden.at(month).naam);
+}
+
+void check_wait(const reading& n) {
+    const std::string_view women = "Marsha Irene Marianne Martje Inge Diana Yvonne Karin Adisa Malti";
+    EXPECT_EQ(women.find(n.words[0]) != women.npos, n[0] == 1);
+    EXPECT_EQ(n[4] < n[2], n.variant() % 2 == 0) << "minutes that are borrowed";
+    EXPECT_EQ(n.words[1], n.exercise.words[4]) << "the destination on the board";
+}
+
+void check_board(const reading& n) {
+    double previous = -1;
+    bool listed = false;
+    for (std::size_t i = 3; i < n.exercise.words.size(); i += 3) {
+        const double time = number_of(n.exercise.words[i + 1]).value();
+        EXPECT_LT(previous, time);
+        previous = time;
+        listed |= n.exercise.words[i] == n.words[1] && time == n[0] * 60 + n[1];
+    }
+    EXPECT_TRUE(listed && n.exercise.words.size() == 15);
+}
+
+formula offset(std::size_t city) {
+    return [=](const reading& n) { return decimal(*(std::ranges::find(n.exercise.words, n.words[city]) + 1)); };
+}
+int hour_here(const reading& n) { return static_cast<int>(n[0]) + (n[1] >= 2 ? 12 : 0); }
+int hour_there(const reading& n) { return hour_here(n) + static_cast<int>(n[3] - n[2]); }
+int hours_between(const reading& n) { return std::abs(hour_there(n) - hour_here(n)); }
+int earlier(const reading& n) { return hour_there(n) < hour_here(n); }
+// The time in the other city and so many hours, as a dial and the part of the day tell it.
+formula there(int more) {
+    return [=](const reading& n) {
+        const int hour = (hour_there(n) + more) % 24;
+        const char* part = hour < 6 ? "'s nachts" : hour < 12 ? "'s morgens" : hour < 18 ? "'s middags" : "'s avonds";
+        return std::to_string((hour + 11) % 12 + 1) + ":00 uur " + part;
+    };
+}
+void check_same_day(const reading& n) {
+    const std::set clear{1, 2, 3, 4, 7, 8, 9, 10, 11, 13, 14, 15, 16, 17, 19, 20, 21, 22, 23};
+    EXPECT_TRUE(clear.contains(hour_here(n)) && clear.contains(hour_there(n)) && n.exercise.words.size() == 49);
+}
+
+const std::vector<mistake> either_side{{"", lies::below}, {"", lies::above}};
+const formula units = by_variant({12, 7, 24, 60, 60});
+const formula counter = [](const reading& n) {
+    std::string digits = n.exercise.words[1];
+    std::erase(digits, ' ');
+    return decimal(digits);
+};
+const formula grid = by_variant({300, 1300}), year = rounded(v[0] / grid) * grid, parts = by_variant({12, 52});
+const formula played = by_variant({1, 1, 2, 2}), over = v[0] - played * 60;
+const formula waited = (v[3] - v[1]) * 60 + v[4] - v[2];
+const formula to_school = (v[2] - v[0]) * 60 + v[3] - v[1];
+const formula arrival = v[0] * 60 + v[1] + v[2] * 60 + v[3] * 15 + v[4];
+formula whole_hours(const formula& minutes) {
+    return [=](const reading& n) { return std::floor(std::get<double>(minutes(n)) / 60); };
+}
+
+const exercise_rows time_and_dates{
+    {.id = M_snel_06_04_click,
+     .variants = 5,
+     .reads = "| # (jaren|weken|dagen|uren|minuten) = ... {maanden|dagen|uren|minuten|seconden}?",
+     .ranges = {{{2, 9}, {0, 0}}, {{2, 9}, {1, 1}}, {{2, 9}, {2, 2}}, {{2, 9}, {3, 3}}, {{2, 9}, {4, 4}}},
+     .right = v[0] * units,
+     .wrong = either_side,
+     .explains = {{"Eén (jaar|week|dag|uur|minuut) bestaat uit #", {v[1], units}}, {"hebben # * # keer", {v[0], v[0]}}},
+     .ticks = {9, 9, 15, 9, 9},
+     .check =
+         [](const reading& n) {
+             const auto made = n.exercise.numbers();
+             for (const std::size_t i : {1U, 2U, 3U})
+                 EXPECT_EQ(std::abs(made[i] - made[0]), 2.0 * static_cast<double>(i));
+         }},
+    {.id = B_datum_06_04_click,
+     .variants = 2,
+     .reads = "| #  @  #",
+     .ranges = {{{10, 28}, {1950, 1999}}, {{1, 9}, {1950, 1999}}},
+     .words = {12},
+     .right = in_figures("dmj"),
+     .wrong = {{"de maand en de dag (verwisseld|door)", in_figures("mdj")},
+               {"(jaar en de maand|maand en het jaar)", in_figures("djm")},
+               {"(dag en het jaar|jaar en de dag)", in_figures("jmd")}},
+     .explains = {{"getal #, * jaartal #.", {v[0], v[1]}}}},
+    {.id = L_boeken_06_04_click,
+     .variants = 3,
+     .reads = "(Een meisje|Een jongen) neemt * voor {haar|hem} ingevuld is. Op welke datum moet {zij de boeken|hij ze} "
+              "weer * UITGELEEND: | # @ | *uitleentermijn: | # weken",
+     .counts = {month_length},
+     .ranges = {{{0, 1}, {1, 17}, {2, 3}, {28, 31}},
+                {{0, 1}, {4, 28}, {2, 4}, {30, 30}},
+                {{0, 1}, {5, 29}, {2, 4}, {31, 31}}},
+     .words = {11},
+     .right = due,
+     .explains = {{"# weken hebben # dagen. * nog # - # = # dagen.", {v[2], v[2] * 7, v[3], v[1], v[3] - v[1]}},
+                  {"Dus na # weken *# dagen", {v[2], v[2] * 7}}},
+     .tips = {"(mag het uitlenen duren|eerst dagen maken|in dagen omgezet)",
+              "(bij de datum|nog in dezelfde|in de volgende)"}},
+    {.id = M_kilometers_06_04_click,
+     .variants = 2,
+     .reads = "gemiddeld ongeveer per ",
+     .counts = {counter, v[0] - year},
+     .ranges = {{{8970, 39030, 300}, {-30, 30}}, {{15570, 39030, 60}, {-30, 30}}},
+     .right = year / parts,
+     .wrong = {{"(een week|een maand) berekend", rounded(year / by_variant({52, 12}))},
+               {"niet goed afgerond", rounded((year - 1000) / parts)},
+               {"niet goed afgerond", rounded((year + 1000) / parts)},
+               {"(tien maanden|48 weken)", rounded(year / by_variant({10, 48}))}},
+     .explains = {{"Het getal # ligt vlak bij het getal #. * (twaalf|52) * # : # = ",
+                   {v[0], year, by_variant({0, 1}), year, parts}}}},
+    {.id = B_wedstrijd_06_04_click,
+     .variants = 4,
+     .reads = "totaal # minuten. * | @-(NOORD|OOST|ZUID|WEST) | @ – @ | @ # @ | aanvang #:# uur",
+     .counts = {played, v[4] - by_variant({0, 5, 0, 5})},
+     .ranges = {{{65, 174}, {0, 3}, {1, 31, 2}, {10, 20}, {0, 5}, {1, 2}, {0, 0}}},
+     .words = {3, 24, 24, 7, 12},
+     .right = v[3] * 60 + v[4] + v[0],
+     .wrong = either_side,
+     .explains = {{"duurt # minuten. * zeggen: # uur en # minuten", {v[0], played, over}},
+                  {"eerst # uur verder, dan kom je op #:# uur. *nog # ", {played, v[3] + played, v[4], over}}},
+     .tips = {"(te beginnen hoeveel|Reken eerst uit hoeveel) uur", "Tel vervolgens dat aantal"}},
+    {.id = L_wachten_06_04_click,
+     .variants = 4,
+     .reads = "@ gaat per vliegtuig naar @. * laat (hij|zij) de vertrekhal * Hoe lang moet @ wachten? | #:# | * | "
+              "VERTREKTIJD: | #:# | PIER",
+     .ranges = {{{0, 1}, {6, 16}, {5, 55, 3}, {8, 22}, {5, 55, 3}}},
+     .words = {20, 20, 20},
+     .right = says("# uur+ # min", whole_hours(waited), waited - whole_hours(waited) * 60),
+     .explains = {{"horloge is #:# uur. * met # minuten tot #:00 uur.", {v[1], v[2], 60 - v[2], v[1] + 1}},
+                  {"naar #:# uur nog # uur en # minuten verder. # + #",
+                   {v[3], v[4], v[3] - v[1] - 1, v[4], 60 - v[2], v[4]}}},
+     .tips = {"(Kijk op het horloge|Hoe laat is het|Lees het horloge|Begin met de tijd)", "het vertrek bij op"},
+     .check = check_wait},
+    {.id = M_naar_school_06_04_click,
+     .variants = 4,
+     .reads = "De wekker van @ loopt om #:# uur af. @ moet om #:# uur op school zijn.",
+     .counts = {v[0] - by_variant({7, 6, 7, 6})},
+     .ranges = {{{6, 7}, {10, 55}, {8, 8}, {15, 50}, {0, 0}}},
+     .words = {10, 10},
+     .right = to_school,
+     .wrong = {{"(60, niet 100|een uur 100) minuten", to_school + (v[2] - v[0]) * 40},
+               {"een uurtje", to_school - 60},
+               {"een uurtje", to_school + 60},
+               {"(nog wat|een beetje)", to_school - 10},
+               {"(nog wat|een beetje)", to_school - 5},
+               {"(nog wat|een beetje)", to_school + 5},
+               {"(nog wat|een beetje)", to_school + 10}},
+     .explains = {{"om #:# uur af. * nog # minuten nodig. Dan is het #:00", {v[0], v[1], 60 - v[1], v[0] + 1}},
+                  {"De school begint om #:# uur* nog eens # minuten", {v[2], v[3], v[3]}}}},
+    {.id = M_trein_06_04_click,
+     .variants = 4,
+     .reads = "@ gaat om #:# uur per trein naar @. De treinreis zelf duurt # uur en # kwartier. De trein heeft echter "
+              "onderweg # minuten vertraging.",
+     .ranges = {{{6, 17}, {0, 59, 2}, {1, 3}, {1, 1}, {3, 14}},
+                {{6, 17}, {0, 59, 2}, {1, 3}, {2, 2}, {3, 14}},
+                {{6, 17}, {0, 59, 2}, {1, 3}, {3, 3}, {3, 14}},
+                {{6, 17}, {0, 59, 2}, {1, 3}, {3, 3}, {17, 29}}},
+     .words = {20, 12},
+     .right = arrival,
+     .wrong = either_side,
+     .explains = {{"reistijd is # uur + # kwartier + # minuten.", {v[2], v[3], v[4]}},
+                  {"Dat is dus # + # + # =", {v[2] * 60, v[3] * 15, v[4]}},
+                  {"tel je op bij #:# uur", {v[0], v[1]}}},
+     .tips = {"(eerst de reistijd uitrekenen|Bereken eerst de reistijd)", "daarbij de vertraging niet"},
+     .check = check_board},
+    {.id = Z_wereldtijden_06_04_click,
+     .variants = 4,
+     .reads = "Als het in @ #:00 uur ('s nachts|'s morgens|'s middags|'s avonds) is, hoe laat is het dan in @?",
+     .counts = {offset(0), offset(1)},
+     .ranges = {{{1, 11}, {0, 3}, {-8, -1}, {-8, -1}},
+                {{1, 11}, {0, 3}, {-8, -1}, {1, 10}},
+                {{1, 11}, {0, 3}, {1, 10}, {-8, -1}},
+                {{1, 11}, {0, 3}, {1, 10}, {1, 10}}},
+     .words = {22, 22},
+     .right = there(0),
+     .wrong = {{"een uur", there(-1)},
+               {"een uur", there(1)},
+               {"een paar uurtjes", there(-3)},
+               {"een paar uurtjes", there(-2)},
+               {"een paar uurtjes", there(2)},
+               {"een paar uurtjes", there(3)},
+               {"deel van de dag", there(12)}},
+     .explains = {{"is het dus # uur (later|vroeger) dan in", {hours_between, earlier}},
+                  {"#:00 uur (+|-) # uur geeft #:00", {hour_here, earlier, hours_between, hour_there}}},
+     .check = check_same_day},
+};
+
+} // namespace
+} // namespace cijferwerf
