@@ -26,7 +26,7 @@ std::vector<keuze<kommagetal>> maatsom::vergissingen() const {
          {eerste_om ? "Je hebt het tweede getal omgerekend." : "Je hebt het eerste getal omgerekend.",
           eerste_om ? "Reken het eerste getal om." : "Reken het tweede getal om."}},
         {verzet(a + b, 1), {"Je hebt beide getallen omgerekend.", "Eén ervan heeft al de juiste eenheid."}},
-        {goed > b ? goed - b : b - goed, {"Je hebt de twee van elkaar afgetrokken."}},
+        {goed > b ? goed - b : b - goed, {"Je hebt de maten van elkaar afgetrokken,", "maar je moet ze optellen."}},
         {verzet(a, -1) + b,
          {omlaag ? "Je hebt gedeeld door 10 in plaats van" : "Je hebt vermenigvuldigd met 10 in plaats van",
           omlaag ? "vermenigvuldigd met 10." : "gedeeld door 10."}},
