@@ -106,9 +106,9 @@ void oefeningen::L_wachten_06_04_click() {
     plaatje.text_size = 12;
     const auto op_bord = [this](int y, std::string_view kop, std::string_view tekst) {
         plaatje.fore_colour = wit;
-        druk(2300, y, kop);
+        druk(2180, y, kop);
         plaatje.fore_colour = geel;
-        druk(3990, y, tekst);
+        druk(3810, y, tekst);
     };
     op_bord(300, "VLUCHT:", regel("VL", vlucht));
     op_bord(700, "BESTEMMING:", stad);
@@ -270,7 +270,7 @@ void teken_tijdsverschillen(drawing& on) {
         on.print_at(x + 1100, y, stad.verschil);
         ++i;
     }
-    for (const int x : {1800, 3560}) on.line(x, 390, x, 1990, cyaan);
+    for (const int x : {1825, 3585}) on.line(x, 390, x, 1990, cyaan);
 }
 
 // An hour of the day of which nobody doubts whether it is night, morning, afternoon or evening.

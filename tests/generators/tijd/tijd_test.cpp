@@ -105,7 +105,10 @@ const exercise_rows time_and_dates{
      .ranges = {{{2, 9}, {0, 0}}, {{2, 9}, {1, 1}}, {{2, 9}, {2, 2}}, {{2, 9}, {3, 3}}, {{2, 9}, {4, 4}}},
      .right = v[0] * units,
      .wrong = either_side,
-     .explains = {{"Eén (jaar|week|dag|uur|minuut) bestaat uit #", {v[1], units}}, {"hebben # * # keer", {v[0], v[0]}}},
+     .explains = {{"Eén (jaar|week|dag|uur|minuut) bestaat uit # {maanden|dagen|uren|minuten|seconden}.",
+                   {v[1], units}},
+                  {"hebben # (jaren|weken|dagen|uren|minuten) # keer zo veel {maanden|dagen|uren|minuten|seconden}.",
+                   {v[0], v[1], v[0]}}},
      .ticks = {9, 9, 15, 9, 9},
      .check =
          [](const reading& n) {
@@ -134,6 +137,8 @@ const exercise_rows time_and_dates{
      .words = {11},
      .right = due,
      .explains = {{"# weken hebben # dagen. * nog # - # = # dagen.", {v[2], v[2] * 7, v[3], v[1], v[3] - v[1]}},
+                  {"dagen. (Zij moet|Hij moet|De volgende)",
+                   {[](const reading& n) { return n.variant() > 1 ? 2 : n[0]; }}},
                   {"Dus na # weken *# dagen", {v[2], v[2] * 7}}},
      .tips = {"(mag het uitlenen duren|eerst dagen maken|in dagen omgezet)",
               "(bij de datum|nog in dezelfde|in de volgende)"}},
