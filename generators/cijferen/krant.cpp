@@ -67,8 +67,9 @@ std::string stap(std::string_view begin, kolom k) {
 // The written subtraction. Its digits are 340 apart, so that a stroke through one of them leaves its neighbours alone.
 constexpr int rechts = 5150, kolombreedte = 340, punten = 17;
 
-std::string in_kolommen(int y, std::string_view ervoor, int getal) {
-    return druk_rechts_opdracht(rechts, y, wit, punten, ervoor, cijfers_wijd(duizend(getal)));
+std::string in_kolommen(int y, int getal, std::string_view ervoor = "", std::string_view erachter = "") {
+    const std::string cijfers = regel(ervoor, cijfers_wijd(duizend(getal)));
+    return druk_opdracht(rechts - text_width(cijfers, punten), y, wit, punten, cijfers, erachter);
 }
 // The digit above in a column, 0 for the units, is struck and the number put over it.
 std::string doorgestreept(int kolomnummer, int getal) {
@@ -76,10 +77,10 @@ std::string doorgestreept(int kolomnummer, int getal) {
     return doorstreep_opdracht(midden - 150, 650, midden - text_width(kaal(tekst(getal)), 8.25) / 2, 290, getal);
 }
 std::vector<std::string> uitgewerkt(const aftrekking& a) {
-    return {in_kolommen(460, "", a.grootste()),
-            in_kolommen(860, "", a.kleinste()),
+    return {in_kolommen(460, a.grootste()),
+            in_kolommen(860, a.kleinste(), "", " -"),
             vak_opdracht(3500, 1300, 1700, 20, wit),
-            in_kolommen(1360, "verschil: ", a.verschil()),
+            in_kolommen(1360, a.verschil(), "verschil:  "),
             doorgestreept(0, a.eenheden().boven),
             doorgestreept(1, a.tientallen().boven),
             a.leent_honderdtal() ? doorgestreept(2, a.honderdtallen().boven) : ""};
