@@ -263,6 +263,7 @@ void oefeningen::Z_verkiezingen_04_18_click() {
                  {eigen + deel(ander)},
                  {eigen - erbij},
                  {eigen + samen},
+                 {eigen + procent},
                  {erbij}});
     leg_vast(trek(4) + 1);
     tip_1("Eerste stap: reken uit hoeveel zetels de verliezende partijen", "vóór de verkiezingen samen hadden.");
