@@ -50,8 +50,10 @@ std::array<std::string, 4> maatsom::uitleg() const {
 melding verkeerde_soort(grootheid gekozen, grootheid gevraagd) {
     switch (gekozen) {
     case grootheid::lengte:
-        return {"Je hebt een lengtemaat gekozen in plaats van een",
-                gevraagd == grootheid::inhoud ? "inhoudsmaat." : "oppervlaktemaat."};
+        return {"Je hebt een lengtemaat gekozen in plaats van een", gevraagd == grootheid::inhoud ? "inhoudsmaat."
+                                                                    : gevraagd == grootheid::gewicht
+                                                                        ? "maat voor gewicht."
+                                                                        : "oppervlaktemaat."};
     case grootheid::oppervlakte: return {"Jouw antwoord bevat een oppervlaktemaat."};
     case grootheid::inhoud: return {"Jouw antwoord bevat een inhoudsmaat."};
     case grootheid::gewicht: return {"Jouw antwoord bevat een maat voor gewicht."};

@@ -1,5 +1,6 @@
-// Lengths in another unit: the numbers, read back from the picture, are compared in millimetres.
+// Measures in another unit: the numbers, read back from the picture, are compared in the smallest unit of their kind.
 #include "tests/support/exercise_rows.h"
+#include "tests/support/pattern.h"
 
 #include <map>
 
@@ -8,9 +9,11 @@ namespace {
 
 using enum oefening_id;
 
-double in_mm(const std::string& unit) {
-    static const std::map<std::string, double> sizes{{"mm", 1},    {"cm", 10},  {"dm", 100}, {"m", 1e3},
-                                                     {"dam", 1e4}, {"hm", 1e5}, {"km", 1e6}};
+double in_smallest(const std::string& unit) {
+    static const std::map<std::string, double> sizes{
+        {"mm", 1},   {"cm", 10},     {"dm", 100},  {"m", 1e3},   {"dam", 1e4}, {"hm", 1e5},  {"km", 1e6}, {"mg", 1},
+        {"cg", 10},  {"dg", 100},    {"g", 1e3},   {"dag", 1e4}, {"hg", 1e5},  {"kg", 1e6},  {"mL", 1},   {"cL", 10},
+        {"dL", 100}, {"liter", 1e3}, {"daL", 1e4}, {"hL", 1e5},  {"cm³", 1},   {"dm³", 1e3}, {"m³", 1e6}};
     return sizes.at(unit);
 }
 
@@ -20,15 +23,16 @@ template<class Of>
 formula sum(Of of) {
     return [of](const reading& n) {
         const std::size_t other = n.words[0] == n.words[2] ? 1 : 0;
-        return of(n[other], n[1 - other], in_mm(n.words[other]) / in_mm(n.words[2]));
+        return of(n[other], n[1 - other], in_smallest(n.words[other]) / in_smallest(n.words[2]));
     };
 }
 
-exercise_row sums_of_two(oefening_id id, bool down) {
+// The second half of the sub-variants converts upward where there are four.
+exercise_row sums_of_two(oefening_id id, const char* reads, int variants, bool down) {
     const formula right = sum([](double a, double b, double f) { return a * f + b; });
     return {.id = id,
-            .variants = 2,
-            .reads = "twee afstanden * stippen staan? | # @ + # @ = | ... | @ ",
+            .variants = variants,
+            .reads = reads,
             .ranges = {{{2, 99}, {2, 99}}},
             .right = right,
             .wrong = {{"zomaar opgeteld", v[0] + v[1]},
@@ -38,20 +42,22 @@ exercise_row sums_of_two(oefening_id id, bool down) {
                       {"van elkaar", sum([](double a, double b, double f) { return std::abs(a * f - b); })},
                       {"in plaats van", sum([](double a, double b, double f) { return a / f + b; })}},
             .explains = {{"Op de stippen moet dus # staan", {right}}},
-            .check = [down](const reading& n) {
-                // Sub-variant 1 has the first number converted, 2 the second.
-                const bool first = n.variant() == 1;
+            .check = [=](const reading& n) {
+                // Odd sub-variants have the first number converted, even ones the second.
+                const bool first = n.variant() % 2 == 1, whole_numbers = down && n.variant() <= 2;
                 EXPECT_EQ(n.words[2], n.words[first ? 1 : 0]);
-                EXPECT_TRUE(same(in_mm(n.words[first ? 0 : 1]) / in_mm(n.words[2]), down ? 10 : 0.1));
-                EXPECT_EQ(n.exercise.right.find(',') == std::string::npos, down) << "whole, or with a decimal";
+                EXPECT_TRUE(
+                    same(in_smallest(n.words[first ? 0 : 1]) / in_smallest(n.words[2]), whole_numbers ? 10 : 0.1));
+                EXPECT_EQ(n.exercise.right.find(',') == std::string::npos, whole_numbers) << "whole, or with a decimal";
                 n.exercise.told(regel(first ? "Het eerste" : "Het tweede", ".* naar ", n.words[2], "\\.").c_str());
             }};
 }
 
 // How the number and the unit change is told the right way round.
 void check_change(const reading& n, const std::string& from, const std::string& to, bool number_first) {
-    const int times = static_cast<int>(std::round(std::max(in_mm(from), in_mm(to)) / std::min(in_mm(from), in_mm(to))));
-    const bool larger = in_mm(from) > in_mm(to);
+    const int times = static_cast<int>(
+        std::round(std::max(in_smallest(from), in_smallest(to)) / std::min(in_smallest(from), in_smallest(to))));
+    const bool larger = in_smallest(from) > in_smallest(to);
     EXPECT_EQ(larger, n.variant() == 1);
     const auto change = [&](bool up) { return regel(kaal(duizend(times)), " keer zo ", up ? "groot" : "klein"); };
     n.exercise.told(regel(" is ", change(larger == number_first), " geworden, .* juist ",
@@ -59,9 +65,31 @@ void check_change(const reading& n, const std::string& from, const std::string& 
                         .c_str());
 }
 
+// The number on the picture, the unit asked for and that of the number; and that each wrong answer is told how it came
+// about: by "x 100", ": 10", in the wrong direction or not at all.
+double converted(const reading& n) { return n[0] * in_smallest(n.words[1]) / in_smallest(n.words[0]); }
+void check_told(const reading& n, const char* done, const char* not_done, const char* wrong_way) {
+    const double times = converted(n) / n[0];
+    for (int which = 2; which <= 4; ++which) {
+        const std::string told = n.exercise.feedback(which);
+        const double got = decimal(n.exercise.answer(which)) / n[0];
+        if (const auto found = find_pattern(told, done)) {
+            const bool up = found->numbers[0] == 0;
+            EXPECT_TRUE(same(got, up ? found->numbers[1] : 1 / found->numbers[1])) << told;
+        } else if (told.find(not_done) != std::string::npos) {
+            EXPECT_TRUE(same(got, 1)) << told;
+        } else {
+            EXPECT_TRUE(same(got, 1 / times)) << told;
+        }
+        EXPECT_EQ(told.find(wrong_way) != std::string::npos, (got > 1 && times < 1) || (got < 1 && times > 1)) << told;
+        EXPECT_TRUE(n.exercise.answer(which).ends_with(" " + n.words[0]));
+    }
+}
+
 const exercise_rows conversions{
-    sums_of_two(L_optellen_1_07_09_click, true),
-    sums_of_two(L_optellen_2_07_09_click, false),
+    sums_of_two(L_optellen_1_07_09_click, "twee afstanden * stippen staan? | # @ + # @ = | ... | @ ", 2, true),
+    sums_of_two(L_optellen_2_07_09_click, "twee afstanden * stippen staan? | # @ + # @ = | ... | @ ", 2, false),
+    sums_of_two(L_optellen_08_17_click, "zie twee gewichten * stippen staan? | # @ + # @ = | ... | @ ", 4, true),
     {.id = L_snel_1_07_09_click,
      .variants = 2,
      .reads = "Geef snel antwoord. Je hebt niet veel tijd... Welke eenheid * staan? | # @ = # ...",
@@ -70,8 +98,8 @@ const exercise_rows conversions{
      .check =
          [](const reading& n) {
              const std::string &from = n.words[0], &to = n.exercise.right;
-             EXPECT_TRUE(same(n[0] * in_mm(from), n[1] * in_mm(to)));
-             for (const std::string& unit : n.exercise.answers()) EXPECT_TRUE(in_mm(unit) > 0 && unit != from);
+             EXPECT_TRUE(same(n[0] * in_smallest(from), n[1] * in_smallest(to)));
+             for (const std::string& unit : n.exercise.answers()) EXPECT_TRUE(in_smallest(unit) > 0 && unit != from);
              check_change(n, from, to, true);
              n.exercise.told(("wordt dus " + to + ", want 1 " + from + " is [^ ]* keer zo \\w+ als een " + to).c_str());
          }},
@@ -79,14 +107,46 @@ const exercise_rows conversions{
      .variants = 2,
      .reads = "Geef snel antwoord. Kijk hiernaast... | Reken om: | # @ = ... @ ",
      .ranges = {{{1, 9.9}}},
-     .right = [](const reading& n) { return n[0] * in_mm(n.words[0]) / in_mm(n.words[1]); },
-     .explains = {{"x # =", {[](const reading& n) { return in_mm(n.words[0]) / in_mm(n.words[1]); }}}},
+     .right = [](const reading& n) { return n[0] * in_smallest(n.words[0]) / in_smallest(n.words[1]); },
+     .explains = {{"x # =", {[](const reading& n) { return in_smallest(n.words[0]) / in_smallest(n.words[1]); }}}},
      .ticks = {10},
      .check =
          [](const reading& n) {
              for (const double each : n.exercise.numbers())
                  EXPECT_TRUE(each / n[0] > 0.00099 && each / n[0] < 1001 && !same(each, n[0])) << each;
              check_change(n, n.words[0], n.words[1], false);
+         }},
+    {.id = L_gewichten_08_17_click,
+     .variants = 2,
+     .reads = "weegschaal geeft een bepaald gewicht aan. Reken dat gewicht om in @. | # @ ",
+     .ranges = {{{1.1, 9.9}}, {{11, 99}}},
+     .words = {7, 7},
+     .right = converted,
+     .explains = {{"kg, hg, dag, g, dg, cg, mg. Elke stap naar een (kleinere maat is x|grotere maat is :) 10.",
+                   {[](const reading& n) { return n.variant() - 1; }}},
+                  {"(x|:) # = #, dus het gewicht is # ",
+                   {[](const reading& n) { return n.variant() - 1; },
+                    [](const reading& n) { return std::max(converted(n) / n[0], n[0] / converted(n)); }, converted,
+                    converted}}},
+     .check =
+         [](const reading& n) {
+             EXPECT_EQ(converted(n) > n[0], n.variant() == 1);
+             check_told(n, "stap* gezet, dus (x|:) #. Van", "niet omgerekend", "verkeerde kant op");
+             const double steps = std::abs(std::round(std::log10(converted(n) / n[0])));
+             EXPECT_TRUE(same(decimal(n.exercise.told("Van \\w+ naar \\w+ (?:is het|zijn het) (\\d)")[1]), steps));
+         }},
+    {.id = L_watertank_07_17_click,
+     .variants = 8,
+     .reads = "Hiernaast zie je een watertank. * water er in zit. Hoeveel @ is dat? | # @ ",
+     .ranges = {{{2, 89, 2}}},
+     .words = {8, 1},
+     .right = converted,
+     .explains = {{"moet je weten dat 1 @ gelijk is aan #",
+                   {[](const reading& n) { return std::max(converted(n) / n[0], n[0] / converted(n)); }}}},
+     .check =
+         [](const reading& n) {
+             EXPECT_EQ(n.words[1], "liter");
+             check_told(n, "Je hebt (vermenigvuldigd met|gedeeld door) #.", "gelijk gelaten", "Denk nog eens goed na");
          }},
 };
 

@@ -1,6 +1,10 @@
-// Distances and times on the road, and jobs whose last pot or roll is used only in part.
+// Distances and times on the road, dials, jobs whose last pot or roll is used only in part, and sizes that everyone
+// knows.
 #include "tests/support/exercise_rows.h"
+#include "tests/support/pattern.h"
+#include "tests/support/sums.h"
 
+#include <map>
 #include <numbers>
 #include <set>
 
@@ -47,6 +51,61 @@ formula down(const formula& a, const formula& b) {
 std::vector<formula> division(const formula& a, const formula& b) { return {a, b, down(a, b), a - down(a, b) * b}; }
 const formula area = v[0] * v[1], per_roll = down(v[2], v[1]), strips = down(v[0] * 100, v[3]) + 1;
 
+// So many grams at the mark where the needle points, of ten.
+formula grams(double marks_more, double times = 1) {
+    return [=](const reading& n) { return (needle(n) / 20 + marks_more) * n[0] * 100 * times; };
+}
+
+// How large the things are; a size beside it is told how far off it is, another kind of unit what it is.
+void check_estimate(const reading& n) {
+    static const std::map<std::string, std::string> sizes{{"lengte van een lucifer", "4 cm"},
+                                                          {"lengte van een potlood", "17 cm"},
+                                                          {"hoogte van een deur", "2 m"},
+                                                          {"lengte van een auto", "4 m"},
+                                                          {"gewicht van een pasgeboren baby", "2,5 kg"},
+                                                          {"gewicht van een appel", "150 gram"},
+                                                          {"gewicht van een brood", "800 gram"},
+                                                          {"gewicht van een fiets", "15 kg"},
+                                                          {"oppervlakte van een klaslokaal", "50 m²"},
+                                                          {"oppervlakte van een ansichtkaart", "150 cm²"},
+                                                          {"oppervlakte van een deur", "2 m²"},
+                                                          {"oppervlakte van een postzegel", "6 cm²"},
+                                                          {"inhoud van een emmer", "10 liter"},
+                                                          {"inhoud van een theelepel", "5 mL"},
+                                                          {"inhoud van een badkuip", "150 liter"},
+                                                          {"inhoud van een pak melk", "1 liter"}};
+    const std::string &thing = n.words[0], &size = sizes.at(thing.substr(thing.find(' ') + 1));
+    EXPECT_EQ(n.exercise.right, size);
+    n.exercise.told((thing + " is ongeveer " + size + "\\.").c_str());
+    const std::array kinds{"lengtemaat", "maat voor gewicht", "oppervlaktemaat", "inhoudsmaat"};
+    const auto kind = [&](int which) { return kinds.at(static_cast<std::size_t>(which - 1)); };
+    n.exercise.told(regel("Hier hoort een ", kind(n.variant()), " bij").c_str());
+    const auto right = amount_of(size);
+    int other_kinds = 0;
+    for (int which = 2; which <= 4; ++which) {
+        const auto wrong = amount_of(n.exercise.answer(which));
+        const std::string told = n.exercise.feedback(which);
+        if (const auto off = find_pattern(told, "Dat is # keer zo (groot|klein) als")) {
+            const double times = off->numbers[0];
+            EXPECT_TRUE(wrong->of == right->of &&
+                        same(wrong->value / right->value, off->numbers[1] == 0 ? times : 1 / times))
+                << told;
+        } else {
+            ++other_kinds;
+            EXPECT_TRUE(wrong->of != right->of && same(decimal(n.exercise.answer(which)), decimal(size))) << told;
+            const std::string unit = n.exercise.answer(which).substr(n.exercise.answer(which).find(' ') + 1);
+            const std::string& wanted = kind(unit.ends_with("²")                          ? 3
+                                             : unit.ends_with("³") || unit.ends_with("L") ? 4
+                                             : unit == "liter"                            ? 4
+                                             : unit.ends_with("g") || unit == "gram"      ? 2
+                                                                                          : 1);
+            EXPECT_NE(told.find(wanted), std::string::npos) << told;
+            EXPECT_TRUE(wanted != kinds[0] || told.find(regel("plaats van een ", kind(n.variant()))) != told.npos);
+        }
+    }
+    EXPECT_EQ(other_kinds, 1);
+}
+
 const exercise_rows on_the_road{
     {.id = L_fietsen_07_09_click,
      .variants = 2,
@@ -84,6 +143,29 @@ const exercise_rows on_the_road{
                              (told.starts_with(regel("In", hours, " uur")) && told.find(way) != told.npos));
              }
          }},
+    {.id = M_worst_08_17_click,
+     .variants = 5,
+     .reads = "Hoeveel gram weegt die worst ongeveer? | MAX.*# kg | 0 ",
+     .counts = {needle},
+     .ranges = {{{0.5, 0.5}, {40, 180}},
+                {{1, 1}, {40, 180}},
+                {{2, 2}, {40, 180}},
+                {{5, 5}, {40, 180}},
+                {{10, 10}, {40, 180}}},
+     .right = grams(0),
+     .wrong = {{"bij 1 begonnen", grams(1)},
+               {"te weinig geteld", grams(-1)},
+               {"verkeerde kant", v[0] * 1000 - grams(0)},
+               {"Kijk eerst hoeveel gram elk streepje is. Een lang", grams(0, 2)},
+               {"Kijk eerst hoeveel gram elk streepje is. Een lang", grams(0, 0.5)},
+               {"Kijk eerst hoeveel gram elk streepje is. Eén kg", grams(0, 10)}},
+     .explains = {{"Elk stuk is dus # gram : 10 = # gram. De wijzer staat # lange streepjes",
+                   {v[0] * 1000, v[0] * 100, v[1] / 20}}}},
+    {.id = B_schatten_08_17_click,
+     .variants = 4,
+     .reads = "Welke maat past het beste op de stippen? | @ | is ongeveer... ",
+     .words = {16},
+     .check = check_estimate},
     {.id = L_schilder_07_12_click,
      .variants = 2,
      .reads = "schilderen van # m breed en # m lang. * nodig? | # m²",

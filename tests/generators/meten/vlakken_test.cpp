@@ -9,22 +9,22 @@ namespace {
 
 using enum oefening_id;
 
-// One completion is an area, and each other is told what it is instead.
-void check_kinds(const reading& n) {
+// One completion is of the kind asked for, and each other is told what it is instead.
+void check_kinds(const reading& n, const std::string& asked) {
     static const std::map<std::string, std::set<std::string>> kinds{
         {"oppervlaktemaat", {"m²", "dm²", "cm²", "mm²", "are", "ha"}},
         {"lengtemaat", {"m", "dm", "cm", "mm", "dam", "hm"}},
         {"maat voor gewicht", {"kg", "hg", "gram", "mg"}},
-        {"inhoudsmaat", {"liter", "hL", "mL", "m³", "dm³", "cm³"}}};
+        {"inhoudsmaat", {"liter", "hL", "daL", "dL", "cL", "mL", "m³", "dm³", "cm³"}}};
     const int right = n.exercise.right_place();
     for (const auto& [kind, units] : kinds) {
         int place = 1;
         while (place < 4 && !units.contains(n.words[static_cast<std::size_t>(place) + 1])) ++place;
         EXPECT_TRUE(units.contains(n.words[static_cast<std::size_t>(place) + 1])) << "no " << kind;
-        EXPECT_EQ(place == right, kind == "oppervlaktemaat");
+        EXPECT_EQ(place == right, kind == asked);
         EXPECT_TRUE(place == right || n.exercise.feedback(place).find(kind) != std::string::npos) << kind;
     }
-    n.exercise.told((" " + n.words[static_cast<std::size_t>(right) + 1] + " ' is een oppervlaktemaat,").c_str());
+    n.exercise.told((" " + n.words[static_cast<std::size_t>(right) + 1] + " ' is een " + asked + ",").c_str());
 }
 
 // The long side and the short one as drawn, and the perimeters in centimetres that the mistakes give.
@@ -112,6 +112,8 @@ exercise_row floor_plan(std::vector<int> of, const char* reads, std::vector<std:
             }};
 }
 
+const formula volume = v[1] * v[2] * v[3];
+
 const exercise_rows surfaces{
     {.id = B_oppervlakte_07_12_click,
      .variants = 5,
@@ -119,7 +121,13 @@ const exercise_rows surfaces{
          "oppervlakte van een @. Slechts * kleur. | De oppervlakte van een @ is ongeveer | rood | # @ | geel | $0 @ "
          "| wit | $0 @ | groen | $0 @ ",
      .ranges = {{{50, 5600}}, {{4, 450}}, {{2, 9600}}, {{1, 7000}}, {{2, 20000}}},
-     .check = check_kinds},
+     .check = [](const reading& n) { check_kinds(n, "oppervlaktemaat"); }},
+    {.id = B_inhoud_08_17_click,
+     .variants = 5,
+     .reads = "inhoud van een @. Slechts * kleur. | De inhoud van een @ is ongeveer... | rood | # @ | groen | $0 @ "
+              "| blauw | $0 @ | grijs | $0 @ ",
+     .ranges = {{{25, 30}}, {{2, 250}}, {{1, 12}}, {{350, 500}}, {{1, 500}}},
+     .check = [](const reading& n) { check_kinds(n, "inhoudsmaat"); }},
     {.id = B_rechthoek_07_12_click,
      .variants = 2,
      .reads = "langwerpige rechthoek * rechthoek. | # @ | # @ ",
@@ -137,6 +145,27 @@ const exercise_rows surfaces{
                {"oppervlakte van de bovenkant", v[1] * v[3]},
                {"de omtrek van", (face_side(true) + face_side(false)) * 2}},
      .explains = {{"kant heeft afmetingen van # bij # cm", {face_side(true), face_side(false)}}}},
+    {.id = L_doos_08_17_click,
+     .variants = 2,
+     .reads = "maten zijn in (dm|cm). Hoe groot is de inhoud van deze doos? | # | # | # ",
+     .ranges = {{{0, 0}, {3, 6}, {2, 5}, {2, 3}}, {{1, 1}, {3, 6}, {2, 5}, {2, 3}}},
+     .right = volume,
+     .wrong = {{"maten opgeteld", v[1] + v[2] + v[3]},
+               {"alleen de lengte en de breedte", v[1] * v[3]},
+               {"alle zijvlakken", (v[1] * v[2] + v[2] * v[3] + v[1] * v[3]) * 2},
+               {"1 liter, niet aan 1 mL", volume},
+               {"1 liter, niet aan 1.000 liter", volume * 1000},
+               {"1 mL, niet aan 1 liter", volume},
+               {"1 mL, niet aan 1.000 mL", volume * 1000}},
+     .explains = {{"= # (dm³|cm³). Eén {dm³|cm³} is gelijk aan 1 {liter|mL}.", {volume, v[0]}}},
+     .check =
+         [](const reading& n) {
+             const bool in_dm = n[0] == 0;
+             for (int which = 1; which <= 4; ++which) {
+                 const bool other = which > 1 && (n.exercise.feedback(which).find("niet aan 1 ") != std::string::npos);
+                 EXPECT_TRUE(n.exercise.answer(which).ends_with(in_dm != other ? " liter" : " mL"));
+             }
+         }},
     floor_plan({1, 3}, "van # x # m. Hiernaast * | # m | # m",
                {{{4, 19.5}, {4, 19.5}, {5.2, 19.5}, {4, 15}}, {{16, 35.1}, {16, 35.1}, {20.8, 35.1}, {16, 27}}}, 100),
     floor_plan({2, 4}, "van # x # dm. Hiernaast * | # dm | # dm",
