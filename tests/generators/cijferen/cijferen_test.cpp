@@ -11,7 +11,7 @@ namespace {
 
 using enum oefening_id;
 
-// A digit of a number, counted from 1 at the right, and what is taken from it and borrowed.
+// Counted from 1 at the right.
 formula digit(const formula& number, int place) {
     return
         [=](const reading& n) { return static_cast<int>(std::get<double>(number(n)) / std::pow(10, place - 1)) % 10; };
@@ -19,97 +19,87 @@ formula digit(const formula& number, int place) {
 formula larger(const formula& a, const formula& b) {
     return [=](const reading& n) { return std::max(std::get<double>(a(n)), std::get<double>(b(n))); };
 }
-formula difference(const formula& a, const formula& b) { return larger(a, b) - (a + b - larger(a, b)); }
-const formula last_year = v[0], this_year = v[1], top = larger(last_year, this_year), low = last_year + this_year - top;
-const formula digits_apart = 100 * difference(digit(top, 3), digit(low, 3)) +
-                             10 * difference(digit(top, 2), digit(low, 2)) + difference(digit(top, 1), digit(low, 1));
-const std::vector<mistake> not_borrowed{
-    {"", digits_apart}, {"", top - low + 10}, {"", top - low - 10}, {"", top - low + 100}, {"", top - low - 100}};
-const statement worked_out{"verschil:  #  #  #", {digit(top - low, 3), digit(top - low, 2), digit(top - low, 1)}};
+const formula top = larger(v[0], v[1]), low = v[0] + v[1] - top, apart = top - low;
 
-void check_direction(const reading& n) {
-    EXPECT_EQ(n[0] > n[1], n.exercise.question.ends_with("vertrokken? "));
-    EXPECT_EQ(static_cast<int>(n[0]) / 1000, static_cast<int>(n[1]) / 1000);
+// One ten is borrowed, or a hundred too.
+exercise_row town(oefening_id id, int hundreds, const char* second_tip) {
+    const formula tens = digit(low, 2) - digit(top, 2);
+    const formula swapped =
+        100 * (digit(top, 3) - digit(low, 3)) + 10 * larger(tens, 0 - tens) + digit(low, 1) - digit(top, 1);
+    return {.id = id,
+            .variants = 2,
+            .reads = "| Vorig jaar woonden er in deze | stad # mensen. | Dit jaar zijn er # inwoners.",
+            .ranges = {{{15000, 54989, 999}, {15000, 54989, 999}}, {{60000, 99989, 999}, {60000, 99989, 999}}},
+            .right = apart,
+            .wrong = {{"", swapped}, {"", apart + 10}, {"", apart - 10}, {"", apart + 100}, {"", apart - 100}},
+            .explains = {{"eenheden doe je # - # = #, * tientallen doe je # - # = #, * honderdtallen doe je # - # = #.",
+                          {digit(top, 1) + 10, digit(low, 1), digit(apart, 1), digit(top, 2) - 1 + 10 * hundreds,
+                           digit(low, 2), digit(apart, 2), digit(top, 3) - hundreds, digit(low, 3), digit(apart, 3)}},
+                         {"verschil:  #  #  #", {digit(apart, 3), digit(apart, 2), digit(apart, 1)}}},
+            .tips = {"Zet het grootste getal boven", second_tip},
+            .check = [](const reading& n) { EXPECT_EQ(n[0] > n[1], n.exercise.question.ends_with("vertrokken? ")); }};
 }
 
-// The number of a word of the picture whose digits are set wide.
-formula wide(std::size_t word) {
-    return [=](const reading& n) {
-        std::string digits = n.exercise.words.at(word);
-        std::erase(digits, ' ');
-        return decimal(digits);
-    };
+// What a text of the picture is, whose digits are set wide.
+int wide(const seen& exercise, std::size_t word) {
+    std::string digits = exercise.words.at(word);
+    std::erase(digits, ' ');
+    return whole(digits);
 }
-
+formula factor(std::size_t word) {
+    return [=](const reading& n) { return wide(n.exercise, word); };
+}
 void check_rows(const reading& n) {
     const seen later = n.exercise.when_explained();
-    const reading drawn{later, {}, {}};
     const int a = static_cast<int>(n[0]), b = static_cast<int>(n[1]);
     const std::pair<std::size_t, int> rows[]{{3, a * (b % 10)}, {4, a * (b / 10 * 10)}, {6, a * b}};
     for (const auto& [word, value] : rows) {
-        EXPECT_EQ(std::get<double>(wide(word)(drawn)), value);
-        const text_op& text = later.texts[word];
-        EXPECT_NEAR(text.x + text_width(text.text, 12), 2420, 22) << "the units of " << value;
+        EXPECT_EQ(wide(later, word), value);
+        EXPECT_NEAR(later.texts[word].x + text_width(later.texts[word].text, 12), 2420, 22) << "the units of " << value;
     }
 }
 
-// "80 x 23 - 2 x 23".
-double worked(const std::string& option) {
-    const auto found = find_pattern(option, "# x # (+|-) # x #").value().numbers;
-    return found[0] * found[1] + (found[2] == 0 ? 1 : -1) * found[3] * found[4];
-}
-std::string equal_to_product(const reading& n) {
-    std::string equal;
-    for (const std::string& option : n.exercise.options())
-        if (worked(option) == n[0] * n[1]) equal += option;
-    return equal;
-}
-
-// The addition whose numbers have their commas, or the ends of whole numbers, at one x.
-std::string commas_in_line(const reading& n) {
-    std::string names;
-    const auto comma = [](const text_op& text) {
-        return text.x + text_width(kaal(text.text.substr(0, text.text.find(','))), text.size);
-    };
-    std::vector<std::vector<text_op>> additions(4);
-    for (const text_op& text : n.exercise.texts)
-        if (text.size < 20 && text.text != "+") additions[static_cast<std::size_t>(text.x / 1345)].push_back(text);
-    for (std::size_t i = 0; i < 4; ++i) {
-        EXPECT_EQ(additions[i].size(), 3U);
-        const int at = comma(additions[i][0]);
-        if (std::ranges::all_of(additions[i], [&](const text_op& text) { return std::abs(comma(text) - at) < 8; }))
-            names += "OPTELLING " + std::string(1, static_cast<char>('A' + i));
-    }
-    return names;
-}
-
-double without_comma(const reading& n) {
-    const auto& words = n.exercise.words;
-    return decimal(*std::find_if(words.begin() + 1, words.end(),
-                                 [](const std::string& word) { return word.find(',') == word.npos; }));
-}
-
-// The one option that turns a sum with ":" (0) or "x" (1) back into one of its numbers.
-std::string inverse(const reading& n) {
-    std::string all;
-    for (int i = 1; i <= 4; ++i) {
-        const std::string option = n.exercise.options()[static_cast<std::size_t>(i - 1)];
-        const auto [numbers, words] = find_pattern(option, "# (:|x) #").value();
-        const double result = numbers[1] == 0 ? numbers[0] / numbers[2] : numbers[0] * numbers[2];
-        const bool same_operation = numbers[1] == n[2];
-        const std::set given{n[1], n[3], n[4]};
-        EXPECT_TRUE(given.contains(numbers[0]) && given.contains(numbers[2])) << option;
-        const bool right = std::ranges::any_of(
-            given, [&](double each) { return same(each, result) && each != numbers[0] && each != numbers[2]; });
-        if (right) all += option;
-        if (i != n.exercise.right_place()) {
-            EXPECT_EQ(n.exercise.feedback(i).ends_with("maken. "), same_operation) << option;
+// The addition in which one number stands this many digits away from the others: judged by the commas, or by the ends.
+formula stands_off(int digits, bool by_comma = true) {
+    return [=](const reading& n) {
+        std::string names;
+        for (std::size_t i = 0; i < 4; ++i) {
+            std::array<int, 3> at{};
+            for (std::size_t k = 0; k < 3; ++k) {
+                const text_op& text = n.exercise.texts.at(4 * i + 1 + k);
+                const std::string shown = regel(kaal(text.text));
+                at[k] = text.x + text_width(by_comma ? shown.substr(0, shown.find(',')) : shown, text.size);
+            }
+            for (std::size_t k = 0; k < (digits == 0 ? 1 : 3); ++k)
+                if (std::abs(at[(k + 1) % 3] - at[(k + 2) % 3]) < 9 &&
+                    std::abs(std::abs(at[k] - at[(k + 1) % 3]) - digits * 130) < 9) {
+                    names += regel("OPTELLING ", std::string(1, static_cast<char>('A' + i)));
+                    const std::string told =
+                        n.exercise.right == names ? "" : n.exercise.feedback(static_cast<int>(i) + 1);
+                    EXPECT_TRUE(digits == 0 || told.find(kaal(n.exercise.words[4 * i + 1 + k])) != told.npos) << told;
+                }
         }
-    }
-    return all;
+        return names;
+    };
+}
+double without_comma(const reading& n) {
+    for (std::size_t k = 1; k < 4; ++k)
+        if (n.exercise.words[k].find(',') == std::string::npos) return decimal(n.exercise.words[k]);
+    return 0;
 }
 
-// How many crates stand beside each other, or above each other, left (front) or right (side) of the middle.
+// The options that turn the numbers of the sum into the one that is left.
+std::string inverse(const reading& n) {
+    std::string right;
+    for (const std::string& option : n.exercise.options()) {
+        const auto sum = find_pattern(option, "# (:|x) #").value().numbers;
+        for (const std::size_t i : {1U, 3U, 4U})
+            if (same(n[i], sum[1] == 0 ? sum[0] / sum[2] : sum[0] * sum[2])) right += option;
+    }
+    return right;
+}
+
+// How many crates stand beside each other, or above each other, in one of the two views.
 formula crates(bool beside, bool front) {
     return [=](const reading& n) {
         std::set<int> places;
@@ -120,7 +110,7 @@ formula crates(bool beside, bool front) {
 }
 
 // As told: AC, each sum worked out and put into the memory, C after each M+, and MR at last.
-std::string from_memory(const reading& n) {
+double from_memory(const reading& n) {
     constexpr std::string_view faces = "0123456789,CA+-x/MR%=", signs = "+-x/";
     std::string keys = "A";
     for (std::size_t i = 0; i < 4; ++i)
@@ -128,58 +118,31 @@ std::string from_memory(const reading& n) {
             regel(kaal(static_cast<int>(n[2 * i])), signs.substr(i, 1), kaal(static_cast<int>(n[2 * i + 1])), "=MC");
     calculator pressed;
     for (const char face : keys + "R") pressed.press(static_cast<int>(faces.find(face)));
-    return regel(kaal(duizend(whole(pressed.display()))));
+    const double shown = decimal(pressed.display());
+    for (const double answer : n.exercise.numbers())
+        EXPECT_TRUE(std::abs(answer - shown) <= 300 && std::fmod(answer - shown, 10) == 0 && answer > 0) << answer;
+    return shown;
 }
 
-const std::vector<mistake> by_tens{{"", [](const reading& n) {
-                                        for (const double answer : n.exercise.numbers()) {
-                                            const double off = std::abs(answer - decimal(n.exercise.right));
-                                            EXPECT_TRUE(off <= 300 && std::fmod(off, 10) == 0 && answer > 0) << answer;
-                                        }
-                                        return lies::elsewhere;
-                                    }}};
-
+const char* const split = "# x # (+|-) # x #";
+const formula tens = rounded(v[0] / 10) * 10, rest = larger(v[0] - tens, tens - v[0]);
+const formula minus = [](const reading& n) { return n.variant() == 1 ? 1 : 0; };
+const char* const check = "# (:|x) #";
+const formula sign = 1 - 2 * v[2], after = v[0] - v[1] + sign * v[3];
 const formula product = v[0] * v[1], units = digit(v[1], 1), carried = digit(digit(v[0], 1) * units, 2);
-const formula crate_front = v[1] * v[2], crate_side = v[3] * v[4], bottles = crate_front * v[3] * v[0];
+const formula front = v[1] * v[2], side = v[3] * v[4], bottles = front * v[3] * v[0];
 const formula pupils = (v[0] + 2) * v[1], raised = pupils * v[2] * v[3];
 const formula months = [](const reading& n) { return std::ceil(n[1] / n[2]); };
 
 const exercise_rows columns{
-    {.id = B_inwoners_1_12_01_click,
-     .variants = 2,
-     .reads = "| Vorig jaar woonden er in deze | stad # mensen. | Dit jaar zijn er # inwoners.",
-     .ranges = {{{15000, 54989, 999}, {15000, 54989, 999}}, {{60000, 99989, 999}, {60000, 99989, 999}}},
-     .right = top - low,
-     .wrong = not_borrowed,
-     .explains = {{"eenheden doe je # - # = #, * tientallen doe je # - # = #, * honderdtallen doe je # - # = #.",
-                   {digit(top, 1) + 10, digit(low, 1), digit(top - low, 1), digit(top, 2) - 1, digit(low, 2),
-                    digit(top - low, 2), digit(top, 3), digit(low, 3), digit(top - low, 3)}},
-                  worked_out},
-     .tips = {"Zet het grootste getal boven", "lenen van de tientallen."},
-     .check = check_direction},
-    {.id = B_inwoners_2_12_01_click,
-     .variants = 2,
-     .reads = "| Vorig jaar woonden er in deze | stad # mensen. | Dit jaar zijn er # inwoners.",
-     .ranges = {{{15000, 54989, 999}, {15000, 54989, 999}}, {{60000, 99989, 999}, {60000, 99989, 999}}},
-     .right = top - low,
-     .wrong = not_borrowed,
-     .explains = {{"eenheden doe je # - # = #, * tientallen doe je # - # = #, * honderdtallen doe je # - # = #.",
-                   {digit(top, 1) + 10, digit(low, 1), digit(top - low, 1), digit(top, 2) + 9, digit(low, 2),
-                    digit(top - low, 2), digit(top, 3) - 1, digit(low, 3), digit(top - low, 3)}},
-                  worked_out},
-     .tips = {"Zet het grootste getal boven", "tientallen moet je dan ook nog lenen."},
-     .check = check_direction},
+    town(B_inwoners_1_12_01_click, 0, "lenen van de tientallen."),
+    town(B_inwoners_2_12_01_click, 1, "tientallen moet je dan ook nog lenen."),
     {.id = Z_sponsorloop_12_07,
      .variants = 6,
      .reads = "In deze (twee|drie|vier) klassen zitten elk # leerlingen. Zij liepen gemiddeld # km en elke gelopen "
               "kilometer leverde € #* op. * | Krant van @ | Een school in @ organiseerde | voor de hoogste "
               "{twee|drie|vier} klassen een sponsorloop | voor een goed doel @.",
-     .ranges = {{{0, 0}, {15, 30}, {1.5, 6.5}, {.2, 1.5}},
-                {{1, 1}, {15, 30}, {1.5, 6.5}, {.2, 1.5}},
-                {{2, 2}, {15, 30}, {1.5, 6.5}, {.2, 1.5}},
-                {{0, 0}, {15, 30}, {1.5, 6.5}, {.2, 1.5}},
-                {{1, 1}, {15, 30}, {1.5, 6.5}, {.2, 1.5}},
-                {{2, 2}, {15, 30}, {1.5, 6.5}, {.2, 1.5}}},
+     .ranges = {{{0, 2}, {15, 30}, {1.5, 6.5}, {.2, 1.5}}},
      .words = {7, 20, 6},
      .right = raised,
      .wrong = {{"(van één klas uitgegaan|nu één klas geweest)", raised / (v[0] + 2)},
@@ -188,17 +151,18 @@ const exercise_rows columns{
                {"naar boven afgerond", pupils*(v[2] + .5) * v[3]},
                {"een klas te veel", raised + v[1] * v[2] * v[3]}},
      .explains = {{"deden # x # = # leerlingen * samen # x # km = # km",
-                   {v[0] + 2, v[1], pupils, pupils, v[2], pupils* v[2]}}}},
+                   {v[0] + 2, v[1], pupils, pupils, v[2], pupils* v[2]}}},
+     .check = [](const reading& n) { EXPECT_EQ(n[0], (n.variant() - 1) % 3); }},
     {.id = L_na_elkaar_12_01_click,
      .variants = 2,
      .reads = "| # - # (+|-) # =",
      .ranges = {{{80, 480, 10}, {60, 160}, {0, 0}, {15, 45}}, {{80, 480, 10}, {60, 160}, {1, 1}, {15, 45}}},
-     .right = v[0] - v[1] + (1 - 2 * v[2]) * v[3],
+     .right = after,
      .wrong = {{"getallen bij elkaar opgeteld", v[0] - v[1] - v[3]},
                {"getallen van elkaar afgetrokken", v[0] - v[1] + v[3]},
                {"dat je alleen de eerste", v[0] - v[1]},
-               {"alleen iets gedaan met de laatste", v[1] + (1 - 2 * v[2]) * v[3]}},
-     .explains = {{"eerst doe je # - # = # en dan doe je ten slotte # (+|-) #",
+               {"alleen iets gedaan met de laatste", v[1] + sign* v[3]}},
+     .explains = {{"doe je # - # = # en dan doe je ten slotte # (+|-) #",
                    {v[0], v[1], v[0] - v[1], v[0] - v[1], v[2], v[3]}}}},
     {.id = L_door_elkaar_12_02_click,
      .variants = 2,
@@ -239,13 +203,15 @@ const exercise_rows columns{
      .reads = "zijn de getallen goed onder elkaar gezet? | A          B           C           D |",
      .counts = {without_comma},
      .ranges = {{{12, 98}}, {{102, 989}}},
-     .right = commas_in_line,
-     .wrong = {{"eindigen de getallen op dezelfde", lies::elsewhere}, {"Kijk nog eens goed naar #.", lies::elsewhere}},
+     .right = stands_off(0),
+     .wrong = {{"eindigen de getallen", stands_off(0, false)},
+               {"goed naar #.", stands_off(1)},
+               {"goed naar #.", stands_off(2)}},
      .explains = {{"Achter # staat geen komma", {v[0]}}}},
     {.id = M_maal_12_02_click,
      .variants = 2,
      .reads = "Bereken de uitkomst.",
-     .counts = {wide(0), wide(1)},
+     .counts = {factor(0), factor(1)},
      .ranges = {{{12, 99}, {12, 99}}, {{102, 989}, {12, 49}}},
      .right = product,
      .wrong = {{"", product - 10 * carried},
@@ -261,9 +227,16 @@ const exercise_rows columns{
     {.id = L_anders_12_02_click,
      .variants = 2,
      .reads = "De vermenigvuldiging van # en # kun je",
-     .ranges = {{{18, 89}, {12, 98}}, {{21, 92}, {12, 98}}},
-     .right = equal_to_product,
-     .explains = {{"tiental: # = ", {v[0]}}, {"net als # x #.", {v[0], v[1]}}},
+     .counts = {rest},
+     .ranges = {{{18, 89}, {12, 98}, {1, 2}}, {{21, 92}, {12, 98}, {1, 2}}},
+     .right = says(split, tens, v[1], minus, rest, v[1]),
+     .wrong = {{"", says(split, tens, v[1], 1 - minus, rest, v[1])},
+               {"", says(split, tens, v[1], minus, rest, tens)},
+               {"", says(split, tens, v[1], 1 - minus, rest, tens)},
+               {"", says(split, tens, v[1], minus, rest, v[0])},
+               {"", says(split, tens, v[1], minus, 10 - rest, v[1])},
+               {"", says(split, tens, v[1], minus, rest + 1, v[1])}},
+     .explains = {{"tiental: # = # (+|-) #. * eerst # x # = ", {v[0], tens, minus, rest, tens, v[1]}}},
      .tips = {"Misschien kun je", "vlak bij een tiental"}},
     {.id = M_flesjes_12_02_click,
      .variants = 4,
@@ -271,26 +244,32 @@ const exercise_rows columns{
      .counts = {crates(true, true), crates(false, true), crates(true, false), crates(false, false)},
      .ranges = {{{6, 6}, {2, 5}, {2, 5}, {2, 5}}, {{12, 12}}, {{20, 20}}, {{24, 24}}},
      .right = bottles,
-     .wrong = {{"van voren ziet", crate_front* v[0]},
-               {"van opzij ziet", crate_side* v[0]},
+     .wrong = {{"van voren ziet", front* v[0]},
+               {"van opzij ziet", side* v[0]},
                {"aantal kratten", bottles / v[0]},
-               {"Begin met het tellen", (crate_front + crate_side) * v[0]},
-               {"boven elkaar staan dubbel", crate_front* crate_side* v[0]}},
-     .explains = {{"voren zie je # x # = # * dat er # kratten", {v[1], v[2], crate_front, v[3]}}}},
+               {"Begin met het tellen", (front + side) * v[0]},
+               {"boven elkaar staan dubbel", front* side* v[0]}},
+     .explains = {{"voren zie je # x # = # * dat er # kratten", {v[1], v[2], front, v[3]}}}},
     {.id = M_controle_12_02_click,
      .variants = 2,
      .reads = "zie je een (deling|vermenigvuldiging). * | # (:|x) # = #",
-     .ranges = {{{0, 0}}, {{1, 1}}},
+     .ranges = {{{0, 0}, {1.2, 99, 20}, {0, 0}, {1.01, 9.99, .1}},
+                {{1, 1}, {1.01, 9.99, .1}, {1, 1}, {1.01, 9.99, .1}}},
      .right = inverse,
-     .wrong = {{"Je had er een (vermenigvuldiging|deling) van moeten maken", lies::elsewhere},
-               {"wel een (vermenigvuldiging|deling) gedaan, maar met de verkeerde", lies::elsewhere}},
+     .wrong = {{"een vermenigvuldiging van moeten", says(check, v[4], 0, v[3])},
+               {"een vermenigvuldiging van moeten", says(check, v[3], 0, v[4])},
+               {"wel een vermenigvuldiging gedaan, maar", says(check, v[1], 1, v[3])},
+               {"wel een vermenigvuldiging gedaan, maar", says(check, v[4], 1, v[1])},
+               {"een deling van moeten", says(check, v[4], 1, v[1])},
+               {"een deling van moeten", says(check, v[3], 1, v[4])},
+               {"wel een deling gedaan, maar", says(check, v[1], 0, v[3])},
+               {"wel een deling gedaan, maar", says(check, v[3], 0, v[4])}},
      .calculator = true},
     {.id = Z_memory_12_02_click,
      .variants = 2,
      .reads = "maar eens uit: \\(# + #\\) + \\(# - #\\) + \\(# x #\\) + \\(# : #\\) =",
      .ranges = {{{1, 99}, {1, 99}, {2, 98}, {1, 49}, {2, 51}, {2, 99}, {4, 1089, 60}, {2, 99}}},
      .right = from_memory,
-     .wrong = by_tens,
      .tips = {"(gebruik dan de M+ toets|en druk dan de M+ toets...)", "Doe dan de aftrekking"},
      .calculator = true},
     {.id = Z_BTW_12_08_click,
