@@ -1,5 +1,6 @@
-// Multiplications that are easier in another way: a factor that lies near a round ten, and crates that are counted from
-// two sides.
+// Sums that are easier in another way: a factor that lies near a round ten, crates that are counted from two sides, and
+// four numbers of which pairs make whole ones.
+#include "generators/gedeeld/kommasom.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -103,6 +104,22 @@ void oefeningen::M_flesjes_12_02_click() {
            regel("Er zijn dus", voor, " x", diep, " =", kratten, " kratten."),
            regel("In elk krat zitten", n, " flesjes. In totaal zijn dat dus"),
            regel(kaal(kratten), " x", n, " =", duizend(juist), " flesjes."));
+}
+
+void oefeningen::M_snel_12_06_click() {
+    kies_variant(tekenpatronen);
+    zaai();
+    const kommasom som = trek_kommasom(toeval, variant);
+
+    snel_bord(20, 20);
+    druk(500, 100, "Hoeveel is...");
+    druk(500, 540, som.opgave);
+
+    vraag("Kijk hiernaast.", leeg, "Je hebt weinig tijd!");
+
+    drie_andere(som.uitkomst, tekst, som.vergissingen);
+
+    uitleg(som.uitleg[0], som.uitleg[1], som.uitleg[2], som.uitleg[3], som.uitleg[4]);
 }
 
 } // namespace cijferwerf

@@ -19,6 +19,12 @@ formula digit(const formula& number, int place) {
 formula larger(const formula& a, const formula& b) {
     return [=](const reading& n) { return std::max(std::get<double>(a(n)), std::get<double>(b(n))); };
 }
+// Wrong answers without feedback, but for tips.
+std::vector<mistake> hinted(std::initializer_list<formula> values) {
+    std::vector<mistake> all;
+    for (const formula& value : values) all.push_back({"", value});
+    return all;
+}
 const formula top = larger(v[0], v[1]), low = v[0] + v[1] - top, apart = top - low;
 
 // One ten is borrowed, or a hundred too.
@@ -31,7 +37,7 @@ exercise_row town(oefening_id id, int hundreds, const char* second_tip) {
             .reads = "| Vorig jaar woonden er in deze | stad # mensen. | Dit jaar zijn er # inwoners.",
             .ranges = {{{15000, 54989, 999}, {15000, 54989, 999}}, {{60000, 99989, 999}, {60000, 99989, 999}}},
             .right = apart,
-            .wrong = {{"", swapped}, {"", apart + 10}, {"", apart - 10}, {"", apart + 100}, {"", apart - 100}},
+            .wrong = hinted({swapped, apart + 10, apart - 10, apart + 100, apart - 100}),
             .explains = {{"eenheden doe je # - # = #, * tientallen doe je # - # = #, * honderdtallen doe je # - # = #.",
                           {digit(top, 1) + 10, digit(low, 1), digit(apart, 1), digit(top, 2) - 1 + 10 * hundreds,
                            digit(low, 2), digit(apart, 2), digit(top, 3) - hundreds, digit(low, 3), digit(apart, 3)}},
@@ -124,9 +130,11 @@ double from_memory(const reading& n) {
     return shown;
 }
 
-const char* const split = "# x # (+|-) # x #";
 const formula tens = rounded(v[0] / 10) * 10, rest = larger(v[0] - tens, tens - v[0]);
 const formula minus = [](const reading& n) { return n.variant() == 1 ? 1 : 0; };
+formula makes(const formula& less, const formula& k, const formula& times) {
+    return says("# x # (+|-) # x #", tens, v[1], less, k, times);
+}
 const char* const check = "# (:|x) #";
 const formula sign = 1 - 2 * v[2], after = v[0] - v[1] + sign * v[3];
 const formula product = v[0] * v[1], units = digit(v[1], 1), carried = digit(digit(v[0], 1) * units, 2);
@@ -214,12 +222,8 @@ const exercise_rows columns{
      .counts = {factor(0), factor(1)},
      .ranges = {{{12, 99}, {12, 99}}, {{102, 989}, {12, 49}}},
      .right = product,
-     .wrong = {{"", product - 10 * carried},
-               {"", v[0] * (units + digit(v[1], 2))},
-               {"", product - 100},
-               {"", product + 10},
-               {"", product + 100},
-               {"", product + 200}},
+     .wrong = hinted({product - 10 * carried, v[0] * (units + digit(v[1], 2)), product - 100, product + 10,
+                      product + 100, product + 200}),
      .explains = {{"dus # x # =  # en  # onthouden.", {units, digit(v[0], 1), digit(v[0], 1) * units, carried}},
                   {"| \\(# x #\\) | \\(# x #\\)", {v[0], units, v[0], 10 * digit(v[1], 2)}}},
      .tips = {"Je moet vermenigvuldigen.", "begin dan met de eenheden"},
@@ -229,13 +233,9 @@ const exercise_rows columns{
      .reads = "De vermenigvuldiging van # en # kun je",
      .counts = {rest},
      .ranges = {{{18, 89}, {12, 98}, {1, 2}}, {{21, 92}, {12, 98}, {1, 2}}},
-     .right = says(split, tens, v[1], minus, rest, v[1]),
-     .wrong = {{"", says(split, tens, v[1], 1 - minus, rest, v[1])},
-               {"", says(split, tens, v[1], minus, rest, tens)},
-               {"", says(split, tens, v[1], 1 - minus, rest, tens)},
-               {"", says(split, tens, v[1], minus, rest, v[0])},
-               {"", says(split, tens, v[1], minus, 10 - rest, v[1])},
-               {"", says(split, tens, v[1], minus, rest + 1, v[1])}},
+     .right = makes(minus, rest, v[1]),
+     .wrong = hinted({makes(1 - minus, rest, v[1]), makes(minus, rest, tens), makes(1 - minus, rest, tens),
+                      makes(minus, rest, v[0]), makes(minus, 10 - rest, v[1]), makes(minus, rest + 1, v[1])}),
      .explains = {{"tiental: # = # (+|-) #. * eerst # x # = ", {v[0], tens, minus, rest, tens, v[1]}}},
      .tips = {"Misschien kun je", "vlak bij een tiental"}},
     {.id = M_flesjes_12_02_click,
@@ -250,6 +250,12 @@ const exercise_rows columns{
                {"Begin met het tellen", (front + side) * v[0]},
                {"boven elkaar staan dubbel", front* side* v[0]}},
      .explains = {{"voren zie je # x # = # * dat er # kratten", {v[1], v[2], front, v[3]}}}},
+    {.id = M_snel_12_06_click,
+     .variants = 4,
+     .reads = "Kijk hiernaast. Je hebt weinig tijd! | Hoeveel is... | # (-|+) # (-|+) # (-|+) #",
+     .right = v[0] + (2 * v[1] - 1) * v[2] + (2 * v[3] - 1) * v[4] + (2 * v[5] - 1) * v[6],
+     .ticks = {20},
+     .check = [](const reading& n) { EXPECT_EQ(4 * n[1] + 2 * n[3] + n[5], "0712"[n.variant() - 1] - '0'); }},
     {.id = M_controle_12_02_click,
      .variants = 2,
      .reads = "zie je een (deling|vermenigvuldiging). * | # (:|x) # = #",
@@ -303,15 +309,13 @@ const exercise_rows columns{
      .reads = "De (vader|moeder) van @ koopt een auto. {Hij|Zij} leent hiervoor een bedrag van € #,- bij de bank. "
               "{Hij|Zij} kan per maand € #,- hiervan aflossen.",
      .counts = {[](const reading& n) { return std::fmod(n[1], n[2]) > 0 ? 1 : 0; }},
-     .ranges = {{{0, 0}, {1800, 12000}, {150, 400}, {0, 0}},
-                {{1, 1}, {1800, 12000}, {150, 400}, {0, 0}},
-                {{0, 0}, {1810, 12390, 600}, {150, 400}, {1, 1}},
-                {{1, 1}, {1810, 12390, 600}, {150, 400}, {1, 1}}},
+     .ranges = {{{0, 1}, {1800, 12390, 600}, {150, 400}, {0, 1}}},
      .words = {15},
      .right = months,
      .explains = {{"In # maanden wordt # x € #,-", {months - v[3], months - v[3], v[2]}}},
      .tips = {"Deel eerst het geleende", "Een restbedrag wordt in"},
-     .calculator = true},
+     .calculator = true,
+     .check = [](const reading& n) { EXPECT_EQ(n[0] + 2 * n[3], n.variant() - 1); }},
 };
 
 } // namespace
