@@ -55,6 +55,7 @@ kommasom trek_kommasom(random_draws& toeval, int patroon) {
     som.uitkomst = samen_eerste + (erbij ? samen_andere : -samen_andere);
     // A pair forgotten or counted the wrong way, and miscounts.
     som.vergissingen = {{erbij ? samen_eerste : samen_eerste + samen_andere},
+                        {som.uitkomst - 3},
                         {som.uitkomst - 2},
                         {som.uitkomst - 1},
                         {som.uitkomst + 1},

@@ -81,14 +81,18 @@ void check_pairs(const reading& n) {
     EXPECT_EQ(given, paired);
 }
 
-const auto tens_off = [](const formula& right) {
-    return std::vector<mistake>{{"", right - 10}, {"", right + 10}, {"", right - 20},
-                                {"", right + 20}, {"", right - 30}, {"", right + 30}};
-};
-const auto near_quotient = [](const formula& right) {
-    return std::vector<mistake>{{"", right / 10}, {"", right * 10}, {"", right - 1},
-                                {"", right + 1},  {"", right - 2},  {"", right + 2}};
-};
+// So many units above or below the right answer.
+std::vector<mistake> off_by(std::initializer_list<double> steps, const formula& right, const formula& unit = 1) {
+    std::vector<mistake> all;
+    for (const double step : steps) all.push_back({"", right + unit * step});
+    return all;
+}
+std::vector<mistake> near_quotient(const formula& right) {
+    std::vector<mistake> all = off_by({-2, -1, 1, 2}, right);
+    all.push_back({"", right / 10});
+    all.push_back({"", right * 10});
+    return all;
+}
 void check_not_by_ten(const reading& n) {
     EXPECT_TRUE(n[0] != std::floor(n[0]) && n[1] != std::floor(n[1])) << "a comma in both";
 }
@@ -105,23 +109,12 @@ const exercise_rows against_the_clock{
     {.id = B_tafels_09_02_click,
      .variants = 10,
      .reads = "Je hebt niet veel tijd! Maak de som hiernaast... | Hoeveel is # x # ?",
-     .ranges = {{{2, 9}, {3, 4}},
-                {{2, 9}, {6, 7}},
-                {{2, 9}, {9, 9}},
-                {{2, 9}, {12, 13}},
-                {{2, 9}, {15, 15}},
-                {{2, 9}, {5, 5}},
-                {{2, 9}, {8, 8}},
-                {{2, 9}, {14, 14}},
-                {{2, 9}, {25, 25}},
-                {{2, 9}, {11, 11}}},
+     // clang-format off
+     .ranges = {{{2, 9}, {3, 4}}, {{2, 9}, {6, 7}}, {{2, 9}, {9, 9}}, {{2, 9}, {12, 13}}, {{2, 9}, {15, 15}},
+                {{2, 9}, {5, 5}}, {{2, 9}, {8, 8}}, {{2, 9}, {14, 14}}, {{2, 9}, {25, 25}}, {{2, 9}, {11, 11}}},
+     // clang-format on
      .right = v[0] * v[1],
-     .wrong = {{"", (v[0] - 1) * v[1]},
-               {"", (v[0] - 2) * v[1]},
-               {"", (v[0] - 3) * v[1]},
-               {"", (v[0] + 1) * v[1]},
-               {"", (v[0] + 2) * v[1]},
-               {"", (v[0] + 3) * v[1]}},
+     .wrong = off_by({-3, -2, -1, 1, 2, 3}, v[0] * v[1], v[1]),
      .explains = {{"Het goede antwoord is dus: # x # = #.", {v[0], v[1], v[0] * v[1]}}},
      .ticks = {8},
      .check = check_table},
@@ -167,7 +160,7 @@ const exercise_rows against_the_clock{
      .reads = "Je hebt niet veel tijd! Kijk hiernaast... | Hoeveel is # - # - # ?",
      .ranges = {{{311, 899, 30}, {21, 99, 3}, {111, 399, 9}}},
      .right = v[0] - v[1] - v[2],
-     .wrong = tens_off(v[0] - v[1] - v[2]),
+     .wrong = off_by({-30, -20, -10, 10, 20, 30}, v[0] - v[1] - v[2]),
      .explains = {{"# - # = #. Daar trek je nog # van af. Uitkomst: #.",
                    {v[0], v[2], v[0] - v[2], v[1], v[0] - v[1] - v[2]}}},
      .ticks = {15},
@@ -178,7 +171,7 @@ const exercise_rows against_the_clock{
      .reads = "| Hoeveel is # - # - # - # ?",
      .ranges = {{{221, 899, 30}, {11, 89, 9}, {21, 99}, {21, 99, 9}}},
      .right = v[0] - v[1] - v[2] - v[3],
-     .wrong = tens_off(v[0] - v[1] - v[2] - v[3]),
+     .wrong = off_by({-30, -20, -10, 10, 20, 30}, v[0] - v[1] - v[2] - v[3]),
      .explains = {{"het geval: # - # = #. Verder is # + # = #.", {v[0], v[2], v[0] - v[2], v[1], v[3], v[1] + v[3]}},
                   {"ook zo uitrekenen: # - # = #.", {v[0] - v[2], v[1] + v[3], v[0] - v[1] - v[2] - v[3]}}},
      .ticks = {15},
@@ -193,7 +186,7 @@ const exercise_rows against_the_clock{
      .reads = "| Hoeveel is # - # - # ?",
      .ranges = {{{111, 809, 20}, {21, 179, 9}, {21, 179, 9}}},
      .right = v[0] - v[1] - v[2],
-     .wrong = tens_off(v[0] - v[1] - v[2]),
+     .wrong = off_by({-30, -20, -10, 10, 20, 30}, v[0] - v[1] - v[2]),
      .explains = {{"het geval: # + # = #.", {v[1], v[2], v[1] + v[2]}},
                   {"ook zo uitrekenen: # - # = #.", {v[0], v[1] + v[2], v[0] - v[1] - v[2]}}},
      .ticks = {10},
@@ -229,12 +222,7 @@ const exercise_rows against_the_clock{
      .reads = "Je hebt niet veel tijd! Kijk hiernaast. | Hoeveel is # : # ?",
      .ranges = {{{1010, 9810, 900}, {3, 9}}},
      .right = quotient,
-     .wrong = {{"", quotient - 100},
-               {"", quotient - 10},
-               {"", quotient - 1},
-               {"", quotient + 1},
-               {"", quotient + 10},
-               {"", quotient + 100}},
+     .wrong = off_by({-100, -10, -1, 1, 10, 100}, quotient),
      .explains = {{"eerst # : # = # en daarna nog # : # = #. Samen is dat #.",
                    {v[0] - rest, v[1], (v[0] - rest) / v[1], rest, v[1], rest / v[1], quotient}}},
      .ticks = {15}},

@@ -109,27 +109,25 @@ const auto reaches = [](std::size_t i) -> formula {
     return [=](const reading& n) { return n[i] + n[i + 1] > (n[0] == 0 ? 1e6 : 5e5) ? 0 : 1; };
 };
 
-// In bars of a centimetre: how far the line with the length reaches.
+// How far the lines reach from left to right.
+std::pair<int, int> reach(const seen& e) {
+    std::pair<int, int> ends{drawing::inner_width, 0};
+    for (const line_op& each : all_of<line_op>(e))
+        ends = {std::min({ends.first, each.from.x, each.to.x}), std::max({ends.second, each.from.x, each.to.x})};
+    return ends;
+}
+// That of the line with the length, in bars of a centimetre.
 const formula drawn = [](const reading& n) {
-    int from = drawing::inner_width, to = 0;
-    for (const line_op& each : all_of<line_op>(n.exercise)) {
-        from = std::min({from, each.from.x, each.to.x});
-        to = std::max({to, each.from.x, each.to.x});
-    }
-    const box_op bar = n.exercise.blocks.back();
-    EXPECT_EQ(bar.width, 567);
-    return 1.0 * (to - from) / bar.width;
+    const auto [from, to] = reach(n.exercise);
+    return 1.0 * (to - from) / n.exercise.blocks.back().width;
 };
 const formula scale = v[1] * 100 / v[2];
 void check_bars(const reading& n) {
     const seen later = n.exercise.when_explained();
     EXPECT_EQ(static_cast<double>(later.blocks.size() - n.exercise.blocks.size()), n[2]);
     const box_op& last = later.blocks.back();
-    int from = drawing::inner_width, to = 0;
-    for (const line_op& each : all_of<line_op>(n.exercise)) {
-        from = std::min({from, each.from.x, each.to.x});
-        to = std::max({to, each.from.x, each.to.x});
-    }
+    const auto [from, to] = reach(n.exercise);
+    EXPECT_EQ(n.exercise.blocks.back().width, 567);
     EXPECT_EQ(last.x + last.width, to);
     EXPECT_EQ(later.blocks[n.exercise.blocks.size()].x, from);
 }
