@@ -65,7 +65,7 @@ std::string stap(std::string_view begin, kolom k) {
 }
 
 // The written subtraction. Its digits are 340 apart, so that a stroke through one of them leaves its neighbours alone.
-constexpr int rechts = 5150, kolombreedte = 340, punten = 17;
+constexpr int rechts = 5070, kolombreedte = 340, punten = 17;
 
 std::string in_kolommen(int y, int getal, std::string_view ervoor = "", std::string_view erachter = "") {
     const std::string cijfers = regel(ervoor, cijfers_wijd(duizend(getal)));
@@ -78,8 +78,8 @@ std::string doorgestreept(int kolomnummer, int getal) {
 }
 std::vector<std::string> uitgewerkt(const aftrekking& a) {
     return {in_kolommen(460, a.grootste()),
-            in_kolommen(860, a.kleinste(), "", " -"),
-            vak_opdracht(3500, 1300, 1700, 20, wit),
+            in_kolommen(860, a.kleinste(), "", "  -"),
+            vak_opdracht(3450, 1300, 1700, 20, wit),
             in_kolommen(1360, a.verschil(), "verschil:  "),
             doorgestreept(0, a.eenheden().boven),
             doorgestreept(1, a.tientallen().boven),

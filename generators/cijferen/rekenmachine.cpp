@@ -10,11 +10,11 @@ void oefeningen::M_controle_12_02_click() {
     kies_variant(2);
     zaai();
     const bool deling = variant == 1;
-    // Not whole and not equal, so that one cannot be taken for the other.
+    // From 1,01 to 9,99, never whole.
     const auto trek_getal = [&] {
         const int decimalen = trek_van(1, 2);
-        return kommagetal{decimalen == 1 ? trek(9) * 10 + trek_van(11, 19) : trek(90) * 10 + trek_van(101, 109),
-                          decimalen};
+        const int laatste_cijfer = trek_van(1, 9);
+        return kommagetal{10 * (decimalen == 1 ? trek_van(1, 9) : trek_van(10, 99)) + laatste_cijfer, decimalen};
     };
     const kommagetal een = trek_getal();
     const kommagetal ander = trek_tot(trek_getal, [een](kommagetal g) { return g != een; });
@@ -29,23 +29,26 @@ void oefeningen::M_controle_12_02_click() {
          komma_kort(deling ? ander : product));
     plaatje.text_size = 14;
     constexpr std::array<kleur, 4> kleuren{donkerrood, donkerblauw, groen, lichtgrijs};
-    const auto optie = [&](const std::string& tekst, const melding& bij) { return keuze<>{tekst, bij}; };
-    std::array<keuze<>, 4> fouten;
+    std::vector<keuze<>> fouten;
     std::string juist;
     if (deling) {
         const melding zelfde{"Je had er een vermenigvuldiging van moeten maken."};
         const melding verkeerd{"Je hebt wel een vermenigvuldiging gedaan,", "maar met de verkeerde getallen."};
         juist = gewisseld ? som(een, " x", ander) : som(ander, " x", een);
-        fouten = {optie(som(ander, " :", een), zelfde), optie(som(een, " :", ander), zelfde),
-                  optie(som(product, " x", een), verkeerd), optie(som(ander, " x", product), verkeerd)};
+        fouten = {{som(ander, " :", een), zelfde},
+                  {som(een, " :", ander), zelfde},
+                  {som(product, " x", een), verkeerd},
+                  {som(ander, " x", product), verkeerd}};
     } else {
         const melding zelfde{"Je had er een deling van moeten maken."};
         const melding verkeerd{"Je hebt wel een deling gedaan,", "maar met de verkeerde getallen."};
         juist = gewisseld ? som(product, " :", een) : som(product, " :", ander);
-        fouten = {optie(som(product, " x", een), zelfde), optie(som(ander, " x", product), zelfde),
-                  optie(som(een, " :", ander), verkeerd), optie(som(ander, " :", product), verkeerd)};
+        fouten = {{som(product, " x", een), zelfde},
+                  {som(ander, " x", product), zelfde},
+                  {som(een, " :", ander), verkeerd},
+                  {som(ander, " :", product), verkeerd}};
     }
-    fouten = geschud(fouten);
+    fouten = geschud(std::move(fouten));
     kleurkeuze({300, 560}, 375, kleuren, std::array{keuze<>{juist}, fouten[0], fouten[1], fouten[2]});
     met_rekenmachine();
 
