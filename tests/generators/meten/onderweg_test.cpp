@@ -106,6 +106,41 @@ void check_estimate(const reading& n) {
     EXPECT_EQ(other_kinds, 1);
 }
 
+// The row of the board with this flight number, as the place of that among the words of the picture.
+std::size_t flight(const reading& n, const std::string& number) {
+    return static_cast<std::size_t>(std::ranges::find(n.exercise.words, number) - n.exercise.words.begin());
+}
+double minutes(const std::string& time) { return number_of(time).value(); }
+double hours(const reading& n, std::size_t row) {
+    return (minutes(n.exercise.words.at(row + 2)) - minutes(n.exercise.words.at(row + 1))) / 60;
+}
+
+// Four flights in the order in which they land; the wrong times are those of another, and the right ones are framed.
+void check_board(const reading& n) {
+    std::set<double> distances;
+    std::set<std::string> numbers;
+    for (std::size_t row = 4; row < 20; row += 4) {
+        const auto& words = n.exercise.words;
+        numbers.insert(words.at(row));
+        EXPECT_TRUE(hours(n, row) > 0 && minutes(words.at(row + 2)) < 24 * 60);
+        EXPECT_TRUE(row == 4 || minutes(words.at(row - 2)) <= minutes(words.at(row + 2)));
+        distances.insert(hours(n, row) * n[0]);
+    }
+    EXPECT_TRUE(numbers.size() == 4 && distances.size() == 4);
+    for (int which = 2; which <= 4; ++which) {
+        const std::string told = n.exercise.feedback(which);
+        if (told.find("ander vliegtuig") == std::string::npos) continue;
+        EXPECT_TRUE(distances.contains(decimal(n.exercise.answer(which))));
+        EXPECT_NE(told.find(n.words[0] + "."), std::string::npos);
+    }
+    const auto frame = std::get<box_op>(explained(n.exercise.made).operations().back());
+    const int top = n.exercise.texts[flight(n, n.words[0])].y;
+    EXPECT_TRUE(!frame.filled && frame.y < top && frame.y + frame.height > top + 200 && frame.height < 400);
+    const std::size_t row = flight(n, n.words[0]);
+    n.exercise.told(
+        ("vertrok om " + n.exercise.words[row + 1] + " uur en landde om " + n.exercise.words[row + 2]).c_str());
+}
+
 const exercise_rows on_the_road{
     {.id = L_fietsen_07_09_click,
      .variants = 2,
@@ -143,6 +178,20 @@ const exercise_rows on_the_road{
                              (told.starts_with(regel("In", hours, " uur")) && told.find(way) != told.npos));
              }
          }},
+    {.id = Z_vliegtuig_07_09_click,
+     .variants = 2,
+     .reads = "vluchtnummer @ is geland. Het vloog met een snelheid van # km per uur. * | NUMMER | VERTREK | AANKOMST "
+              "| UITGANG | ",
+     .counts = {[](const reading& n) { return hours(n, flight(n, n.words[0])); }},
+     .ranges = {{{600, 900}, {2, 8}}, {{600, 900}, {1.5, 7.5}}},
+     .right = v[0] * v[1],
+     .wrong = {{"ander vliegtuig", lies::elsewhere},
+               {"Bereken eerst hoe lang", v[0] * (v[1] - 1)},
+               {"Bereken eerst hoe lang", v[0] * (v[1] + 1)},
+               {"halve uur vergeten", v[0] * (v[1] - 0.5)},
+               {"niet 0,3 uur", v[0] * (v[1] - 0.2)}},
+     .explains = {{"Het vloog dus # uur met een snelheid van # km", {v[1], v[0]}}, {"is # x # =", {v[1], v[0]}}},
+     .check = check_board},
     {.id = M_worst_08_17_click,
      .variants = 5,
      .reads = "Hoeveel gram weegt die worst ongeveer? | MAX.*# kg | 0 ",

@@ -1,0 +1,179 @@
+// Pieces of land and figures: measured again from what is drawn.
+#include "tests/support/exercise_rows.h"
+
+#include <set>
+
+namespace cijferwerf {
+namespace {
+
+using enum oefening_id;
+
+// The corners of the figures on the grid, in squares.
+std::vector<std::vector<point>> figures(const reading& n) {
+    std::vector<std::vector<point>> found;
+    for (const drawing_op& operation : n.exercise.made.plaatje.operations())
+        if (const auto* drawn = std::get_if<polygon_op>(&operation)) {
+            found.push_back(drawn->corners);
+            for (point& corner : found.back()) corner = {(corner.x - 125) / 270, corner.y / 270};
+        }
+    return found;
+}
+double area(const std::vector<point>& corners) {
+    double twice = 0;
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        const point a = corners[i], b = corners[(i + 1) % corners.size()];
+        twice += a.x * b.y - b.x * a.y;
+    }
+    return std::abs(twice) / 2;
+}
+// How wide (or high) the figure with this number is.
+formula extent(std::size_t which, int point::*along) {
+    return [=](const reading& n) {
+        const auto corners = figures(n).at(which);
+        const auto [low, high] = std::ranges::minmax(corners, {}, along);
+        return high.*along - low.*along;
+    };
+}
+
+void check_areas(const reading& n) {
+    std::vector<double> areas;
+    for (const auto& corners : figures(n)) areas.push_back(area(corners));
+    ASSERT_EQ(areas.size(), 4U);
+    const auto most = n.variant() == 1 ? std::ranges::min_element(areas) : std::ranges::max_element(areas);
+    EXPECT_EQ(std::ranges::count(areas, *most), 1);
+    EXPECT_EQ(n.exercise.right_place(), most - areas.begin() + 1);
+    std::string row;
+    for (int place = 1; place <= 4; ++place) {
+        const double cm2 = areas[static_cast<std::size_t>(place - 1)];
+        EXPECT_TRUE(cm2 >= 7 && cm2 <= 11);
+        const std::string told = regel("figuur", place, ":", komma_kort(static_cast<int>(cm2 * 10), 1), " cm²");
+        n.exercise.told(told.c_str());
+        row += regel(komma_kort(static_cast<int>(cm2 * 10), 1), " cm²");
+        EXPECT_EQ(n.exercise.answer(place), regel("figuur", place));
+        if (place == n.exercise.right_place()) continue;
+        const std::string feedback = n.exercise.feedback(place),
+                          start = regel("De oppervlakte van figuur", place, " is",
+                                        komma_kort(static_cast<int>(cm2 * 10), 1), " cm². Er is een figuur die ",
+                                        n.variant() == 1 ? "kleiner" : "groter", " is.");
+        EXPECT_TRUE(feedback.starts_with(start)) << feedback << start;
+    }
+    std::string drawn = n.exercise.when_explained().words.back();
+    std::erase(drawn, ' ');
+    std::erase(row, ' ');
+    EXPECT_EQ(drawn, row);
+}
+
+// A rectangle so long with its square, so high, and the side of the square, as drawn in these colours; and the sides
+// that the explanation adds.
+const formula wide = v[0] - v[2];
+auto check_L(kleur rectangle, kleur square, std::vector<std::string> (*added)(const reading&)) {
+    return [=](const reading& n) {
+        const auto box = [&](kleur colour) {
+            return *std::ranges::find(n.exercise.blocks, colour, [](const box_op& b) { return b.pen.colour; });
+        };
+        const box_op large = box(rectangle), small = box(square);
+        EXPECT_TRUE(same(large.width * n[1], large.height * (n[0] - n[2])));
+        EXPECT_TRUE(same(small.width * n[1], large.height * n[2]) && small.width == small.height);
+        EXPECT_EQ(n.variant() == 1 ? large.x + large.width : small.x + small.width,
+                  n.variant() == 1 ? small.x : large.x)
+            << "side by side";
+        EXPECT_TRUE(small.y == large.y || small.y + small.height == large.y + large.height);
+        const auto words = n.exercise.when_explained().words;
+        const auto expected = added(n);
+        EXPECT_TRUE(std::equal(expected.rbegin(), expected.rend(), words.rbegin())) << words.back();
+    };
+}
+
+// The shed lies on the site, and the long side of that below or above.
+void check_site(const reading& n) {
+    const auto drawn = figures(n);
+    const auto &site = drawn.at(0), &shed = drawn.at(1);
+    EXPECT_TRUE(same(area(site), (n[0] + n[1]) / 2 * n[2]));
+    EXPECT_TRUE(same(area(shed), n[3] * n[4]));
+    EXPECT_EQ(site[0].y > site[2].y, n.variant() == 1);
+    EXPECT_TRUE(site[1].x - site[0].x == n[0] && site[2].x - site[3].x == n[1]);
+    for (const point corner : shed)
+        EXPECT_TRUE(corner.x >= site[3].x && corner.x <= site[2].x &&
+                    (corner.y - site[0].y) * (corner.y - site[2].y) <= 0);
+}
+
+const formula both_edges = (wide + v[1]) * 2 + v[2] * 4;
+const formula site = (v[0] + v[1]) * v[2] / 2, shed = v[3] * v[4];
+
+const exercise_rows land{
+    {.id = M_figuren_07_12_click,
+     .variants = 2,
+     .reads =
+         "Elk hokje stelt 1 cm² voor. Welke figuur heeft de (KLEINSTE|GROOTSTE) oppervlakte? | figuur 1 | figuur 2 "
+         "| figuur 3 | figuur 4 ",
+     .ranges = {{{0, 0}}, {{1, 1}}},
+     .check = check_areas},
+    {.id = M_L_vorm_07_12_click,
+     .variants = 2,
+     .reads = "Niet alle maten * zijn gegeven. Hoe groot is de oppervlakte van de hele figuur? | # | # | # ",
+     .ranges = {{{8, 33, 1}, {12, 14}, {3, 9}}},
+     .right = wide * v[1] + v[2] * v[2],
+     .wrong = {{"stukje afhalen", v[0] * v[1]},
+               {"te lange rechthoek", v[0] * v[1] + v[2] * v[2]},
+               {"de omtrek berekend", (v[0] + v[1]) * 2},
+               {"blauwe vierkant vergeten", wide* v[1]}},
+     .explains = {{"# - # = # cm breed en # cm hoog.", {v[0], v[2], wide, v[1]}},
+                  {"ervan is # x # = #", {wide, v[1], wide* v[1]}},
+                  {"Samen is dat # + # =", {wide * v[1], v[2] * v[2]}}},
+     .check = check_L(geel, blauw,
+                      [](const reading& n) { return std::vector{regel(kaal(static_cast<int>(n[0] - n[2])))}; })},
+    {.id = M_tuin_07_09_click,
+     .variants = 2,
+     .reads = "totale lengte van het hek om deze L-vormige tuin. | # m | # m | # m ",
+     .ranges = {{{10, 32, 1}, {7, 21}, {4, 12}}},
+     .right = (v[0] + v[1]) * 2,
+     .wrong = {{"die van de rechthoek opgeteld", both_edges},
+               {"twee keer af", both_edges - v[2]},
+               {"oppervlakte berekend", wide* v[1] + v[2] * v[2]},
+               {"een stuk hek vergeten", (v[0] + v[1]) * 2 - (v[1] - v[2])},
+               {"maar de helft", v[0] + v[1]},
+               {"alleen de omtrek van de rechthoek", (wide + v[1]) * 2}},
+     .explains = {{"# - # = # m breed; naast het vierkant houdt hij # - # = # m over.",
+                   {v[0], v[2], wide, v[1], v[2], v[1] - v[2]}},
+                  {"# + # + # + # + # + # =", {v[1], wide, v[1] - v[2], v[2], v[2], v[0]}}},
+     .check = check_L(groen, lichtgroen,
+                      [](const reading& n) {
+                          return std::vector{regel(kaal(static_cast<int>(n[0] - n[2])), " m"),
+                                             regel(kaal(static_cast<int>(n[2])), " m")};
+                      })},
+    {.id = Z_tegels_07_12_click,
+     .variants = 2,
+     .reads =
+         "grootste lengte van # m en een kleinste lengte van # m wordt betegeld. * nodig? | Eén hokje is 1 bij 1 meter.",
+     .counts = {extent(0, &point::y), extent(1, &point::x), extent(1, &point::y)},
+     .ranges = {{{8, 18}, {6, 12}, {4, 6}, {2, 4}, {1, 4}}},
+     .right = site - shed,
+     .wrong = {{"ervan af te trekken?", site},
+               {"erbij opgeteld", site + shed},
+               {"de kleinste lengte is", v[0] * v[2] - shed},
+               {"de grootste lengte is", v[1] * v[2] - shed},
+               {"omtrek van de schuur", site - (v[3] + v[4]) * 2}},
+     .explains = {{"# + #) : 2 = # m lang. Het is # hokjes hoog", {v[0], v[1], (v[0] + v[1]) / 2, v[2]}},
+                  {"schuur is # x # = # m². Er is dus # - # =", {v[3], v[4], shed, site, shed}}},
+     .check = check_site},
+    {.id = M_opbrengst_08_12_click,
+     .variants = 2,
+     .reads = "vierkant stuk land is # m. Het land wordt verkocht voor € #*per m². Hoeveel * op? | TE KOOP "
+              "| bouwgrond voor een | prijs van | € $1*per m² ",
+     .ranges = {{{100, 496}, {2, 20}}, {{500, 896}, {2, 15}}},
+     .right = v[0] * v[0] * v[1] / 16,
+     .wrong = {{"voor de oppervlakte aangezien", v[0] * v[1]},
+               {"in het kwadraat te zetten", v[0] * v[1] / 4},
+               {"eerst door 2 gedeeld", v[0] * v[0] * v[1] / 4},
+               {"niet met de prijs", v[0] * v[0] / 16}},
+     .explains = {{"# : 4 = # m. De oppervlakte is # x # =", {v[0], v[0] / 4, v[0] / 4, v[0] / 4}},
+                  {"dus # x # =", {v[0] * v[0] / 16, v[1]}}},
+     .check =
+         [](const reading& n) {
+             EXPECT_EQ(n.exercise.when_explained().words.back(), regel(kaal(static_cast<int>(n[0]) / 4), " m"));
+             EXPECT_LT(n[0] * n[0] * n[1] / 4, 1e6);
+         }},
+};
+
+} // namespace
+} // namespace cijferwerf
