@@ -6,13 +6,11 @@
 #include "generators/gedeeld/telwoord.h"
 #include "generators/oefeningen.h"
 
-#include <numeric>
-
 namespace cijferwerf {
 
 namespace {
 
-// The digits of a number, each counted in places from the right end.
+// The number with the digits at two places, counted from 0 at its right end, swapped.
 int verwisseld(int getal, int plaats, int andere) {
     const auto macht = [](int p) { return static_cast<int>(tien_tot_de(p)); };
     const int cijfer = getal / macht(plaats) % 10, ander = getal / macht(andere) % 10;
@@ -63,28 +61,23 @@ void oefeningen::B_letters_11_01_click() {
     vraag("Hiernaast zie je een getal", "dat helemaal in letters", "is geschreven.", leeg,
           "Hoe schrijf je het in cijfers?");
 
-    std::vector<keuze<int>> vergissingen;
+    const melding eerste_twee{"De eerste twee cijfers zijn niet goed."};
+    const melding linker_deel{"De laatste drie cijfers zijn wel goed.",
+                              variant == 2 ? "In het linker deel van het getal zijn"
+                                           : "In het middelste deel van het getal zijn",
+                              "twee cijfers verwisseld..."};
+    const melding laatste_deel{"In het laatste deel van het getal zijn nog", "twee cijfers verwisseld."};
+    const melding beide_delen{"Vier cijfers staan nog niet op de goede", "plaats, dus...",
+                              "lees elk stukje van het getal nog een keer."};
     const auto anders_links = verwisselingen(duizenden), anders_rechts = verwisselingen(rest);
-    for (const int links : anders_links) {
-        if (variant == 1 || (variant == 2 && links % 10 == duizenden % 10))
-            vergissingen.push_back({samen(links, rest), {"De eerste twee cijfers zijn niet goed."}});
-        else if (variant == 2)
-            vergissingen.push_back({samen(links, rest),
-                                    {"De laatste drie cijfers zijn wel goed.", "In het linker deel van het getal zijn",
-                                     "twee cijfers verwisseld..."}});
-        else
-            vergissingen.push_back({samen(links, rest),
-                                    {"De laatste drie cijfers zijn wel goed.",
-                                     "In het middelste deel van het getal zijn", "twee cijfers verwisseld..."}});
-    }
-    for (const int rechts : anders_rechts)
-        vergissingen.push_back(
-            {samen(duizenden, rechts), {"In het laatste deel van het getal zijn nog", "twee cijfers verwisseld."}});
     const int links = kies(anders_links);
     const int rechts = kies(anders_rechts);
-    vergissingen.push_back(
-        {samen(links, rechts),
-         {"Vier cijfers staan nog niet op de goede", "plaats, dus...", "lees elk stukje van het getal nog een keer."}});
+    std::vector<keuze<int>> vergissingen{{samen(links, rechts), beide_delen}};
+    for (const int ander : anders_links) {
+        const bool vooraan = variant == 1 || (variant == 2 && ander % 10 == duizenden % 10);
+        vergissingen.push_back({samen(ander, rest), vooraan ? eerste_twee : linker_deel});
+    }
+    for (const int ander : anders_rechts) vergissingen.push_back({samen(duizenden, ander), laatste_deel});
     drie_andere(juist, groepen, vergissingen);
 
     const auto wordt = [](std::string_view stuk, int cijfers_van) {
@@ -168,6 +161,7 @@ void oefeningen::L_na_de_komma_11_06_click() {
         return trek_tot([this] { return trek_van(1, 3); }, [&](int p) { return p != dan && p != ook_niet; });
     };
     const std::string juist = som(plaats, tweede_plaats);
+    // Where both are wrong, the second never takes the place of the first: else the sum would nearly always be larger.
     const int fout_tweede = trek_andere(tweede_plaats);
     const int fout_eerste = trek_andere(plaats);
     const int beide_eerste = trek_andere(plaats);
@@ -178,9 +172,9 @@ void oefeningen::L_na_de_komma_11_06_click() {
     antwoord_over_stippen(plaatje.x, 90, donkerblauw, "...", juist);
     kleurkeuze({500, 480}, 400, kleuren,
                {{juist},
-                {som(plaats, fout_tweede), {"De eerste helft van je antwoord is goed..."}},
-                {som(fout_eerste, tweede_plaats), {"De tweede helft van je antwoord is wel goed..."}},
-                {som(beide_eerste, beide_tweede), {"Beide helften van het antwoord zijn fout."}}});
+                {som(plaats, fout_tweede), "De eerste helft van je antwoord is goed..."},
+                {som(fout_eerste, tweede_plaats), "De tweede helft van je antwoord is wel goed..."},
+                {som(beide_eerste, beide_tweede), "Beide helften van het antwoord zijn fout."}});
 
     vraag("Hiernaast zie je een kommagetal.", "Hoe kun je dat ook schrijven?", leeg, "Kies de juiste kleur.");
 
@@ -207,8 +201,8 @@ void oefeningen::L_samenstellen_11_06_click() {
     zaai();
     const auto [plaats, tweede_plaats] = rij(plaatsparen, variant);
     const int aantal = trek_van(1, 5);
-    const int ander = trek_van(2, 8);
-    const int tweede = ander < aantal || aantal == 1 ? ander : ander + 1; // never as many, 2 to 9
+    const int ander = trek_van(2, aantal == 1 ? 9 : 8);
+    const int tweede = aantal > 1 && ander >= aantal ? ander + 1 : ander; // never as many, 2 to 9
     const auto getal = [=](int p, int q) {
         return static_cast<int>(aantal * tien_tot_de(p) + tweede * tien_tot_de(q)); // thousandths
     };
@@ -230,32 +224,28 @@ void oefeningen::L_samenstellen_11_06_click() {
     vraag("Hoe schrijf je een getal dat", regel("bestaat uit ", telling(aantal, plaats), " en"),
           regel(telling(tweede, tweede_plaats), "?"));
 
-    std::vector<keuze<int>> vergissingen{{getal(tweede_plaats, plaats),
-                                          {regel("Je hebt de ", rij(namen, plaats + 1).meer, " en de"),
-                                           regel(rij(namen, tweede_plaats + 1).meer, " met elkaar verwisseld.")}}};
+    const std::string_view naam = rij(namen, plaats + 1).meer, tweede_naam = rij(namen, tweede_plaats + 1).meer;
+    const melding omgedraaid{regel("Je hebt de ", naam, " en de"), regel(tweede_naam, " met elkaar verwisseld.")};
+    const melding eerste_goed{regel("De", aantal, " staat wel goed, maar de", tweede, " staat niet"),
+                              regel("op de plaats van de ", tweede_naam, ".")};
+    const melding tweede_goed{regel("De", tweede, " staat wel goed, maar de", aantal, " staat niet"),
+                              regel("op de plaats van de ", naam, ".")};
+    const melding beide_fout{regel("De", aantal, " en de", tweede, " staan allebei niet op de goede plaats.")};
+    std::vector<keuze<int>> vergissingen{{getal(tweede_plaats, plaats), omgedraaid}};
     for (const int p : {plaats - 1, plaats, plaats + 1})
-        for (const int q : {tweede_plaats - 1, tweede_plaats, tweede_plaats + 1}) {
-            if (p == q || p > 6 || q < 0) continue;
-            if (p == plaats)
-                vergissingen.push_back({getal(p, q),
-                                        {regel("De", aantal, " staat wel goed, maar de", tweede, " staat niet"),
-                                         regel("op de plaats van de ", rij(namen, tweede_plaats + 1).meer, ".")}});
-            else if (q == tweede_plaats)
-                vergissingen.push_back({getal(p, q),
-                                        {regel("De", tweede, " staat wel goed, maar de", aantal, " staat niet"),
-                                         regel("op de plaats van de ", rij(namen, plaats + 1).meer, ".")}});
-            else
-                vergissingen.push_back(
-                    {getal(p, q), {regel("De", aantal, " en de", tweede, " staan allebei niet op de goede plaats.")}});
-        }
+        for (const int q : {tweede_plaats - 1, tweede_plaats, tweede_plaats + 1})
+            if (p != q && p <= 6 && q >= 0)
+                vergissingen.push_back({getal(p, q), p == plaats          ? eerste_goed
+                                                     : q == tweede_plaats ? tweede_goed
+                                                                          : beide_fout});
     drie_andere(juist, geschreven, vergissingen);
 
     const int eerste_deel = static_cast<int>(aantal * tien_tot_de(plaats)), tweede_deel = juist - eerste_deel;
     uitleg("Kijk bij elk aantal op welke plaats het hoort:",
-           regel("voor de ", rij(namen, plaats + 1).meer, " is dat", aantal, " x", geschreven(tien_tot_de(plaats)),
-                 " =", geschreven(eerste_deel), ","),
-           regel("voor de ", rij(namen, tweede_plaats + 1).meer, " is dat", tweede, " x",
-                 geschreven(tien_tot_de(tweede_plaats)), " =", geschreven(tweede_deel), "."),
+           regel("voor de ", naam, " is dat", aantal, " x", geschreven(tien_tot_de(plaats)), " =",
+                 geschreven(eerste_deel), ","),
+           regel("voor de ", tweede_naam, " is dat", tweede, " x", geschreven(tien_tot_de(tweede_plaats)), " =",
+                 geschreven(tweede_deel), "."),
            regel("Samen is dat", geschreven(eerste_deel), " +", geschreven(tweede_deel), " =", geschreven(juist), "."));
     for (int p = std::max(plaats, 3); p >= std::min(tweede_plaats, 3); --p)
         opdracht(druk_midden_opdracht(midden(p), 1020, geel, 16, juist / tien_tot_de(p) % 10));

@@ -167,14 +167,18 @@ void oefeningen::L_schoolbord_11_06_click() {
 
     vraag("Op het schoolbord staat een som.", leeg, "Kies het goede antwoord.");
 
-    // Not multiplied, the other part, one part too many or too few, a comma in the wrong place.
-    drie_andere(10 * juist, [](int duizendsten) { return komma_kort(duizendsten, 3); },
-                {{10 * een_deel},
-                 {10 * (getal - juist)},
-                 {10 * (juist + een_deel)},
-                 {10 * (juist - een_deel)},
-                 {100 * juist},
-                 {juist}});
+    // Not multiplied, the other part, one part too many or too few, multiplied where one divides, a comma in the wrong
+    // place; but not the number that is given.
+    std::vector<keuze<int>> vergissingen{{10 * een_deel},
+                                         {10 * (getal - juist)},
+                                         {10 * (juist + een_deel)},
+                                         {10 * (juist - een_deel)},
+                                         {10 * getal * deel.noemer},
+                                         {100 * juist},
+                                         {juist}};
+    std::erase_if(vergissingen, [getal](const keuze<int>& k) { return k.waarde == 10 * getal; });
+    drie_andere(
+        10 * juist, [](int duizendsten) { return komma_kort(duizendsten, 3); }, vergissingen);
     tip_1("Maak eerst honderdsten van dat kommagetal en", "deel vervolgens door de noemer van de breuk.");
     tip_2(regel("Reken verder met", duizend(getal), " honderdsten: deel door", deel.noemer),
           deel.teller == 1 ? std::string("en maak van de uitkomst weer een kommagetal.")

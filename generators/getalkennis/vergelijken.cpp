@@ -134,13 +134,12 @@ void oefeningen::M_tabel_11_01_click() {
           regel(kaal(rij(jaren, eerste)), " en", rij(jaren, laatste), " bijgekomen?"));
 
     drie_andere(erbij * waarde, groepen,
-                {{erbij, {"Je hebt vergeten te vermenigvuldigen...!"}},
-                 {erbij * waarde / 10, {"Heb je wel met het goede getal vermenigvuldigd?"}},
-                 {erbij * waarde * 10, {"Heb je wel met het goede getal vermenigvuldigd?"}},
-                 {werd * waarde,
-                  {regel("Zoveel leden waren er in", rij(jaren, laatste), " in totaal."),
-                   regel("Een deel daarvan was er in", rij(jaren, eerste), " al.")}},
-                 {(was + werd) * waarde, {"Je hebt de aantallen opgeteld. Hoeveel verschillen ze?"}}});
+                {{erbij, "Je hebt vergeten te vermenigvuldigen...!"},
+                 {erbij * waarde / 10, "Heb je wel met het goede getal vermenigvuldigd?"},
+                 {erbij * waarde * 10, "Heb je wel met het goede getal vermenigvuldigd?"},
+                 {werd * waarde, regel("Zoveel leden waren er in", rij(jaren, laatste), " in totaal."),
+                  regel("Een deel daarvan was er in", rij(jaren, eerste), " al.")},
+                 {(was + werd) * waarde, "Je hebt de aantallen opgeteld. Hoeveel verschillen ze?"}});
 
     uitleg(regel("In", rij(jaren, eerste), " staat in de tabel het getal", was, " en in", rij(jaren, laatste),
                  " het getal", werd, "."),

@@ -173,44 +173,39 @@ const formula place = [](const reading& n) {
 const formula digit = [](const reading& n) { return std::fmod(std::floor(n[0] / std::pow(10, n[1])), 10); };
 const formula place_worth = [](const reading& n) { return std::pow(10, n[1]); };
 void check_place_names(const reading& n) {
-    static constexpr std::array<const char*, 8> names{
-        "eenheden",          "tientallen (T)",         "honderdtallen (H)",
-        "duizendtallen (D)", "tienduizendtallen (TD)", "honderdduizendtallen (HD)",
-        "miljoentallen (M)", "tienmiljoentallen (TM)"};
+    static constexpr std::array names{"de eenheden", "(T)", "(H)", "(D)", "(TD)", "(HD)", "(M)", "(TM)"};
     const seen& e = n.exercise;
     const double worth_one = e.numbers()[0] / std::pow(10, n[1]);
     for (int i = 1; i <= 4; ++i) {
         const double at = std::log10(e.numbers().at(static_cast<std::size_t>(i - 1)) / worth_one);
         const std::string name = names.at(static_cast<std::size_t>(std::round(at)));
-        EXPECT_NE(i == 1 ? e.explanation.find("het aantal " + name + " aan.") : e.feedback(i).find(" de " + name + "."),
-                  std::string::npos)
-            << e.answer(i);
+        const std::string told = i == 1 ? e.explanation : e.feedback(i);
+        EXPECT_NE(told.find(name + (i == 1 ? " aan." : ".")), told.npos) << e.answer(i) << ": " << told;
         EXPECT_LE(std::abs(at - n[1]), n[1] == 7 ? 3 : 2);
     }
 }
 
-// The digit, and the place behind the comma, of the first (0) or second (1) part.
-int behind_comma(int variant, int part) { return part == 0 ? (variant == 3 ? 2 : 1) : (variant == 1 ? 2 : 3); }
-formula decimal_digit(int part) {
-    return [=](const reading& n) {
-        return std::fmod(std::floor(n[0] * std::pow(10, behind_comma(n.variant(), part)) + 1e-6), 10);
-    };
-}
-formula decimal_place(int part) {
-    return [=](const reading& n) { return std::pow(10, behind_comma(n.variant(), part)); };
-}
+const formula first_half = [](const reading& n) {
+    const double unit = n.variant() == 3 ? 0.01 : 0.1;
+    return unit * std::floor(n[0] / unit);
+};
+// Each option is a sum of two fractions; the feedback tells which of them the right one has too.
 void check_halves(const reading& n) {
+    const auto options = n.exercise.options();
+    const auto half = [](const std::string& of, bool first) {
+        return first ? of.substr(0, of.find(" + ")) : of.substr(of.find(" + "));
+    };
+    const std::string& right = options.at(static_cast<std::size_t>(n.exercise.right_place() - 1));
     for (int i = 1; i <= 4; ++i) {
-        const auto option = find_pattern(n.exercise.options().at(static_cast<std::size_t>(i - 1)), "#/# + #/#");
-        ASSERT_TRUE(option);
-        const std::vector<double>& parts = option->numbers;
-        EXPECT_TRUE(parts[0] == std::get<double>(decimal_digit(0)(n)) &&
-                    parts[2] == std::get<double>(decimal_digit(1)(n)));
-        const bool first = parts[1] == std::get<double>(decimal_place(0)(n)),
-                   second = parts[3] == std::get<double>(decimal_place(1)(n));
-        EXPECT_EQ(first && second, i == n.exercise.right_place());
-        if (first && second) continue;
-        EXPECT_EQ(n.exercise.feedback(i).substr(0, 6), first ? "De eer" : second ? "De twe" : "Beide ");
+        const std::string& option = options.at(static_cast<std::size_t>(i - 1));
+        const auto sum = find_pattern(option, "& + &");
+        ASSERT_TRUE(sum);
+        EXPECT_EQ(same(sum->numbers[0] + sum->numbers[1], n[0]), i == n.exercise.right_place()) << option;
+        if (i == n.exercise.right_place()) continue;
+        const char* told = half(option, true) == half(right, true)     ? "De eerste helft van je antwoord is goed"
+                           : half(option, false) == half(right, false) ? "De tweede helft van je antwoord is wel goed"
+                                                                       : "Beide helften";
+        EXPECT_TRUE(n.exercise.feedback(i).starts_with(told)) << option;
     }
 }
 
@@ -314,9 +309,7 @@ const exercise_rows lines_and_places{
      .variants = 3,
      .reads = "Kies de juiste kleur. | # =",
      .ranges = {{{0.26, 0.59}}, {{0.206, 0.509}}, {{0.026, 0.059}}},
-     .right = says("#/# + #/#", decimal_digit(0), decimal_place(0), decimal_digit(1), decimal_place(1)),
-     .explains = {{"Dus: # = #/# + #/#. De juiste kleur is dus",
-                   {v[0], decimal_digit(0), decimal_place(0), decimal_digit(1), decimal_place(1)}}},
+     .explains = {{"Dus: # = & + &. De juiste kleur is dus", {v[0], first_half, v[0] - first_half}}},
      .check = check_halves},
     {.id = L_samenstellen_11_06_click,
      .variants = 6,

@@ -72,6 +72,7 @@ void check_board(const reading& n) {
     EXPECT_LT(right_end(e.texts[0]), 4000);
     EXPECT_NE(std::fmod(std::round(n[0] * 100), 100), 0);
     EXPECT_EQ(e.made.uitlegopdrachten[0], regel("PRINT_", kaal(starts.at(e.right.size())), "_800_12_20_", e.right));
+    for (const double each : e.numbers()) EXPECT_FALSE(same(each, n[0])) << "the number that is given";
     const auto times = find_pattern(e.explanation, "daarna met #: # x # = #.");
     EXPECT_EQ(times.has_value(), n[1] > 1);
     EXPECT_TRUE(!times || (times->numbers[0] == n[1] && same(times->numbers[1], 100 * n[0] / n[2])));
@@ -175,8 +176,7 @@ const exercise_rows sums_and_comparisons{
                 {{10, 249}, {10, 249}, {1, 240, 5}, {1, 240, 5}},
                 {{10, 249}, {10, 249}, {1, 240, 5}, {1, 240, 5}}},
      .right = total,
-     .wrong =
-         {{"", total - 10}, {"", total - 20}, {"", total - 30}, {"", total + 10}, {"", total + 20}, {"", total + 30}},
+     .wrong = unnamed({total - 10, total - 20, total - 30, total + 10, total + 20, total + 30}),
      .explains = {{"eerste en (tweede|derde|vierde) getal", {[](const reading& n) { return n.variant() - 1; }}},
                   {"samen #*maar ook het (derde|tweede) en (vierde|derde) getal",
                    {first_pair, [](const reading& n) { return n.variant() == 1 ? 0 : 1; },
@@ -197,7 +197,7 @@ const exercise_rows sums_and_comparisons{
                 {{0.12, 21, 0.4}, {2, 6}, {6, 7}},
                 {{0.16, 30, 0.6}, {3, 7}, {8, 10}}},
      .right = part,
-     .wrong = unnamed({one_part, v[0] - part, part + one_part, part - one_part, part * 10, part / 10}),
+     .wrong = unnamed({one_part, v[0] - part, v[0] * v[2], part + one_part, part - one_part, part * 10, part / 10}),
      .explains = {{"lezen als # honderdste. Deel dit aantal eerst door #: # : # = #.",
                    {v[0] * 100, v[2], v[0] * 100, v[2], one_part * 100}},
                   {"Dat is # honderdste, dus het antwoord is #.", {part * 100, part}}},
