@@ -11,13 +11,6 @@ namespace {
 
 using enum oefening_id;
 
-// Wrong answers of an exercise that has tips.
-std::vector<mistake> unnamed(std::initializer_list<formula> values) {
-    std::vector<mistake> all;
-    for (const formula& value : values) all.push_back({"", value});
-    return all;
-}
-
 template<class Operation>
 std::vector<Operation> operations(const seen& e) {
     std::vector<Operation> all;
@@ -67,8 +60,12 @@ exercise_row row_of_ten(oefening_id id, kleur colour, const char* reads, std::ve
             .counts = {arrow(colour)},
             .ranges = std::move(ranges),
             .right = right,
-            .wrong = unnamed({v[1] - v[2] * tenth, v[0] + v[2] * tenth / 10, right - tenth, right - tenth * 2,
-                              right + tenth, right + tenth * 2}),
+            .wrong = {{"", v[1] - v[2] * tenth},
+                      {"", v[0] + v[2] * tenth / 10},
+                      {"", right - tenth},
+                      {"", right - tenth * 2},
+                      {"", right + tenth},
+                      {"", right + tenth * 2}},
             .explains = {{pattern, {v[2], v[0], v[2], right, v[0], v[1], right}}},
             .tips = std::move(tips)};
 }
@@ -247,8 +244,12 @@ const exercise_rows lines_and_places{
      .counts = {arrow(rood), above(1)},
      .ranges = {{{5, 905, 5}, {13, 1705, 200}, {1, 9}, {4, 8}}},
      .right = pointed,
-     .wrong = unnamed(
-         {pointed - piece, pointed + piece, v[0] + piece, v[0] + v[2], pointed + v[2] * piece, v[1] + v[2] * piece}),
+     .wrong = {{"", pointed - piece},
+               {"", pointed + piece},
+               {"", v[0] + piece},
+               {"", v[0] + v[2]},
+               {"", pointed + v[2] * piece},
+               {"", v[1] + v[2] * piece}},
      .explains = {{"tussen # en # in # stukjes is verdeeld. Het verschil is # - # = #. ",
                    {v[0], v[1], v[3], v[1], v[0], v[1] - v[0]}},
                   {"van # : # = #. De pijl staat # (stukje|stukjes) verder dan #. ",
