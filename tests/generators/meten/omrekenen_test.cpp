@@ -65,24 +65,22 @@ void check_change(const reading& n, const std::string& from, const std::string& 
                         .c_str());
 }
 
-// The number on the picture, the unit asked for and that of the number; and that each wrong answer is told how it came
-// about: by "x 100", ": 10", in the wrong direction or not at all.
+// The number on the picture in the unit asked for, and by what it is multiplied or divided.
 double converted(const reading& n) { return n[0] * in_smallest(n.words[1]) / in_smallest(n.words[0]); }
-void check_told(const reading& n, const char* done, const char* not_done, const char* wrong_way) {
-    const double times = converted(n) / n[0];
+double times(const reading& n) { return std::max(converted(n) / n[0], n[0] / converted(n)); }
+
+// Each wrong answer is told how it came about: by "x 100", ": 10", not at all, or the other way.
+void check_told(const reading& n, const char* done) {
+    const double right = converted(n) / n[0];
     for (int which = 2; which <= 4; ++which) {
         const std::string told = n.exercise.feedback(which);
-        const double got = decimal(n.exercise.answer(which)) / n[0];
-        if (const auto found = find_pattern(told, done)) {
-            const bool up = found->numbers[0] == 0;
-            EXPECT_TRUE(same(got, up ? found->numbers[1] : 1 / found->numbers[1])) << told;
-        } else if (told.find(not_done) != std::string::npos) {
-            EXPECT_TRUE(same(got, 1)) << told;
-        } else {
-            EXPECT_TRUE(same(got, 1 / times)) << told;
-        }
-        EXPECT_EQ(told.find(wrong_way) != std::string::npos, (got > 1 && times < 1) || (got < 1 && times > 1)) << told;
-        EXPECT_TRUE(n.exercise.answer(which).ends_with(" " + n.words[0]));
+        const auto found = find_pattern(told, done);
+        const bool kept = told.find("niet omgerekend") != told.npos || told.find("gelijk gelaten") != told.npos;
+        const double got = decimal(n.exercise.answer(which)) / n[0], factor = found ? found->numbers[1] : 1,
+                     wrong = found || kept ? factor : right;
+        EXPECT_TRUE(same(got, found && found->numbers[0] == 0 ? wrong : 1 / wrong)) << told;
+        const bool other_way = told.find("verkeerde kant op") != told.npos || told.find("Denk nog") != told.npos;
+        EXPECT_EQ(other_way, (got - 1) * (right - 1) < 0) << told;
     }
 }
 
@@ -122,32 +120,19 @@ const exercise_rows conversions{
      .ranges = {{{1.1, 9.9}}, {{11, 99}}},
      .words = {7, 7},
      .right = converted,
-     .explains = {{"kg, hg, dag, g, dg, cg, mg. Elke stap naar een (kleinere maat is x|grotere maat is :) 10.",
-                   {[](const reading& n) { return n.variant() - 1; }}},
-                  {"(x|:) # = #, dus het gewicht is # ",
-                   {[](const reading& n) { return n.variant() - 1; },
-                    [](const reading& n) { return std::max(converted(n) / n[0], n[0] / converted(n)); }, converted,
-                    converted}}},
-     .check =
-         [](const reading& n) {
-             EXPECT_EQ(converted(n) > n[0], n.variant() == 1);
-             check_told(n, "stap* gezet, dus (x|:) #. Van", "niet omgerekend", "verkeerde kant op");
-             const double steps = std::abs(std::round(std::log10(converted(n) / n[0])));
-             EXPECT_TRUE(same(decimal(n.exercise.told("Van \\w+ naar \\w+ (?:is het|zijn het) (\\d)")[1]), steps));
-         }},
+     .explains = {{"(zijn het|is het) # stap*, dus (x|:) #. #",
+                   {[](const reading& n) { return times(n) == 10; },
+                    [](const reading& n) { return std::log10(times(n)); },
+                    [](const reading& n) { return n.variant() - 1; }, times, v[0]}}},
+     .check = [](const reading& n) { check_told(n, "stap* gezet, dus (x|:) #. Van"); }},
     {.id = L_watertank_07_17_click,
      .variants = 8,
      .reads = "Hiernaast zie je een watertank. * water er in zit. Hoeveel @ is dat? | # @ ",
      .ranges = {{{2, 89, 2}}},
      .words = {8, 1},
      .right = converted,
-     .explains = {{"moet je weten dat 1 @ gelijk is aan #",
-                   {[](const reading& n) { return std::max(converted(n) / n[0], n[0] / converted(n)); }}}},
-     .check =
-         [](const reading& n) {
-             EXPECT_EQ(n.words[1], "liter");
-             check_told(n, "Je hebt (vermenigvuldigd met|gedeeld door) #.", "gelijk gelaten", "Denk nog eens goed na");
-         }},
+     .explains = {{"moet je weten dat 1 @ gelijk is aan #", {times}}},
+     .check = [](const reading& n) { check_told(n, "Je hebt (vermenigvuldigd met|gedeeld door) #."); }},
 };
 
 } // namespace

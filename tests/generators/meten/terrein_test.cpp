@@ -37,36 +37,31 @@ formula extent(std::size_t which, int point::*along) {
 
 void check_areas(const reading& n) {
     std::vector<double> areas;
-    for (const auto& corners : figures(n)) areas.push_back(area(corners));
-    ASSERT_EQ(areas.size(), 4U);
-    const auto most = n.variant() == 1 ? std::ranges::min_element(areas) : std::ranges::max_element(areas);
-    EXPECT_EQ(std::ranges::count(areas, *most), 1);
-    EXPECT_EQ(n.exercise.right_place(), most - areas.begin() + 1);
-    std::string row;
-    for (int place = 1; place <= 4; ++place) {
-        const double cm2 = areas[static_cast<std::size_t>(place - 1)];
-        EXPECT_TRUE(cm2 >= 7 && cm2 <= 11);
-        const std::string told = regel("figuur", place, ":", komma_kort(static_cast<int>(cm2 * 10), 1), " cm²");
-        n.exercise.told(told.c_str());
-        row += regel(komma_kort(static_cast<int>(cm2 * 10), 1), " cm²");
+    std::string drawn;
+    for (const auto& corners : figures(n)) {
+        areas.push_back(area(corners));
+        const auto place = static_cast<int>(areas.size());
+        const std::string cm2 = regel(komma_kort(static_cast<int>(areas.back() * 10), 1), " cm²");
+        n.exercise.told(regel("figuur", place, ":", cm2).c_str());
+        drawn += cm2;
         EXPECT_EQ(n.exercise.answer(place), regel("figuur", place));
-        if (place == n.exercise.right_place()) continue;
-        const std::string feedback = n.exercise.feedback(place),
-                          start = regel("De oppervlakte van figuur", place, " is",
-                                        komma_kort(static_cast<int>(cm2 * 10), 1), " cm². Er is een figuur die ",
-                                        n.variant() == 1 ? "kleiner" : "groter", " is.");
-        EXPECT_TRUE(feedback.starts_with(start)) << feedback << start;
+        EXPECT_TRUE(place == n.exercise.right_place() ||
+                    n.exercise.feedback(place).starts_with(regel("De oppervlakte van figuur", place, " is", cm2,
+                                                                 ". Er is een figuur die ",
+                                                                 n.variant() == 1 ? "kleiner" : "groter")));
     }
-    std::string drawn = n.exercise.when_explained().words.back();
+    const auto most = n.variant() == 1 ? std::ranges::min_element(areas) : std::ranges::max_element(areas);
+    EXPECT_TRUE(areas.size() == 4 && std::ranges::count(areas, *most) == 1);
+    EXPECT_EQ(n.exercise.right_place(), most - areas.begin() + 1);
+    std::string shown = n.exercise.when_explained().words.back();
+    std::erase(shown, ' ');
     std::erase(drawn, ' ');
-    std::erase(row, ' ');
-    EXPECT_EQ(drawn, row);
+    EXPECT_EQ(shown, drawn);
 }
 
-// A rectangle so long with its square, so high, and the side of the square, as drawn in these colours; and the sides
-// that the explanation adds.
+// A rectangle so long with its square, so high, and the side of the square, as drawn in these colours.
 const formula wide = v[0] - v[2];
-auto check_L(kleur rectangle, kleur square, std::vector<std::string> (*added)(const reading&)) {
+auto check_L(kleur rectangle, kleur square) {
     return [=](const reading& n) {
         const auto box = [&](kleur colour) {
             return *std::ranges::find(n.exercise.blocks, colour, [](const box_op& b) { return b.pen.colour; });
@@ -74,13 +69,8 @@ auto check_L(kleur rectangle, kleur square, std::vector<std::string> (*added)(co
         const box_op large = box(rectangle), small = box(square);
         EXPECT_TRUE(same(large.width * n[1], large.height * (n[0] - n[2])));
         EXPECT_TRUE(same(small.width * n[1], large.height * n[2]) && small.width == small.height);
-        EXPECT_EQ(n.variant() == 1 ? large.x + large.width : small.x + small.width,
-                  n.variant() == 1 ? small.x : large.x)
-            << "side by side";
+        EXPECT_TRUE(n.variant() == 1 ? large.x + large.width == small.x : small.x + small.width == large.x);
         EXPECT_TRUE(small.y == large.y || small.y + small.height == large.y + large.height);
-        const auto words = n.exercise.when_explained().words;
-        const auto expected = added(n);
-        EXPECT_TRUE(std::equal(expected.rbegin(), expected.rend(), words.rbegin())) << words.back();
     };
 }
 
@@ -117,11 +107,11 @@ const exercise_rows land{
                {"te lange rechthoek", v[0] * v[1] + v[2] * v[2]},
                {"de omtrek berekend", (v[0] + v[1]) * 2},
                {"blauwe vierkant vergeten", wide* v[1]}},
-     .explains = {{"# - # = # cm breed en # cm hoog.", {v[0], v[2], wide, v[1]}},
-                  {"ervan is # x # = #", {wide, v[1], wide* v[1]}},
-                  {"Samen is dat # + # =", {wide * v[1], v[2] * v[2]}}},
-     .check = check_L(geel, blauw,
-                      [](const reading& n) { return std::vector{regel(kaal(static_cast<int>(n[0] - n[2])))}; })},
+     .explains = {{"# - # = # cm breed en # cm hoog. De oppervlakte ervan is # x # =",
+                   {v[0], v[2], wide, v[1], wide, v[1]}},
+                  {"Samen is dat # + # =", {wide * v[1], v[2] * v[2]}},
+                  {"| # | # | # | # ", {v[0], v[1], v[2], wide}}},
+     .check = check_L(geel, blauw)},
     {.id = M_tuin_07_09_click,
      .variants = 2,
      .reads = "totale lengte van het hek om deze L-vormige tuin. | # m | # m | # m ",
@@ -135,12 +125,9 @@ const exercise_rows land{
                {"alleen de omtrek van de rechthoek", (wide + v[1]) * 2}},
      .explains = {{"# - # = # m breed; naast het vierkant houdt hij # - # = # m over.",
                    {v[0], v[2], wide, v[1], v[2], v[1] - v[2]}},
-                  {"# + # + # + # + # + # =", {v[1], wide, v[1] - v[2], v[2], v[2], v[0]}}},
-     .check = check_L(groen, lichtgroen,
-                      [](const reading& n) {
-                          return std::vector{regel(kaal(static_cast<int>(n[0] - n[2])), " m"),
-                                             regel(kaal(static_cast<int>(n[2])), " m")};
-                      })},
+                  {"# + # + # + # + # + # =", {v[1], wide, v[1] - v[2], v[2], v[2], v[0]}},
+                  {"| # m | # m | # m | # m | # m ", {v[0], v[1], v[2], wide, v[2]}}},
+     .check = check_L(groen, lichtgroen)},
     {.id = Z_tegels_07_12_click,
      .variants = 2,
      .reads =
@@ -167,12 +154,9 @@ const exercise_rows land{
                {"eerst door 2 gedeeld", v[0] * v[0] * v[1] / 4},
                {"niet met de prijs", v[0] * v[0] / 16}},
      .explains = {{"# : 4 = # m. De oppervlakte is # x # =", {v[0], v[0] / 4, v[0] / 4, v[0] / 4}},
-                  {"dus # x # =", {v[0] * v[0] / 16, v[1]}}},
-     .check =
-         [](const reading& n) {
-             EXPECT_EQ(n.exercise.when_explained().words.back(), regel(kaal(static_cast<int>(n[0]) / 4), " m"));
-             EXPECT_LT(n[0] * n[0] * n[1] / 4, 1e6);
-         }},
+                  {"dus # x # =", {v[0] * v[0] / 16, v[1]}},
+                  {"| # m ", {v[0] / 4}}},
+     .check = [](const reading& n) { EXPECT_LT(n[0] * n[0] * n[1] / 4, 1e6); }},
 };
 
 } // namespace
