@@ -49,14 +49,14 @@ void oefeningen::M_bacterie_00_11_click() {
     bord(wit, donkerblauw, 14);
     teken_bacterie(plaatje, {620, 950});
     druk_midden(620, 1600, "1 bacterie");
-    druk_midden(1640, 480, kaal(duur(periode)));
+    druk_midden(1640, 570, kaal(duur(periode)));
     teken_pijl(plaatje, {1200, 950}, {2080, 950}, geel);
     teken_bacterie(plaatje, {2680, 650});
     teken_bacterie(plaatje, {2680, 1250});
     druk_midden(2680, 1600, "2 bacteriën");
-    druk_midden(3720, 480, kaal(duur(periode)));
+    druk_midden(3720, 570, kaal(duur(periode)));
     teken_pijl(plaatje, {3280, 950}, {4160, 950}, geel);
-    druk_midden(4700, 790, "...");
+    druk_midden(4700, 740, "...");
 
     vraag("Een bepaald soort bacterie plant zich", regel("voort door zich elke", periode, " ", eenheid), "te delen. ",
           "Stel, er is eerst één bacterie.", regel("Na hoeveel ", eenheid, " zijn er dan"),

@@ -32,7 +32,7 @@ constexpr std::string_view verwisseld = "Je hebt het grondtal en de exponent ver
 std::vector<keuze<machtsom>> vergissingen_bij(const macht& m) {
     const auto& [a, k] = m;
     const auto ander_grondtal = [a = a](int b) {
-        return melding{regel("Je hebt het verkeerde grondtal gekozen."),
+        return melding{"Je hebt het verkeerde grondtal gekozen.",
                        regel("In de som staat niet het getal", b, ", maar", a, ".")};
     };
     std::vector<keuze<machtsom>> lijst{{{{a, k - 1}}, {verkeerd_geteld(m)}},
@@ -202,7 +202,7 @@ void oefeningen::M_stroopwafels_00_11_click() {
                     {rekening(m, verkeerde),
                      {"De macht is goed opgeschreven, maar het aantal",
                       maal_drie ? regel("is fout: er is", k, " x 3 gerekend in plaats van ", m.uitgeschreven(), ".")
-                                : regel("is fout: er is een laag dozen te veel gerekend.")}},
+                                : "is fout: er is een laag dozen te veel gerekend."}},
                     {rekening(m.verwisseld(), verkeerde), {verwisseld, "Ook het aantal stroopwafels is niet goed."}}});
 
     vraag("Een stapel dozen heeft de vorm van een", "kubus. Elke doos is ook kubusvormig en",

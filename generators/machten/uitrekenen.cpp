@@ -68,9 +68,8 @@ void oefeningen::L_in_woorden_00_11_click() {
     const std::string naam = machtnaam_voluit(m.exponent);
     const number_text uitkomst = tekst(m.waarde());
 
-    bord(variant == 1 ? donkerblauw : groen, geel, 18);
-    const std::string som = regel(telwoord(m.grondtal), " ", naam, " is ");
-    druk(500, 750, som);
+    bord(variant == 1 ? donkerblauw : groen, geel, 16);
+    druk(400, 750, telwoord(m.grondtal), " ", naam, " is ");
     antwoord_over_stippen(plaatje.x, 750, wit, "...", uitkomst);
 
     vraag("Hiernaast zie je een som", "die helemaal in woorden", "is weergegeven.", leeg, "Bereken de uitkomst.");
