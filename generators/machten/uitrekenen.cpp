@@ -70,7 +70,8 @@ void oefeningen::L_in_woorden_00_11_click() {
 
     bord(variant == 1 ? donkerblauw : groen, geel, 16);
     druk(400, 750, telwoord(m.grondtal), " ", naam, " is ");
-    antwoord_over_stippen(plaatje.x, 750, wit, "...", uitkomst);
+    // As wide as three digits and more, so that the dots do not tell how many there are.
+    antwoord_over_stippen(plaatje.x, 750, wit, "........", uitkomst);
 
     vraag("Hiernaast zie je een som", "die helemaal in woorden", "is weergegeven.", leeg, "Bereken de uitkomst.");
 
