@@ -150,6 +150,7 @@ void oefeningen::Z_vliegtuig_07_09_click() {
     const melding verkeerde_tijd{"Bereken eerst hoe lang het vliegtuig gevlogen",
                                  "heeft en vermenigvuldig dan dat aantal uren", "met de snelheid...."};
     std::vector<keuze<int>> vergissingen;
+    vergissingen.reserve(7);
     for (const int halve : andere) vergissingen.push_back({halve * snelheid / 2, ander_vliegtuig});
     for (const int verschil : {-2, 2}) vergissingen.push_back({(halve_uren + verschil) * snelheid / 2, verkeerde_tijd});
     if (halve_uren % 2 != 0) {

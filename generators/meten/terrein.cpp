@@ -18,13 +18,15 @@ bool geschikt(const halve_kolommen& kolommen) {
            std::ranges::any_of(kolommen, [](int halve) { return halve % 2 != 0; });
 }
 
-// The columns stand on a base line, or hang from one; a slanting end rises where the bit of its column is set.
-roosterfiguur maak_figuur(const halve_kolommen& kolommen, int stijgt, bool hangt) {
+// The columns stand on a base line that begins at a corner of the grid, or hang from one; a slanting end rises where
+// the bit of its column is set.
+roosterfiguur maak_figuur(const halve_kolommen& kolommen, int stijgt, point begin, bool hangt) {
     const int omlaag = hangt ? 1 : -1;
-    std::vector<point> hoeken{{0, 0}};
+    std::vector<point> hoeken;
+    hoeken.reserve(10);
+    hoeken.push_back(begin);
     const auto ga_naar = [&](int x, int hoogte) {
-        if (const point hoek{x, omlaag * hoogte}; hoek.x != hoeken.back().x || hoek.y != hoeken.back().y)
-            hoeken.push_back(hoek);
+        if (const point hoek{begin.x + x, begin.y + omlaag * hoogte}; hoek != hoeken.back()) hoeken.push_back(hoek);
     };
     for (int x = 0; x < 4; ++x) {
         const int halve = kolommen[static_cast<std::size_t>(x)], laag = halve / 2, hoog = halve - laag;
@@ -52,6 +54,7 @@ void oefeningen::M_figuren_07_12_click() {
     bord(wit, zwart, 12);
     const rooster op{{125, 420}, 270, 19, 5};
     std::vector<gekleurde_figuur> figuren;
+    figuren.reserve(4);
     for (int i = 1; i <= 4; ++i) {
         const auto kolommen = trek_tot(
             [&] {
@@ -63,7 +66,7 @@ void oefeningen::M_figuren_07_12_click() {
             [](const halve_kolommen& drawn) { return geschikt(drawn); });
         const int stijgt = trek(16);
         const bool hangt = kop();
-        figuren.push_back({maak_figuur(kolommen, stijgt, hangt).verschoven(5 * (i - 1), hangt ? 0 : 5), lichtcyaan});
+        figuren.push_back({maak_figuur(kolommen, stijgt, {5 * (i - 1), hangt ? 0 : op.hoog}, hangt), lichtcyaan});
     }
     teken_rooster(plaatje, op, figuren);
     for (int i = 1; i <= 4; ++i) druk_midden(op.hoek({5 * i - 3, 0}).x, 1800, "figuur", i);
