@@ -149,6 +149,11 @@ void oefeningen::B_schatten_08_17_click() {
     const std::array<std::size_t, 2> ernaast = te_klein == 0   ? std::array<std::size_t, 2>{2, 3}
                                                : te_klein == 1 ? std::array{klein, groot}
                                                                : std::array<std::size_t, 2>{0, 1};
+    const auto getal_van = [&](std::size_t i) {
+        return omgerekend(d.getal, d.maat, d.ernaast[i]).verschoven(machten[i]);
+    };
+    // The answer of another kind has the number of one of the three, or it would give away that of the right one.
+    const kommagetal zelfde_getal = kies(std::array{d.getal, getal_van(ernaast[0]), getal_van(ernaast[1])});
     const eenheid& andere = kies(d.andere);
 
     // A blackboard with a piece of chalk.
@@ -164,11 +169,10 @@ void oefeningen::B_schatten_08_17_click() {
 
     goed(met(d.getal, d.maat));
     for (const std::size_t i : ernaast)
-        fout(met(omgerekend(d.getal, d.maat, d.ernaast[i]).verschoven(machten[i]), d.ernaast[i]),
-             regel("Dat is ", factor_tekst(machten[i]), " als in werkelijkheid."));
+        fout(met(getal_van(i), d.ernaast[i]), regel("Dat is ", factor_tekst(machten[i]), " als in werkelijkheid."));
     const melding soort = verkeerde_soort(andere.soort, d.maat.soort);
     const std::string_view vervolg = soort[1];
-    fout(met(d.getal, andere), std::string_view(soort[0]), vervolg.empty() ? leeg : vervolg);
+    fout(met(zelfde_getal, andere), std::string_view(soort[0]), vervolg.empty() ? leeg : vervolg);
 
     static constexpr std::array<std::string_view, 4> soorten{"een lengtemaat", "een maat voor gewicht",
                                                              "een oppervlaktemaat", "een inhoudsmaat"};

@@ -76,9 +76,7 @@ void check_estimate(const reading& n) {
             EXPECT_TRUE(same(wrong->value / right->value, off->numbers[1] == 0 ? off->numbers[0] : 1 / off->numbers[0]))
                 << told;
         else
-            EXPECT_TRUE(same(number_of(n.exercise.answer(which)).value(), number_of(size).value()) &&
-                        (told.find(kinds[0]) == told.npos || told.find("plaats van een " + kind) != told.npos))
-                << told;
+            EXPECT_TRUE(told.find(kinds[0]) == told.npos || told.find("plaats van een " + kind) != told.npos) << told;
     }
 }
 
