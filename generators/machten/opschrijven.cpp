@@ -11,12 +11,14 @@ namespace {
 
 // One power, or two that are added. Those of one value are equal: 2^4 and 4^2.
 struct machtsom {
-    macht een, ander{};
+    macht een, ander;
+    long long waarde = 0;
 
-    constexpr long long waarde() const { return een.waarde() + ander.waarde(); }
+    machtsom() = default;
+    machtsom(const macht& a, const macht& b = {}) : een(a), ander(b), waarde(a.waarde() + b.waarde()) {}
     bool dubbel() const { return ander.grondtal > 0; }
-    friend bool operator==(const machtsom& a, const machtsom& b) { return a.waarde() == b.waarde(); }
-    friend auto operator<=>(const machtsom& a, const machtsom& b) { return a.waarde() <=> b.waarde(); }
+    friend bool operator==(const machtsom& a, const machtsom& b) { return a.waarde == b.waarde; }
+    friend auto operator<=>(const machtsom& a, const machtsom& b) { return a.waarde <=> b.waarde; }
 };
 
 std::string in_het_kort(const machtsom& som) {
@@ -39,6 +41,7 @@ std::vector<keuze<machtsom>> vergissingen_bij(const macht& m) {
                                        {{{a, k + 1}}, {verkeerd_geteld(m)}},
                                        {{m.verwisseld()}, {verwisseld}},
                                        {{{a + 1, k}}, ander_grondtal(a + 1)}};
+    if (k > 3) lijst.push_back({{{a, k - 2}}, {verkeerd_geteld(m)}});
     if (a > 2) lijst.push_back({{{a - 1, k}}, ander_grondtal(a - 1)});
     return lijst;
 }
