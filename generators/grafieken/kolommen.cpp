@@ -149,7 +149,8 @@ void oefeningen::Z_roken_04_18_click() {
     const int juist = meest ? volgorde[3] : volgorde[0];
     const int met_uiterste = kop() ? volgorde[1] : volgorde[2];
     const int laagste = meest ? 5 : 10, hoogste = laagste + 20, uiterste = meest ? 30 : 5;
-    int totaal = trek_van(meest ? 40 : 50, 55, 5);
+    // Of the smallest; for the least the bars are 10 or more, and the group is not to stand out by being flat.
+    int totaal = meest ? trek_van(40, 55, 5) : trek_van(60, 70, 5);
     for (const int nummer : volgorde) {
         groep& deze = rij(groepen, nummer);
         deze.totaal = totaal;
@@ -160,7 +161,7 @@ void oefeningen::Z_roken_04_18_click() {
             rij(deze.staven, trek_tot([&] { return trek_van(1 + eerste, 5); },
                                       [&](int staaf) { return rij(deze.staven, staaf) < hoogste; })) += 5;
         deze.staven = geschud(deze.staven);
-        totaal += kop() ? 10 : 15;
+        totaal += meest && kop() ? 15 : 10;
     }
 
     bord(wit, zwart, 7.5);

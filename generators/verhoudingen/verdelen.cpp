@@ -50,6 +50,8 @@ void oefeningen::B_vakantie_02_16_click() {
             std::find(misgelezen.begin(), misgelezen.end(), misschien) == misgelezen.end())
             misgelezen.push_back(misschien);
     misgelezen = geschud(misgelezen);
+    // The percentages of eighths have a decimal, and then not they alone: "one of the eight" is read as 1,8 or 8,1.
+    if (geheel == 8) misgelezen[0] = kop() ? 10 * deel + 8 : 80 + deel;
     goed(procent(juist));
     fout(procent(andere_landen), "Dat percentage gaat juist niet naar", "dat land.");
     fout(procent(misgelezen[0]), "Lees de vraag nog eens!");

@@ -21,6 +21,9 @@ std::vector<Operation> operations(const seen& e, Wanted wanted) {
     return all;
 }
 
+std::array<int, 3> front_widths(const seen& e) {
+    return {e.blocks.at(1).width, e.blocks.at(3).width, e.blocks.at(5).width};
+}
 // The share that the door takes of each front, under which a word names the colour.
 void check_houses(const reading& n) {
     const seen& e = n.exercise;
@@ -84,11 +87,24 @@ void check_spokes(const reading& n) {
     EXPECT_EQ(n.exercise.made.uitlegopdrachten[1], "PARTJES_1500_1000_" + parts.at(1) + "_");
 }
 
+// What can be misread in "one of the eight"; the last two are 1,8 and 8,1, also where it is 2.000 of the 16.000.
+std::vector<mistake> misread(const formula& part, const formula& whole) {
+    const formula percentage = part * 100 / whole;
+    std::vector<mistake> all{{"gaat juist niet naar dat land", 100 - percentage}};
+    for (const formula& value : {part, whole, part + whole, whole - part, 10 * part, 10 * whole, 2 * percentage,
+                                 part * 8 / whole + 0.8, 8 + part * 0.8 / whole})
+        all.push_back({"Lees de vraag", value});
+    return all;
+}
+
 const formula one_in = v[1] + 3;
 
 const formula turned_by = [](const reading& n) { return n[2] == 0 ? n[0] : n[1]; };
 const formula turns = [](const reading& n) { return n[2] == 0 ? n[1] : n[0]; };
 const formula turned = v[3] * turned_by / turns;
+const formula large_turns = [](const reading& n) { return (n[0] > n[1]) == (n[2] == 0) ? 1 : 0; };
+const formula common = [](const reading& n) { return std::gcd(std::lround(n[0]), std::lround(n[1])); };
+const formula per_turn = turns / common, turned_per_turn = turned_by / common;
 void check_gears(const reading& n) {
     const auto gears = operations<polygon_op>(n.exercise, [](const polygon_op& p) { return p.filled; });
     ASSERT_EQ(gears.size(), 2U);
@@ -101,10 +117,19 @@ void check_gears(const reading& n) {
     EXPECT_NE(std::ranges::adjacent_find(values, near), values.end());
 }
 
+// The text lies in a part of the picture that is free for it.
+auto lies_in(int left, int top, int right, int bottom) {
+    return [=](const reading& n) {
+        const text_op& text = n.exercise.texts.at(0);
+        EXPECT_TRUE(text.x >= left && text.y >= top && text.y + text_height(text.size) <= bottom &&
+                    text.x + text_width(text.text, text.size) <= right);
+    };
+}
+
 // Of the four cars one is the cheapest for a kilometre; its fuel is not the cheapest, nor does it go farthest.
 void check_cars(const reading& n) {
     const seen& e = n.exercise;
-    const std::vector<std::string> later = e.when_explained().words;
+    const seen later = e.when_explained();
     std::map<double, std::string> by_cost, by_price, by_distance;
     for (std::size_t i = 0; i < 4; ++i) {
         const std::string make = e.shown(4 * i, "Te koop: (.*), rijdt").at(1);
@@ -114,7 +139,9 @@ void check_cars(const reading& n) {
         by_cost.emplace(cost, make);
         by_price.emplace(price, make);
         by_distance.emplace(-distance, make);
-        EXPECT_EQ(later.at(16 + i), regel(kaal(komma(afgerond(cost, 1), 1)), " eurocent per km"));
+        const text_op &above = e.texts.at(4 * i + 2), &told = later.texts.at(16 + i);
+        EXPECT_EQ(told.text, regel(kaal(komma(afgerond(cost, 1), 1)), " eurocent per km"));
+        EXPECT_TRUE(std::abs(told.x - above.x) < 400 && told.y > above.y && told.y < above.y + 400);
     }
     EXPECT_EQ(by_cost.begin()->second, e.right);
     EXPECT_NE(by_price.begin()->second, e.right);
@@ -135,7 +162,12 @@ const exercise_rows ratios{
     {.id = B_huis_02_16_click,
      .variants = 4,
      .reads = "tot de voorkant de (grootste|kleinste) deur? * {groter|kleiner} is dan de andere?",
-     .ranges = {{{0, 0}}, {{1, 1}}, {{0, 0}}, {{1, 1}}},
+     .counts = {[](const reading& n) { return std::ranges::min(front_widths(n.exercise)); },
+                [](const reading& n) { return std::ranges::max(front_widths(n.exercise)); }},
+     .ranges = {{{0, 0}, {700, 900}, {1100, 1500}},
+                {{1, 1}, {700, 900}, {1100, 1500}},
+                {{0, 0}, {700, 1300}, {700, 1500}},
+                {{1, 1}, {700, 1300}, {700, 1500}}},
      .check = check_houses},
     {.id = B_maatbeker_02_16_click,
      .variants = 4,
@@ -163,7 +195,7 @@ const exercise_rows ratios{
      .ranges = {{{0, 0}, {0, 6}, {2, 25}}, {{1, 2}, {1, 6}, {6, 40}}},
      .words = {5, 6, 5, 6},
      .right = v[2],
-     .wrong = {{"gaat juist niet naar dat land", 100 - v[2]}, {"Lees de vraag", lies::elsewhere}},
+     .wrong = misread(v[0] + 1, (v[0] + 1) * 100 / v[2]),
      .explains = {{"verhouding van # : 100. Je kunt dan ook zeggen: #/100, ofwel # %", {v[2], v[2], v[2]}}},
      .check = [](const reading& n) { EXPECT_TRUE(n.words[0] == n.words[2] && n.words[1] == n.words[3]); }},
     {.id = B_vakantie_02_16_click,
@@ -173,7 +205,7 @@ const exercise_rows ratios{
      .ranges = {{{1000, 57000}, {4000, 60000}}},
      .words = {6, 6},
      .right = v[0] * 100 / v[1],
-     .wrong = {{"gaat juist niet naar dat land", 100 - v[0] * 100 / v[1]}, {"Lees de vraag", lies::elsewhere}},
+     .wrong = misread(v[0] / 1000, v[1] / 1000),
      .explains = {{"# van de # inwoners is 't zelfde als", {v[0], v[1]}},
                   {"verhouding van # : 100", {v[0] * 100 / v[1]}}}},
     {.id = L_cirkels_02_16_click,
@@ -209,7 +241,8 @@ const exercise_rows ratios{
                {"aantal cm gekozen", says("# m", v[0] * v[1])},
                {"bovendien ook zomaar meters", says("# m", v[1] / v[0])}},
      .explains = {{"in werkelijkheid # cm. Het fietspad is # cm lang", {v[1], v[0]}},
-                  {"van # x # = # cm, ofwel # m.", {v[0], v[1], v[0] * v[1], v[0] * v[1] / 100}}}},
+                  {"van # x # = # cm, ofwel # m.", {v[0], v[1], v[0] * v[1], v[0] * v[1] / 100}}},
+     .check = lies_in(3500, 1650, 5250, 2050)},
     {.id = L_museum_02_16_click,
      .variants = 5,
      .reads = "gemiddeld # mensen. Eén op de (drie|vier|vijf|zes|zeven|acht|negen|tien|elf|twaalf|dertien|veertien|"
@@ -234,7 +267,8 @@ const exercise_rows ratios{
                {"van kilometer naar centimeter", says("1 : #", v[0] * 1000000 / v[1])},
                {"vergeten van meters", says("1 : #", v[0] * 1000 / v[1])}},
      .explains = {{"van # kilometer eerst centimeters. Dat is # cm", {v[0], v[0] * 100000}},
-                  {"dat # cm in werkelijkheid een afstand van # cm is.", {v[1], v[0] * 100000}}}},
+                  {"dat # cm in werkelijkheid een afstand van # cm is.", {v[1], v[0] * 100000}}},
+     .check = lies_in(3500, 1650, 5250, 2050)},
     {.id = M_tandwielen_02_16_click,
      .variants = 2,
      .reads = "linker tandwiel heeft # tanden, het rechter tandwiel heeft er #. Het (linker|rechter) tandwiel draait # "
@@ -245,8 +279,11 @@ const exercise_rows ratios{
      .explains = {{"Het grote tandwiel heeft # tanden, het kleine #.",
                    {[](const reading& n) { return std::max(n[0], n[1]); },
                     [](const reading& n) { return std::min(n[0], n[1]); }}},
-                  {"keer rond, maar # keer, dan", {v[3]}},
-                  {"= # keer rond.", {turned}}},
+                  {"als het (kleine|grote) # keer rond draait, draait het {grote|kleine} # keer rond *. Gaat het "
+                   "{kleine|grote} wiel niet # keer rond, maar # keer, dan is dat # keer zo veel. Het {grote|kleine} "
+                   "draait dan # x # = # keer rond.",
+                   {large_turns, per_turn, turned_per_turn, per_turn, v[3], v[3] / per_turn, v[3] / per_turn,
+                    turned_per_turn, turned}}},
      .tips = {"omgekeerd evenredig'.", "juist (minder|vaker)"},
      .check = check_gears},
     {.id = Z_brandstofverbruik_02_16_click,
@@ -270,7 +307,8 @@ const exercise_rows ratios{
                {"door het goede getal", says("# kg", v[1] / v[0])},
                {"delen in plaats van", says("# kg", v[1] * v[0])}},
      .explains = {{"potgrond met # kilogram turfmolm, dan heeft hij # kilogram", {v[0], v[0] + 1}},
-                  {"dat is # keer zo veel *want # delen door # is #", {soil, v[1], v[0] + 1, soil}}}},
+                  {"dat is # keer zo veel *want # delen door # is #", {soil, v[1], v[0] + 1, soil}}},
+     .check = lies_in(200, 120, 3500, 520)},
     {.id = Z_uitgaven_02_16_click,
      .variants = 2,
      .reads = "Familie @ gaat samen met familie @ een weekje uit. Famile @ bestaat uit # personen, familie @ uit # "
