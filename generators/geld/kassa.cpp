@@ -155,8 +155,8 @@ void oefeningen::M_boodschap_05_07_click() {
         int kosten, van_een;
     };
     using boodschappen = std::vector<boodschap>;
-    const auto optellen = [](const boodschappen& alle, int boodschap::*wat) {
-        return std::accumulate(alle.begin(), alle.end(), 0, [=](int som, const boodschap& b) { return som + b.*wat; });
+    const auto optellen = [](const boodschappen& alle) {
+        return std::accumulate(alle.begin(), alle.end(), 0, [](int som, const boodschap& b) { return som + b.kosten; });
     };
     kies_variant(4);
     juiste_positie = 0;
@@ -186,10 +186,10 @@ void oefeningen::M_boodschap_05_07_click() {
             return alle;
         },
         [&](const boodschappen& alle) {
-            const int centen = optellen(alle, &boodschap::kosten) % 100;
+            const int centen = optellen(alle) % 100;
             return centen != 5 && centen != 25;
         });
-    const int totaal = optellen(briefje, &boodschap::kosten);
+    const int totaal = optellen(briefje);
     const int mee = totaal + 5;
     const std::string_view ouder = vader ? "Vader" : "Moeder";
 
@@ -208,14 +208,13 @@ void oefeningen::M_boodschap_05_07_click() {
           regel(ouder, " geeft zo min mogelijk geld mee."), regel(ouder, " heeft geen munten van 1, 2, 5 en"),
           "10 eurocent. ", regel("Hoeveel krijgt ", wie.naam, " mee?"));
 
-    // Not rounded, rounded down, to a larger coin or the next euro; one of each, something left out or one too many.
+    // Not rounded, rounded down, to a larger coin or the next euro; something left out or one too many.
     drie_andere(mee, euro,
                 {{totaal},
                  {totaal - 5},
                  {mee + 10},
                  {mee + 20},
                  {(mee + 99) / 100 * 100},
-                 {optellen(briefje, &boodschap::van_een)},
                  {mee - briefje.back().kosten},
                  {mee + briefje.back().van_een}});
     tip_1("De afzonderlijke bedragen moet je eerst optellen.");

@@ -136,7 +136,9 @@ void oefeningen::M_kilometers_06_04_click() {
     const int rond = per_maand ? 300 * trek_van(30, 130) : 1300 * trek_van(12, 30);
     const int ernaast = trek_van(3, 30);
     const int stand = kop() ? rond + ernaast : rond - ernaast;
-    const int verkeerd_rond = kop() ? rond + 1000 : rond - 1000;
+    // So far off that it divides as nicely.
+    const int verkeerd = per_maand ? 1200 : 1300;
+    const int verkeerd_rond = kop() ? rond + verkeerd : rond - verkeerd;
     const int deler = per_maand ? 12 : 52;
     const auto km = [](int afstand) { return regel(duizend(afstand), " km"); };
     const auto gedeeld = [&](int afstand, int door) { return km(static_cast<int>(deel_afgerond(afstand, door))); };

@@ -170,7 +170,6 @@ void oefeningen::M_naar_school_06_04_click() {
                  {juist + 60, {uurtje}},
                  {juist - 10, {beetje}},
                  {juist - 5, {beetje}},
-                 {juist + 5, {beetje}},
                  {juist + 10, {beetje}}});
 
     const std::string_view erbij = uur_ertussen ? "er 60 minuten en nog eens" : "er nog eens";
@@ -265,12 +264,12 @@ void teken_tijdsverschillen(drawing& on) {
     on.print_centred(2690, 60, "TIJDSVERSCHIL MET LONDEN");
     on.text_size = 8.25;
     for (int i = 0; const wereldstad& stad : wereldsteden) {
-        const int x = 180 + i / 8 * 1760, y = 390 + i % 8 * 205;
+        const int x = 130 + i / 8 * 1760, y = 390 + i % 8 * 205;
         on.print_at(x, y, stad.naam);
-        on.print_at(x + 1100, y, stad.verschil);
+        on.print_at(x + 1090, y, stad.verschil);
         ++i;
     }
-    for (const int x : {1825, 3585}) on.line(x, 390, x, 1990, cyaan);
+    for (const int x : {1780, 3540}) on.line(x, 390, x, 1990, cyaan);
 }
 
 // An hour of the day of which nobody doubts whether it is night, morning, afternoon or evening.

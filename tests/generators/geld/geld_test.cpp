@@ -176,7 +176,10 @@ const exercise_rows money{
      .reads = "@ haalt voor (zijn|haar) (vader|moeder) @. (Vader|Moeder) geeft zo min mogelijk geld mee. * Hoeveel "
               "krijgt @ mee? | # kg aardappelen *€ #",
      .counts = {[](const reading& n) { return n.exercise.words.size(); }},
-     .ranges = {{{0, 1}, {0, 1}, {0, 1}, {1.5, 2.5}, {.5, 1.9}, {3, 4}}},
+     .ranges = {{{0, 1}, {0, 0}, {0, 0}, {1.5, 2.5}, {.5, 1.9}, {3, 3}},
+                {{0, 1}, {1, 1}, {1, 1}, {1.5, 2.5}, {.5, 1.9}, {3, 3}},
+                {{0, 1}, {0, 0}, {0, 0}, {1.5, 2.5}, {.5, 1.9}, {4, 4}},
+                {{0, 1}, {1, 1}, {1, 1}, {1.5, 2.5}, {.5, 1.9}, {4, 4}}},
      .right = to_bring,
      .wrong = either_side,
      .explains = {{"boodschappen € # kosten. Want € # +", {formula(to_bring) - .05, v[3] * v[4]}}},

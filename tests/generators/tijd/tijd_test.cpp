@@ -90,6 +90,7 @@ const formula counter = [](const reading& n) {
     return decimal(digits);
 };
 const formula grid = by_variant({300, 1300}), year = rounded(v[0] / grid) * grid, parts = by_variant({12, 52});
+const formula misread = by_variant({1200, 1300});
 const formula played = by_variant({1, 1, 2, 2}), over = v[0] - played * 60;
 const formula waited = (v[3] - v[1]) * 60 + v[4] - v[2];
 const formula to_school = (v[2] - v[0]) * 60 + v[3] - v[1];
@@ -149,8 +150,8 @@ const exercise_rows time_and_dates{
      .ranges = {{{8970, 39030, 300}, {-30, 30}}, {{15570, 39030, 60}, {-30, 30}}},
      .right = year / parts,
      .wrong = {{"(een week|een maand) berekend", rounded(year / by_variant({52, 12}))},
-               {"niet goed afgerond", rounded((year - 1000) / parts)},
-               {"niet goed afgerond", rounded((year + 1000) / parts)},
+               {"niet goed afgerond", (year - misread) / parts},
+               {"niet goed afgerond", (year + misread) / parts},
                {"(tien maanden|48 weken)", rounded(year / by_variant({10, 48}))}},
      .explains = {{"Het getal # ligt vlak bij het getal #. * (twaalf|52) * # : # = ",
                    {v[0], year, by_variant({0, 1}), year, parts}}}},
@@ -189,7 +190,6 @@ const exercise_rows time_and_dates{
                {"een uurtje", to_school + 60},
                {"(nog wat|een beetje)", to_school - 10},
                {"(nog wat|een beetje)", to_school - 5},
-               {"(nog wat|een beetje)", to_school + 5},
                {"(nog wat|een beetje)", to_school + 10}},
      .explains = {{"om #:# uur af. * nog # minuten nodig. Dan is het #:00", {v[0], v[1], 60 - v[1], v[0] + 1}},
                   {"De school begint om #:# uur* nog eens # minuten", {v[2], v[3], v[3]}}}},
