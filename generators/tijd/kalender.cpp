@@ -132,8 +132,9 @@ void oefeningen::M_kilometers_06_04_click() {
     kies_variant(2);
     zaai();
     const bool per_maand = variant == 1;
-    // A round number that twelve and fifty-two divide, and on the counter one near it.
-    const int rond = per_maand ? 300 * trek_van(30, 130) : 1300 * trek_van(12, 30);
+    // A round number that twelve or fifty-two divides, and on the counter one near it. With 15.600 a year of 48 weeks
+    // would give what a wrong rounding gives.
+    const int rond = per_maand ? 300 * trek_van(30, 130) : 1300 * trek_van(13, 30);
     const int ernaast = trek_van(3, 30);
     const int stand = kop() ? rond + ernaast : rond - ernaast;
     // So far off that it divides as nicely.

@@ -147,7 +147,7 @@ const exercise_rows time_and_dates{
      .variants = 2,
      .reads = "gemiddeld ongeveer per ",
      .counts = {counter, v[0] - year},
-     .ranges = {{{8970, 39030, 300}, {-30, 30}}, {{15570, 39030, 60}, {-30, 30}}},
+     .ranges = {{{8970, 39030, 300}, {-30, 30}}, {{16870, 39030, 60}, {-30, 30}}},
      .right = year / parts,
      .wrong = {{"(een week|een maand) berekend", rounded(year / by_variant({52, 12}))},
                {"niet goed afgerond", (year - misread) / parts},
