@@ -25,12 +25,10 @@ void oefeningen::M_blikjes_00_13_click() {
     bord(wit, donkerrood, 14);
     druk_midden(800, 915, rij(etiketten, variant));
 
-    vraag("Een aantal conservenblikjes wordt in een krat",
-          regel("geplaatst. Elk blikje heeft een hoogte van", hoogte, " cm."),
-          met_diameter ? regel("De ronde bodem heeft een diameter van", diameter, " cm.")
-                       : regel("De ronde bodem heeft een straal van", diameter / 2, " cm. "),
-          regel("Het krat is", krat_hoog, " cm hoog,", breedte, " cm breed"), regel("en", lengte, " cm lang."),
-          "Hoeveel blikjes passen er in het krat?");
+    vraag("Een aantal conservenblikjes wordt in een krat", "geplaatst. Elk blikje heeft een hoogte van",
+          regel(kaal(hoogte), " cm. De ronde bodem heeft een ", met_diameter ? "diameter" : "straal"),
+          regel("van", met_diameter ? diameter : diameter / 2, " cm. Het krat is", krat_hoog, " cm hoog,"),
+          regel(kaal(breedte), " cm breed en", lengte, " cm lang."), "Hoeveel blikjes passen er in het krat?");
 
     const std::string_view naast_elkaar = "Heb je wel eerst gekeken hoeveel er naast elkaar";
     const melding lengte_en_hoogte{naast_elkaar, "passen in de lengte van het krat? En hoeveel in", "de hoogte?"};
@@ -128,9 +126,9 @@ void oefeningen::Z_fietswiel_00_13_click() {
     const int straal = trek(8) + 28;
     const kommagetal omtrek = cirkelomtrek({straal, 2});
     const int meters = 100 * tocht;
-    // The distance in thousandths of a metre, and in those of a kilometre read as metres, divided by the circumference.
-    const long long op_wiel = omtrek.op(4);
-    const long long keer = deel_afgerond(meters * 10'000LL, op_wiel);
+    // Of a metre, so many ten-thousandths.
+    const long long tienduizendsten = omtrek.op(4);
+    const long long keer = deel_afgerond(meters * 10'000LL, tienduizendsten);
 
     bord(lichtgrijs, zwart, 16);
     for (const auto& [woord, y, stand] : {std::tuple{"BEGIN", 330, begin}, std::tuple{"EINDE", 1230, begin + tocht}}) {
@@ -142,13 +140,13 @@ void oefeningen::Z_fietswiel_00_13_click() {
     }
 
     vraag(regel(fietser, " maakt een fietstocht."), "Hiernaast zie je de kilometerstand.", "De straal van elk",
-          regel("fietswiel is", straal, " cm."), "Hoe vaak is elk fietswiel rondgedraaid?");
+          regel("fietswiel is", straal, " cm."), leeg, "Hoe vaak is elk fietswiel rondgedraaid?");
 
     const std::string_view in_meters = "Heb je er wel aan gedacht eerst de afstand (in m)";
     goed(duizend(keer));
-    fout(duizend(deel_afgerond(tocht * 1'000LL, op_wiel)), in_meters, "en de omtrek (ook in m) te berekenen?");
-    fout(duizend(deel_afgerond(meters * 100LL, op_wiel)), in_meters, "en de omtrek (ook in m) te berekenen?");
-    fout(duizend(deel_afgerond(meters * 20'000LL, op_wiel)), "Je hebt voor de omtrek 3,14 x straal genomen,",
+    fout(duizend(deel_afgerond(tocht * 1'000LL, tienduizendsten)), in_meters, "en de omtrek (ook in m) te berekenen?");
+    fout(duizend(deel_afgerond(meters * 100LL, tienduizendsten)), in_meters, "en de omtrek (ook in m) te berekenen?");
+    fout(duizend(deel_afgerond(meters * 20'000LL, tienduizendsten)), "Je hebt voor de omtrek 3,14 x straal genomen,",
          "maar de omtrek is 2 x 3,14 x straal.");
 
     uitleg(regel("De afstand is", komma(begin + tocht, 1), " -", komma(begin, 1), " =", komma(tocht, 1), " km."),

@@ -52,9 +52,9 @@ void oefeningen::M_vijver_00_13_click() {
     bord(wit, donkerblauw, 12);
     druk_midden(3350, 1150 - halve_regel(12), kaal(cm), " cm");
 
-    vraag("In een tuin bevindt zich een vijver die de vorm", "heeft van een halve cirkel. De vijver wordt",
-          "geheel van een hekwerk voorzien. Dat is in", "het plaatje met geel aangegeven.",
-          "Hoeveel m hekwerk moet er in", "totaal ongeveer aangebracht worden?");
+    vraag("In een tuin bevindt zich een vijver die", "de vorm heeft van een halve cirkel. De vijver",
+          "wordt geheel van een hekwerk voorzien. Dat", "is in het plaatje met geel aangegeven.",
+          "Hoeveel m hekwerk moet er in totaal", "ongeveer aangebracht worden?");
 
     const kommagetal oppervlakte = cirkeloppervlakte(straal) * kommagetal{5, 1};
     std::vector<keuze<kommagetal>> vergissingen{
