@@ -1,0 +1,244 @@
+// Energy about the house: what is drawn, the answers worked out again from what a pupil sees, and the mistakes that the
+// wrong ones stand for.
+#include "tests/support/exercise_rows.h"
+
+namespace cijferwerf {
+namespace {
+
+using enum oefening_id;
+
+// Four answers in a row: each neighbour up to three steps away.
+std::vector<mistake> neighbours(const formula& right, int step = 1) {
+    std::vector<mistake> all;
+    for (const int steps : {-3, -2, -1, 1, 2, 3}) all.push_back({"", right + steps * step});
+    return all;
+}
+
+// Of the family's kinds the one that is asked about, and all.
+const formula asked_kJ = [](const reading& n) { return n[1 + static_cast<std::size_t>(n[0])]; };
+const formula all_kJ = v[1] + v[2] + v[3] + v[4];
+void check_share(const reading& n) {
+    EXPECT_EQ(n[0] + 1, n.variant());
+    const double share = 100 * n[1 + static_cast<std::size_t>(n[0])] / (n[1] + n[2] + n[3] + n[4]);
+    EXPECT_GE(std::abs(share - std::floor(share) - 0.5), 0.1 - 1e-9) << share << " might be rounded either way";
+    EXPECT_GE(std::ranges::min(n.exercise.numbers()), 1);
+    EXPECT_EQ(n.exercise.explanation.find("ongeveer") == std::string::npos, same(share, std::round(share)));
+}
+
+// A counter's digits stand apart.
+formula counter(std::size_t word) {
+    return [=](const reading& n) {
+        std::string digits = n.exercise.words[word];
+        std::erase(digits, ' ');
+        return decimal(digits);
+    };
+}
+const std::vector<formula> used_old_new{counter(5) - counter(2), counter(2), counter(5)};
+
+const formula kWh_of_lamp = v[0] * v[1] / 60000;
+const formula euros_a_month = v[0] * v[1] * v[2] / 100000;
+void check_appliance(const reading& n) { EXPECT_EQ(n.words[0], n.words[1]); }
+// What so many watts cost in a year at so many hours a day, in euros.
+formula a_year(const formula& watts, const formula& hours = v[1]) {
+    return rounded(watts * hours * v[3] * 365 / 100000, 2);
+}
+
+const formula slice = v[0] / v[1];
+const formula bread = v[0] * v[1] * v[5] / 1000, butter = v[0] * v[2] * v[6] / 1000, spread = v[0] * v[3] * v[7] / 1000;
+const formula eaten = bread + butter + spread;
+
+const formula price = v[0] * 100 / v[1];
+const formula saved_m3 = v[0] - v[1];
+
+const formula saved_euros = (v[2] - v[3]) * v[1] / 100;
+const formula whole_years = [](const reading& n) { return std::floor(n[0] / ((n[2] - n[3]) * n[1] / 100)); };
+void check_years(const reading& n) {
+    const double quotient = n[0] / ((n[2] - n[3]) * n[1] / 100), part = quotient - std::floor(quotient);
+    EXPECT_TRUE(part >= 0.1 - 1e-9 && part < 0.9) << quotient << " does not tell the year";
+}
+
+const exercise_rows energy{
+    {.id = L_energie_00_19_click,
+     .variants = 4,
+     .reads =
+         "Hoeveel % maakte (het vervoer|de verwarming|de voeding|de verlichting) uit van het geheel? | SOORT | PER "
+         "DAG | vervoer | # kJ | verwarming | # kJ | voeding | # kJ | verlichting | # kJ",
+     .ranges = {{{0, 3}, {20000, 29000}, {20000, 29000}, {10000, 19000}, {2000, 9000}}},
+     .right = says("# %", rounded(asked_kJ * 100 / all_kJ)),
+     .wrong = neighbours(rounded(asked_kJ * 100 / all_kJ)),
+     .explains = {{"# + # + # + # = # kJ", {v[1], v[2], v[3], v[4], all_kJ}},
+                  {"Deel de energie van '(vervoer|verwarming|voeding|verlichting)'", {v[0]}},
+                  {"# : # x 100 = * (Het vervoer|De verwarming|De voeding|De verl", {asked_kJ, all_kJ, v[0]}},
+                  {"totaal | # kJ | * # %", {all_kJ, rounded(asked_kJ * 100 / all_kJ)}}},
+     .tips = {"", "van '(vervoer|verwarming|voeding|verlichting)' door die totale energie"},
+     .check = check_share},
+    {.id = L_gas_1_00_19_click,
+     .variants = 2,
+     .reads = "een m³ aardgas # cent is. Bereken hoeveel * | GASMETER | oude stand | * | m³ | nieuwe stand | * | m³",
+     .counts = used_old_new,
+     .ranges = {{{31, 69}, {400, 990}, {10000, 96999, 900}, {10400, 97989, 900}},
+                {{31, 69}, {1200, 2800}, {10000, 96999, 900}, {11200, 99799, 1600}}},
+     .right = v[0] * v[1] / 100,
+     .wrong = {{"", v[0] * (v[1] - 100) / 100},
+               {"", v[0] * (v[1] + 100) / 100},
+               {"", v[0] * v[3] / 100},
+               {"", v[0] * v[1] / 1000},
+               {"", v[0] * v[1] / 10}},
+     .explains = {{"# - # = # m³ gas. * # x # = # cent", {v[3], v[2], v[1], v[1], v[0], v[0] * v[1]}},
+                  {"m³ gas kost # cent, dus # m³ kost", {v[0], v[1]}},
+                  {"verschil: # m³", {v[1]}}},
+     .tips = {"", "met de prijs van een m³. Zet"}},
+    {.id = M_elektriciteit_1_00_19_click,
+     .variants = 5,
+     .reads = "Een lamp van # Watt brandt gedurende # minuten. Hoeveel energie verbruikt deze lamp? | $0 W",
+     .ranges = {{{25, 25}, {12, 54}},
+                {{40, 40}, {12, 54}},
+                {{60, 60}, {12, 54}},
+                {{75, 75}, {12, 54}},
+                {{100, 100}, {12, 54}}},
+     .right = says("# kWh", kWh_of_lamp),
+     .wrong = {{"zeker 100 minuten in een uur gerekend", says("# kWh", v[0] * v[1] / 100000)},
+               {"1 kW = 1.000 W, niet 100 W.", says("# kWh", v[0] * v[1] / 6000)},
+               {"twee dingen verkeerd gedaan", says("# kWh", v[0] * v[1] / 10000)}},
+     .explains = {{"van # Watt, dat is gelijk aan # kW", {v[0], v[0] / 1000}},
+                  {"brandt # minuten, dat is #/60 = # uur", {v[1], v[1], v[1] / 60}},
+                  {"Uitkomst: # x # = #", {v[0] / 1000, v[1] / 60, kWh_of_lamp}}}},
+    {.id = M_elektriciteit_2_00_19_click,
+     .variants = 5,
+     .reads = "Een @ van # Watt wordt per maand gedurende # uur gebruikt. * als 1 kWh # eurocent kost? | @ | $0 W",
+     .ranges = {{{20, 60}, {50, 150}, {18, 40}},
+                {{20, 40}, {50, 150}, {18, 40}},
+                {{80, 160}, {50, 150}, {18, 40}},
+                {{700, 1200}, {10, 30}, {18, 40}},
+                {{1000, 2000}, {3, 12}, {18, 40}}},
+     .words = {5, 5},
+     .right = euros_a_month,
+     .wrong = {{"", euros_a_month * 10},
+               {"", rounded(euros_a_month / 10, 2)},
+               {"", v[1] * v[2] / 100},
+               {"", v[0] * v[1] / 1000},
+               {"", euros_a_month - v[2] / 100}},
+     .explains = {{"dus # Watt is # kW. * # x # = # kWh", {v[0], v[0] / 1000, v[0] / 1000, v[1], v[0] * v[1] / 1000}},
+                  {"Eén kWh kost # eurocent, * # x # = #", {v[2], v[0] * v[1] / 1000, v[2], euros_a_month * 100}}},
+     .tips = {"", "aantal kWh energie uit. Derde stap:  reken de totale"},
+     .check = check_appliance},
+    {.id = M_voeding_1_00_19_click,
+     .variants = 10,
+     .reads =
+         "een brood van # gram. Van dit brood snijd je # boterhammen. * | IN DE RECLAME: | @brood ($0 g) | met een "
+         "voedingswaarde van | # kJ per kg.",
+     .counts = {slice},
+     .ranges = {{{400, 960}, {16, 24}, {10000, 13900}, {25, 40}}},
+     .words = {10},
+     .right = says("# kJ", v[0] * v[2] / v[1] / 1000),
+     .wrong = neighbours(v[0] * v[2] / v[1] / 1000, 20),
+     .explains = {{"weegt # : # = # g. * is dat # kg", {v[0], v[1], slice, slice / 1000}},
+                  {"In 1 kg brood zit # kJ, * # x # = #", {v[2], slice / 1000, v[2], slice* v[2] / 1000}}},
+     .tips = {"", "om in kg... Derde stap: vermenigvuldig"}},
+    {.id = M_voeding_2_00_19_click,
+     .variants = 3,
+     .reads =
+         "Je eet # boterhammen van elk # g. Op elke boterham doe je # g boter en # g (kaas|pindakaas|hagelslag). * | "
+         "BROOD: | # kJ per kg | BOTER: | # kJ per kg | {kaas:|pindakaas:|hagelslag:} | # kJ per kg",
+     .ranges = {{{2, 6}, {30, 40}, {4, 8}, {15, 25}, {0, 0}, {13000, 16000}, {28000, 30000}, {10000, 16000}},
+                {{2, 6}, {30, 40}, {4, 8}, {15, 25}, {1, 1}, {13000, 16000}, {28000, 30000}, {24000, 27000}},
+                {{2, 6}, {30, 40}, {4, 8}, {15, 25}, {2, 2}, {13000, 16000}, {28000, 30000}, {17000, 20000}}},
+     .right = says("# kJ", eaten),
+     .wrong = {{"", eaten / v[0]},
+               {"", eaten - butter},
+               {"", eaten - spread},
+               {"", bread + (butter + spread) / v[0]},
+               {"", bread + v[0] * (v[3] * v[6] + v[2] * v[7]) / 1000},
+               {"", bread + v[0] * (v[2] + v[3]) * v[6] / 1000},
+               {"", eaten * 10}},
+     .explains = {{"Het brood: # x # g = # kg; # x # = # kJ.",
+                   {v[0], v[1], v[0] * v[1] / 1000, v[0] * v[1] / 1000, v[5], bread}},
+                  {"De boter: # x # g = # kg; # x # = # kJ.",
+                   {v[0], v[2], v[0] * v[2] / 1000, v[0] * v[2] / 1000, v[6], butter}},
+                  {"De (kaas|pindakaas|hagelslag): # x # g = # kg; # x # = # kJ.",
+                   {v[4], v[0], v[3], v[0] * v[3] / 1000, v[0] * v[3] / 1000, v[7], spread}},
+                  {"bij elkaar op: # + # + # = #", {bread, butter, spread, eaten}}},
+     .tips = {"", "de boter en de (kaas|pindakaas|hagelslag) van alle"}},
+    {.id = M_water_1_00_19_click,
+     .variants = 2,
+     .reads =
+         "hoeveelheid water moest € #* betaald worden. * | WATERMETER | oude stand | * | m³ | nieuwe stand | * | m³",
+     .counts = {counter(5) - counter(2), counter(2), counter(5), price},
+     .ranges = {{{32.4, 179.55, 9}, {40, 95}, {1000, 9699, 90}, {1040, 9794, 90}, {81, 189}},
+                {{89.1, 453.6, 20}, {110, 240}, {1000, 9699, 90}, {1110, 9939, 190}, {81, 189}}},
+     .right = says("# eurocent", price),
+     .wrong = {{"", rounded(v[0] * 100 / (v[1] - 10))},
+               {"", rounded(v[0] * 100 / (v[1] + 10))},
+               {"", rounded(price / 10)},
+               {"", price * 10},
+               {"", v[1]},
+               {"", rounded(v[0])}},
+     .explains = {{"verbruik is # - # = # m³ water. * dat is # eurocent", {v[3], v[2], v[1], v[0] * 100}},
+                  {"aantal m³: # : # = #", {v[0] * 100, v[1], price}},
+                  {"verschil: # m³", {v[1]}}},
+     .tips = {"", "Trek dus # van # af"}},
+    {.id = M_water_2_00_19_click,
+     .variants = 2,
+     .reads =
+         "zuinig met water. * | De Gemeentelijke Waterleidingen | Aan de familie @ | Hieronder staat uw verbruik van "
+         "water. | Vorig jaar: # m³ | Dit jaar: # m³",
+     .counts = {saved_m3 * 100 / v[0]},
+     .ranges = {{{104, 300}, {72, 285}, {5, 30}}, {{150, 300}, {106, 294}, {6, 29}}},
+     .words = {6},
+     .right = says("# %", v[2]),
+     .wrong = neighbours(v[2]),
+     .explains = {{"besparing is # - # = # m³ water", {v[0], v[1], saved_m3}},
+                  {"Eerst verbruikte het gezin # m³.", {v[0]}},
+                  {"# : # x 100 = #", {saved_m3, v[0], v[2]}}},
+     .tips = {"", "wat ze eerst verbruikten"},
+     .check = [](const reading& n) { EXPECT_EQ(std::fmod(n[2], 5) == 0, n.variant() == 1); }},
+    {.id = Z_elektriciteit_3_00_19_click,
+     .variants = 5,
+     .reads =
+         "Een lamp van # Watt die per dag # uur brandt, * spaarlamp van # Watt * prijs van # eurocent per kWh? | $0 W "
+         "| $2 W | lamp | spaarlamp",
+     .ranges = {{{25, 25}, {2, 8}, {5, 5}, {20, 40}},
+                {{40, 40}, {2, 8}, {10, 10}, {20, 40}},
+                {{60, 60}, {2, 8}, {10, 10}, {20, 40}},
+                {{75, 75}, {2, 8}, {15, 15}, {20, 40}},
+                {{100, 100}, {2, 8}, {20, 20}, {20, 40}}},
+     .right = (v[0] - v[2]) * v[1] * v[3] * 365 / 100000,
+     .wrong = {{"", a_year(v[0])},
+               {"", a_year(v[2])},
+               {"", a_year(v[0] + v[2])},
+               {"", a_year((v[0] - v[2]) * 10)},
+               {"", a_year((v[0] - v[2]) / 10)},
+               {"", a_year(v[0] - v[2], 1)},
+               {"", a_year(v[0] - v[2], 24)}},
+     .explains = {{"# - # = # Watt, dat is # kW", {v[0], v[2], v[0] - v[2], (v[0] - v[2]) / 1000}},
+                  {"# x 365 = # branduren. * # x # = # kWh.",
+                   {v[1], v[1] * 365, (v[0] - v[2]) / 1000, v[1] * 365, (v[0] - v[2]) * v[1] * 365 / 1000}},
+                  {"kost # eurocent, dus # x # = #",
+                   {v[3], (v[0] - v[2]) * v[1] * 365 / 1000, v[3], a_year(v[0] - v[2]) * 100}}},
+     .tips = {"", "aantal kWh bespaarde energie"}},
+    {.id = Z_gas_2_00_19_click,
+     .variants = 2,
+     .reads =
+         "voor een bedrag van € #,-. Hiernaast * aardgas # eurocent is. * | Het Gasbedrijf | * | vóór de isolatie: # "
+         "m³ gas | na de isolatie: # m³ gas",
+     .counts = {v[2] - v[3], whole_years + 1},
+     .ranges = {{{1500, 4500}, {40, 70}, {1600, 3100}, {1200, 2400}, {400, 700}, {4, 12}},
+                {{1500, 4500}, {40, 70}, {2000, 3600}, {1200, 2400}, {800, 1200}, {3, 12}}},
+     .right = says("in het #e jaar", v[5]),
+     .wrong = {{"", says("in het #e jaar", v[5] - 3)},
+               {"", says("in het #e jaar", v[5] - 2)},
+               {"", says("in het #e jaar", v[5] - 1)},
+               {"", says("in het #e jaar", v[5] + 1)},
+               {"", says("in het #e jaar", v[5] + 2)},
+               {"", says("in het #e jaar", v[5] + 3)}},
+     .explains = {{"jaar # - # = # m³ gas. Dat is # x # eurocent = € #,- per",
+                   {v[2], v[3], v[4], v[4], v[1], saved_euros}},
+                  {"kost € #,- en # : # = ongeveer #, dus", {v[0], v[0], saved_euros, rounded(v[0] / saved_euros, 1)}},
+                  {"ten minste # jaar om dat terug te verdienen. Hij heeft de kosten dus in het #e",
+                   {whole_years, v[5]}}},
+     .tips = {"", "hij per jaar bespaart. Derde stap: deel de iso"},
+     .check = check_years},
+};
+
+} // namespace
+} // namespace cijferwerf
