@@ -205,7 +205,7 @@ void oefeningen::Z_gas_2_00_19_click() {
 
     uitleg(
         regel("Hij bespaart per jaar", duizend(oud), " -", duizend(nieuw), " =", kubieke_meters(i.bespaard), " gas."),
-        regel("Dat is", duizend(i.bespaard), " x", i.prijs, " eurocent =", euro(100LL * per_jaar), " per jaar."),
+        regel("Dat is", duizend(i.bespaard), " x", euro(i.prijs), " =", euro(100LL * per_jaar), " per jaar."),
         regel("De isolatie kost", euro(100LL * i.kosten), " en", duizend(i.kosten), " :", duizend(per_jaar),
               " = ongeveer", komma_kort(deel_afgerond(10LL * i.kosten, per_jaar), 1), ","),
         regel("dus het duurt ten minste", i.hele_jaren(), " jaar om dat terug te"), "verdienen.",

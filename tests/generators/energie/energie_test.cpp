@@ -14,7 +14,7 @@ std::vector<mistake> neighbours(const formula& right, int step = 1) {
     return all;
 }
 
-// Of the family's kinds the one that is asked about, and all.
+// Of the kinds of energy the one that is asked about, and all.
 const formula asked_kJ = [](const reading& n) { return n[1 + static_cast<std::size_t>(n[0])]; };
 const formula all_kJ = v[1] + v[2] + v[3] + v[4];
 void check_share(const reading& n) {
@@ -33,7 +33,7 @@ formula counter(std::size_t word) {
         return decimal(digits);
     };
 }
-const std::vector<formula> used_old_new{counter(5) - counter(2), counter(2), counter(5)};
+const std::vector<formula> used_old_new{counter(6) - counter(3), counter(3), counter(6)};
 
 const formula kWh_of_lamp = v[0] * v[1] / 60000;
 const formula euros_a_month = v[0] * v[1] * v[2] / 100000;
@@ -47,7 +47,7 @@ const formula slice = v[0] / v[1];
 const formula bread = v[0] * v[1] * v[5] / 1000, butter = v[0] * v[2] * v[6] / 1000, spread = v[0] * v[3] * v[7] / 1000;
 const formula eaten = bread + butter + spread;
 
-const formula price = v[0] * 100 / v[1];
+const formula price = rounded(v[0] * 100 / v[1]);
 const formula saved_m3 = v[0] - v[1];
 
 const formula saved_euros = (v[2] - v[3]) * v[1] / 100;
@@ -68,13 +68,14 @@ const exercise_rows energy{
      .wrong = neighbours(rounded(asked_kJ * 100 / all_kJ)),
      .explains = {{"# + # + # + # = # kJ", {v[1], v[2], v[3], v[4], all_kJ}},
                   {"Deel de energie van '(vervoer|verwarming|voeding|verlichting)'", {v[0]}},
-                  {"# : # x 100 = * (Het vervoer|De verwarming|De voeding|De verl", {asked_kJ, all_kJ, v[0]}},
+                  {"# : # x 100 = * (Het vervoer|De verwarming|De voeding|De verlichting) maakte",
+                   {asked_kJ, all_kJ, v[0]}},
                   {"totaal | # kJ | * # %", {all_kJ, rounded(asked_kJ * 100 / all_kJ)}}},
      .tips = {"", "van '(vervoer|verwarming|voeding|verlichting)' door die totale energie"},
      .check = check_share},
     {.id = L_gas_1_00_19_click,
      .variants = 2,
-     .reads = "een m³ aardgas # cent is. Bereken hoeveel * | GASMETER | oude stand | * | m³ | nieuwe stand | * | m³",
+     .reads = "een m³ aardgas # cent is. Bereken hoeveel * | GASMETER | oude stand | m³ | * | nieuwe stand | m³ | *",
      .counts = used_old_new,
      .ranges = {{{31, 69}, {400, 990}, {10000, 96999, 900}, {10400, 97989, 900}},
                 {{31, 69}, {1200, 2800}, {10000, 96999, 900}, {11200, 99799, 1600}}},
@@ -125,7 +126,7 @@ const exercise_rows energy{
     {.id = M_voeding_1_00_19_click,
      .variants = 10,
      .reads =
-         "een brood van # gram. Van dit brood snijd je # boterhammen. * | IN DE RECLAME: | @brood ($0 g) | met een "
+         "een brood van # gram. Van dit brood snijd je # boterhammen. * | IN DE RECLAME: | @brood \\($0 g) | met een "
          "voedingswaarde van | # kJ per kg.",
      .counts = {slice},
      .ranges = {{{400, 960}, {16, 24}, {10000, 13900}, {25, 40}}},
@@ -162,8 +163,8 @@ const exercise_rows energy{
     {.id = M_water_1_00_19_click,
      .variants = 2,
      .reads =
-         "hoeveelheid water moest € #* betaald worden. * | WATERMETER | oude stand | * | m³ | nieuwe stand | * | m³",
-     .counts = {counter(5) - counter(2), counter(2), counter(5), price},
+         "hoeveelheid water moest € #* betaald worden. * | WATERMETER | oude stand | m³ | * | nieuwe stand | m³ | *",
+     .counts = {counter(6) - counter(3), counter(3), counter(6), price},
      .ranges = {{{32.4, 179.55, 9}, {40, 95}, {1000, 9699, 90}, {1040, 9794, 90}, {81, 189}},
                 {{89.1, 453.6, 20}, {110, 240}, {1000, 9699, 90}, {1110, 9939, 190}, {81, 189}}},
      .right = says("# eurocent", price),
@@ -183,7 +184,7 @@ const exercise_rows energy{
          "zuinig met water. * | De Gemeentelijke Waterleidingen | Aan de familie @ | Hieronder staat uw verbruik van "
          "water. | Vorig jaar: # m³ | Dit jaar: # m³",
      .counts = {saved_m3 * 100 / v[0]},
-     .ranges = {{{104, 300}, {72, 285}, {5, 30}}, {{150, 300}, {106, 294}, {6, 29}}},
+     .ranges = {{{104, 300}, {77, 270}, {10, 30}}, {{125, 300}, {90, 282}, {6, 29}}},
      .words = {6},
      .right = says("# %", v[2]),
      .wrong = neighbours(v[2]),
@@ -231,8 +232,8 @@ const exercise_rows energy{
                {"", says("in het #e jaar", v[5] + 1)},
                {"", says("in het #e jaar", v[5] + 2)},
                {"", says("in het #e jaar", v[5] + 3)}},
-     .explains = {{"jaar # - # = # m³ gas. Dat is # x # eurocent = € #,- per",
-                   {v[2], v[3], v[4], v[4], v[1], saved_euros}},
+     .explains = {{"jaar # - # = # m³ gas. Dat is # x € # = € #,- per",
+                   {v[2], v[3], v[4], v[4], v[1] / 100, saved_euros}},
                   {"kost € #,- en # : # = ongeveer #, dus", {v[0], v[0], saved_euros, rounded(v[0] / saved_euros, 1)}},
                   {"ten minste # jaar om dat terug te verdienen. Hij heeft de kosten dus in het #e",
                    {whole_years, v[5]}}},
