@@ -182,7 +182,13 @@ void check_countries(const reading& n) {
     EXPECT_EQ(twelfths, n.variant() <= 2 ? (std::multiset{1, 2, 3, 6}) : (std::multiset{1, 2, 4, 5}));
     const bool half = n.variant() == 1;
     EXPECT_EQ(half, 2 * n[1] == n[0]);
-    e.told(half ? "de helft is van het totale" : regel("= ", kaal(std::lround(12 * n[1] / n[0])), " de").c_str());
+    const auto parts = std::lround(12 * n[1] / n[0]), each = std::lround(n[0] / 12);
+    const auto sector = bijvoeglijk(e.blocks[static_cast<std::size_t>(e.right_place() - 1)].pen.colour);
+    e.told(
+        (half ? regel("de helft is van het totale .* De ", sector, " sector is de helft")
+              : regel("12 =", each, "\\. Elk 1/12 .*", each, " mensen\\. .* =", parts, parts == 1 ? " deel" : " delen",
+                      "\\. De ", sector, " sector stelt dus", parts, " x", each, " ="))
+            .c_str());
     const auto later = e.when_explained().words;
     for (std::size_t i = 4; i < later.size(); ++i) twelfths.erase(whole(later[i]));
     EXPECT_EQ(twelfths.empty(), !half);
@@ -251,7 +257,8 @@ const exercise_rows graphs{
      .wrong = {{"aangezien", v[0] * v[1] + v[0]},
                {"Je hebt de verkeerde schaal", v[1] * wrong_scale + wrong_scale / 2},
                {"en je hebt ook nog", v[1] * wrong_scale + wrong_scale}},
-     .explains = {{"stelt # inwoners voor. Er zijn in totaal # van", {v[0], v[1] + 0.5}}}},
+     .explains = {{"stelt # inwoners voor. Er zijn in totaal # van * stad # x # = # inwoners",
+                   {v[0], v[1] + 0.5, v[1] + 0.5, v[0], v[0] * v[1] + v[0] / 2}}}},
     {.id = B_rusthuis_04_18_click,
      .variants = 2,
      .reads = "Een rusthuis heeft # bedden. * bezet aan het eind van @ van dat jaar?",
@@ -261,8 +268,10 @@ const exercise_rows graphs{
      .ranges = {{{40, 200}, {10, 95}}},
      .words = {12},
      .right = v[0] * v[1] / 100,
-     .explains = {{"de #e maand van het jaar. Daar lees je het percentage af: # %",
-                   {[](const reading& n) { return month_of(n.words[0]); }, v[1]}}},
+     .explains = {{"de #e maand van het jaar. Daar lees je het percentage af: # %. Daarna moet je nog # % van # nemen, "
+                   "dus je moet berekenen: # x # = #.",
+                   {[](const reading& n) { return month_of(n.words[0]); }, v[1], v[1], v[0], v[1] / 100, v[0],
+                    v[0] * v[1] / 100}}},
      .tips = {"(Kijk eerst naar de juiste maand|Zoek eerst de kolom)", "(Zoek de stip boven|e van links)"},
      .check =
          [](const reading& n) {
@@ -274,9 +283,12 @@ const exercise_rows graphs{
     {.id = L_hardlopen_1_04_18_click,
      .variants = 4,
      .reads = "In welke seconde legt *(KLEINSTE|GROOTSTE) (aantal meters|afstand)* | m | s",
-     .counts = {[](const reading& n) { return whole(n.exercise.right); }},
-     .ranges =
-         {{{0, 0}, {0, 0}, {1, 6}}, {{1, 1}, {1, 1}, {1, 6}}, {{0, 0}, {0, 0}, {7, 13}}, {{1, 1}, {1, 1}, {7, 12}}},
+     .counts = {[](const reading& n) { return whole(n.exercise.right); },
+                [](const reading& n) { return largest(metres(n.exercise)); }},
+     .ranges = {{{0, 0}, {0, 0}, {1, 6}, {9.3, 9.7}},
+                {{1, 1}, {1, 1}, {1, 6}, {11.1, 11.4}},
+                {{0, 0}, {0, 0}, {7, 13}, {9.3, 9.7}},
+                {{1, 1}, {1, 1}, {7, 12}, {11.1, 11.4}}},
      .right = second(false),
      .wrong = {{"niet naar de (kleinste, maar naar de grootste|grootste, maar naar de kleinste)", second(true)},
                {"niet goed afgelezen", lies::elsewhere}},
@@ -319,7 +331,9 @@ const exercise_rows graphs{
                {"slechts één getal", v[1]},
                {"rekenfoutje", v[0] - v[1] - rain_step},
                {"rekenfoutje", v[0] - v[1] + rain_step}},
-     .explains = {{"viel er # mm regen *de hoogste", {v[0]}}, {"In de maand * viel er # mm", {v[1]}}}},
+     .explains = {{"viel er # mm regen *de hoogste", {v[0]}},
+                  {"In de maand * viel er # mm", {v[1]}},
+                  {"aftrekken: # - # is # mm.", {v[0], v[1], v[0] - v[1]}}}},
     {.id = L_vakanties_04_18_click,
      .variants = 4,
      .reads = "Van # mensen * waarvan er één door # mensen bezocht werd",
@@ -329,7 +343,7 @@ const exercise_rows graphs{
      .variants = 2,
      .reads =
          "op z'n (laagst|hoogst) was. Hij hield er # dollar van over, die hij weer tegen de {hoogste|laagste} koers "
-         "verkocht. Hoeveel euro {verdiende|verloor} hij op die $1 dollars?",
+         "verkocht. Hoeveel euro {verdiende|verloor} hij op die $1 dollars? |* eurocent | KOERS VAN DE DOLLAR",
      .counts = {[](const reading& n) { return smallest(values(n.exercise, 1)); },
                 [](const reading& n) { return largest(values(n.exercise, 1)); }},
      .ranges = {{{0, 0}, {100, 900}, {61, 88}, {71, 99}}, {{1, 1}, {100, 900}, {61, 88}, {71, 99}}},
@@ -341,7 +355,9 @@ const exercise_rows graphs{
                {"niet goed afgelezen", v[1] * (v[3] - v[2] - 1) / 100},
                {"De komma staat verkeerd", v[1] * (v[3] - v[2]) / 10},
                {"De komma staat verkeerd", v[1] * (v[3] - v[2]) / 1000}},
-     .explains = {{"is # eurocent *# - #*.", {v[3] - v[2], v[3], v[2]}}, {"een (winst|verlies) van", {v[0]}}}},
+     .explains = {{"is # eurocent *# - #*.", {v[3] - v[2], v[3], v[2]}},
+                  {"een (winst|verlies) van # x # eurocent = € #.",
+                   {v[0], v[1], v[3] - v[2], v[1] * (v[3] - v[2]) / 100}}}},
     {.id = Z_roken_04_18_click,
      .variants = 2,
      .reads = "Welke groep rookte het (MEEST|MINST)?",
@@ -350,10 +366,10 @@ const exercise_rows graphs{
      .check = check_smokers},
     {.id = Z_verkiezingen_04_18_click,
      .variants = 2,
-     .reads = "gehouden. @ en @ verliezen samen #% van hun zetels aan @. De andere",
+     .reads = "gehouden. @ en @ verliezen samen #% van hun zetels aan @. De andere * heeft @ nu?",
      .counts = {seats(0), seats(1), seats(2)},
      .ranges = {{{20, 40}, {5, 20}, {5, 20}, {5, 50}}, {{60, 80}, {5, 20}, {5, 20}, {5, 50}}},
-     .words = {10, 10, 10},
+     .words = {10, 10, 10, 10},
      .right = v[3] + won,
      .wrong = {{"", v[3] + v[0] * v[3] / 100},
                {"", v[3] + v[0] * all_seats / 100},
@@ -364,8 +380,13 @@ const exercise_rows graphs{
                {"", v[3] + v[0]},
                {"", won}},
      .explains = {{"Dat zijn er # + # = #. Hier neem je # % van, dus # zetels", {v[1], v[2], v[1] + v[2], v[0], won}},
-                  {"had eerst # zetels", {v[3]}}},
-     .tips = {"Eerste stap", "Tweede stap"}},
+                  {"had eerst # zetels in de Raad, zodat deze partij er nu # heeft.", {v[3], v[3] + won}}},
+     .tips = {"Eerste stap", "Tweede stap"},
+     .check =
+         [](const reading& n) {
+             EXPECT_EQ(n.words[3], n.words[2]);
+             n.exercise.told(("gaan naar " + n.words[2] + "\\. " + n.words[2] + " had").c_str());
+         }},
 };
 
 } // namespace

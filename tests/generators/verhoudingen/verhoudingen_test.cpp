@@ -1,6 +1,7 @@
 // The ratios: what they draw, their answers worked out again from what a pupil sees, and each wrong answer as the
 // mistake that its feedback names.
 #include "generators/gedeeld/kleuren.h"
+#include "generators/gedeeld/telwoord.h"
 #include "tests/support/exercise_rows.h"
 
 #include <map>
@@ -141,6 +142,10 @@ void check_cars(const reading& n) {
         by_distance.emplace(-distance, make);
         const text_op &above = e.texts.at(4 * i + 2), &told = later.texts.at(16 + i);
         EXPECT_EQ(told.text, regel(kaal(komma(afgerond(cost, 1), 1)), " eurocent per km"));
+        if (make == e.right)
+            e.told(regel(make, " is de kostprijs", static_cast<int>(price), " delen door", static_cast<int>(distance),
+                         " is .afgerond.", komma(afgerond(cost, 1), 1), " eurocent")
+                       .c_str());
         EXPECT_TRUE(std::abs(told.x - above.x) < 400 && told.y > above.y && told.y < above.y + 400);
     }
     EXPECT_EQ(by_cost.begin()->second, e.right);
@@ -151,12 +156,9 @@ void check_cars(const reading& n) {
 
 const formula soil = v[1] / (v[0] + 1);
 
-const auto share = [](bool of_other, int slip) -> formula {
-    return [=](const reading& n) {
-        const bool first = (n.words[4] == n.words[0]) != of_other;
-        return n[2] / (n[0] + n[1]) * (first ? n[0] : n[1]) + slip;
-    };
-};
+const formula each_pays = v[2] / (v[0] + v[1]);
+const formula those_asked = [](const reading& n) { return n.words[4] == n.words[0] ? n[0] : n[1]; };
+const formula ours = each_pays * those_asked, theirs = v[2] - ours;
 
 const exercise_rows ratios{
     {.id = B_huis_02_16_click,
@@ -226,7 +228,8 @@ const exercise_rows ratios{
                {"Bovendien moet je nog vereenvoudigen", ratio(2, true)},
                {"Bovendien moet je nog vereenvoudigen", ratio(3, true)}},
      .explains = {{"linker cirkel is voor het & deel rood gekleurd, De rechter cirkel voor het & deel", {v[0], v[1]}},
-                  {"De verhouding & : & kun je", {v[0], v[1]}}},
+                  {"De verhouding & : & kun je * met # te vermenigvuldigen",
+                   {v[0], v[1], [](const reading& n) { return std::stod(n.exercise.right) / n[0]; }}}},
      .check = check_spokes},
     {.id = L_fietspad_1_02_16_click,
      .variants = 5,
@@ -256,8 +259,13 @@ const exercise_rows ratios{
      .wrong = {{"uit het buitenland komt", v[0] - v[0] / one_in},
                {"Je hebt vermenigvuldigd", v[0] * one_in},
                {"hoort zelf ook bij", v[0] / (v[1] + 4)}},
-     .explains = {{"er één buitenlander. Deel je"},
-                  {"Dus: # delen door # is # buitenl", {v[0], one_in, v[0] / one_in}}}},
+     .explains = {{"Dus: # delen door # is # buitenl", {v[0], one_in, v[0] / one_in}}},
+     .check =
+         [](const reading& n) {
+             const std::string word = telwoord(static_cast<int>(n[1]) + 3);
+             n.exercise.told(
+                 ("elke " + word + " mensen is er één buitenlander\\. Deel je .* door " + word + ",").c_str());
+         }},
     {.id = M_fietspad_2_02_16_click,
      .variants = 5,
      .reads = "heeft van # km. Op de kaart is het fietspad # cm lang. * | 1 : ...",
@@ -307,7 +315,8 @@ const exercise_rows ratios{
                {"door het goede getal", says("# kg", v[1] / v[0])},
                {"delen in plaats van", says("# kg", v[1] * v[0])}},
      .explains = {{"potgrond met # kilogram turfmolm, dan heeft hij # kilogram", {v[0], v[0] + 1}},
-                  {"dat is # keer zo veel *want # delen door # is #", {soil, v[1], v[0] + 1, soil}}},
+                  {"dat is # keer zo veel *want # delen door # is #*. Dan heeft hij ook # x # kg =",
+                   {soil, v[1], v[0] + 1, soil, soil, v[0]}}},
      .check = lies_in(200, 120, 3500, 520)},
     {.id = Z_uitgaven_02_16_click,
      .variants = 2,
@@ -316,13 +325,15 @@ const exercise_rows ratios{
               "familie @: $0 personen | familie @: $1 personen | samen: € $2,-",
      .ranges = {{{2, 7}, {2, 7}, {150, 999, 6}}},
      .words = {10, 10, 10, 10, 10, 8, 10, 10},
-     .right = share(false, 0),
-     .wrong = {{"familie berekend", share(true, 0)},
-               {"Heb je soms", share(false, 10)},
-               {"Heb je soms", share(false, -10)},
-               {"ook nog de verkeerde", share(true, 10)},
-               {"ook nog de verkeerde", share(true, -10)}},
-     .explains = {{"hebben samen # personen", {v[0] + v[1]}}, {"€ #,-/# =", {v[2], v[0] + v[1]}}},
+     .right = ours,
+     .wrong = {{"familie berekend", theirs},
+               {"Heb je soms", ours + 10},
+               {"Heb je soms", ours - 10},
+               {"ook nog de verkeerde", theirs + 10},
+               {"ook nog de verkeerde", theirs - 10}},
+     .explains =
+         {{"hebben samen # personen. Voor elke persoon wordt dus € #,-/# = € #,- uitgegeven. Familie * van # personen moet dus # x € #,- =",
+           {v[0] + v[1], v[2], v[0] + v[1], each_pays, those_asked, those_asked, each_pays}}},
      .check =
          [](const reading& n) {
              const auto& w = n.words;
