@@ -97,21 +97,23 @@ void oefeningen::M_elektriciteit_2_00_19_click() {
     const long long kosten = wattuur * prijs / 1000;
 
     plaatje.picture("elektriciteit_2.bmp");
-    bord(wit, donkerblauw, 12);
-    druk_midden(4250, 740, a.naam);
+    bord(wit, donkerblauw, 11);
+    druk_midden(4250, 750, a.naam);
     druk_midden(4250, 1060, kaal(duizend(watt)), " W");
 
     vraag(regel("Een ", a.naam, " van", duizend(watt), " Watt"), regel("wordt per maand gedurende", uren, " uur"),
           "gebruikt.", "Hoeveel kost de elektrische", "energie in die maand, als 1 kWh",
           regel(kaal(prijs), " eurocent kost?"));
 
-    // A kilowatt of 100 or of 10.000 watts, the power or the price left out, one kWh too few.
+    // A kilowatt of 100 or of 10.000 watts, the power or the price left out, one kWh too few, and no hours with a
+    // kilowatt of 100 watts.
     drie_andere(kosten, euro,
                 {{kosten * 10},
                  {deel_afgerond(kosten, 10)},
                  {static_cast<long long>(uren) * prijs},
                  {wattuur / 10},
-                 {kosten - prijs}});
+                 {kosten - prijs},
+                 {deel_afgerond(watt * prijs, 100)}});
     tip_1("Eerste stap: reken het aantal kW uit.");
     tip_2("Eerste stap: reken het aantal kW uit.", "Tweede stap: reken het aantal kWh energie uit.",
           "Derde stap:  reken de totale kosten uit.");

@@ -64,9 +64,10 @@ void oefeningen::L_gas_1_00_19_click() {
           "en die van dit jaar. Gegeven is dat de prijs", regel("van een m³ aardgas", prijs, " cent is."),
           "Bereken hoeveel de verbruikte", "energie van het gas kost.");
 
-    // A hundred borrowed too much or not at all, no difference taken, cents taken for euros or tenths of them.
+    // A ten or a hundred borrowed too much or not at all, no difference taken, cents taken for euros or tenths of them.
     drie_andere(kosten, euro,
-                {{kosten - 100 * prijs},
+                {{kosten - 10 * prijs},
+                 {kosten - 100 * prijs},
                  {kosten + 100 * prijs},
                  {static_cast<long long>(nieuw) * prijs},
                  {kosten / 10},
