@@ -59,7 +59,8 @@ kommasom trek_kommasom(random_draws& toeval, int patroon) {
                         {som.uitkomst - 2},
                         {som.uitkomst - 1},
                         {som.uitkomst + 1},
-                        {som.uitkomst + 2}};
+                        {som.uitkomst + 2},
+                        {som.uitkomst + 3}};
     const auto paar = [&](std::size_t i, std::size_t j) {
         return regel(kaal(komma_kort(getallen[i], 1)), " en", komma_kort(getallen[j], 1));
     };

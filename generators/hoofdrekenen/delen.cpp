@@ -9,11 +9,11 @@ namespace cijferwerf {
 
 namespace {
 
-// Quotients with the comma misplaced, or a few too many or too few.
+// Quotients with the comma misplaced, a few too many or too few, or both, so that equal digits point at none.
 std::vector<keuze<kommagetal>> naast_quotient(int quotient) {
     const auto rij = [](kommagetal getal) { return keuze<kommagetal>{getal, {}}; };
-    return {rij({quotient, 1}),  rij({quotient - 2}), rij({quotient - 1}),
-            rij({quotient + 1}), rij({quotient + 2}), rij({10 * quotient})};
+    return {rij({quotient, 1}),  rij({quotient - 1, 1}), rij({quotient - 2}),  rij({quotient - 1}),
+            rij({quotient + 1}), rij({quotient + 2}),    rij({10 * quotient}), rij({10 * (quotient + 1)})};
 }
 
 number_text in_cijfers(kommagetal getal) { return komma_kort(getal); }

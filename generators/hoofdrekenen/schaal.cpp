@@ -28,25 +28,28 @@ void teken_vrachtauto(drawing& on, int links, int grond, int breedte) {
 }
 
 void teken_motorjacht(drawing& on, int links, int grond, int breedte) {
-    const int romp = breedte / 8, dek = grond - romp;
+    const int romp = breedte / 9, dek = grond - romp, rechts = links + breedte;
+    const auto op = [&](int procent, int hoogte) { return point{links + breedte * procent / 100, dek - hoogte}; };
     on.filled_box(links - 150, grond - romp / 4, breedte + 300, romp / 4 + 40, blauw);
-    on.filled_box(links + breedte / 5, dek - romp, breedte * 2 / 5, romp, lichtgrijs);
-    on.filled_box(links + breedte * 3 / 10, dek - romp * 3 / 2, breedte / 5, romp / 2, grijs);
-    for (int i = 0; i < 4; ++i)
-        on.filled_box(links + breedte * (23 + 9 * i) / 100, dek - romp * 3 / 4, breedte / 18, romp / 3, donkerblauw);
-    on.polygon(
-        {{links, dek}, {links + breedte, dek}, {links + breedte * 85 / 100, grond}, {links + breedte / 25, grond}},
-        donkerrood, true);
+    on.polygon({op(22, 0), op(24, romp * 8 / 5), op(46, romp * 8 / 5), op(54, 0)}, grijs, true);
+    on.polygon({op(12, 0), op(14, romp), op(58, romp), op(74, 0)}, lichtgrijs, true);
+    on.polygon({op(18, romp / 3), op(18, romp * 3 / 4), op(59, romp * 3 / 4), op(66, romp / 3)}, donkerblauw, true);
+    on.polygon({{links, dek}, {rechts, dek - romp / 3}, op(82, -romp), op(3, -romp)}, donkerrood, true);
 }
 
 void teken_flatgebouw(drawing& on, int links, int grond, int breedte) {
     constexpr int lagen = 5, laag = 190;
-    const int kolommen = breedte / 240;
-    on.filled_box(links, grond - lagen * laag, breedte, lagen * laag, olijf);
+    const int midden = breedte / 480, kolommen = 2 * midden + 1; // the door stands in the middle one
+    on.filled_box(links + breedte / 8, grond - lagen * laag - 80, breedte / 6, 80, grijs);
+    on.filled_box(links, grond - lagen * laag, breedte, lagen * laag, donkerrood);
     for (int y = 0; y < lagen; ++y)
-        for (int x = 0; x < kolommen; ++x)
-            on.filled_box(links + (2 * x + 1) * breedte / (2 * kolommen) - 70, grond - (y + 1) * laag + 50, 140, 90,
-                          (x + 2 * y) % 5 == 0 ? geel : lichtcyaan);
+        for (int x = 0; x < kolommen; ++x) {
+            const int raam = links + (2 * x + 1) * breedte / (2 * kolommen) - 70;
+            if (x == midden && y == 0)
+                on.filled_box(raam, grond - laag + 50, 140, laag - 50, lichtgrijs);
+            else
+                on.filled_box(raam, grond - (y + 1) * laag + 50, 140, 90, (x + 2 * y) % 5 == 0 ? geel : lichtcyaan);
+        }
 }
 
 void teken_trein(drawing& on, int links, int grond, int breedte) {

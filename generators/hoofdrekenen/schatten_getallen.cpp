@@ -69,15 +69,14 @@ void oefeningen::L_schatten_2_10_09_click() {
     kies_variant(2);
     zaai();
     const bool per_maand = variant == 1;
-    // The answer makes whole hundreds in a year; the counter shows a little more or less.
-    const int gemiddeld = per_maand ? trek_van(900, 3000, 50) : trek_van(200, 700, 50);
+    // The answer, as round as the wrong ones, makes whole hundreds in a year; the counter shows a little more or less.
+    constexpr int stap = 50;
+    const int gemiddeld = per_maand ? trek_van(900, 3000, stap) : trek_van(200, 700, stap);
     const int afgerond_jaar = gemiddeld * (per_maand ? 12 : 52);
     const int scheef = trek_van(11, 49);
     const int jaar = kop() ? afgerond_jaar + scheef : afgerond_jaar - scheef;
-    const auto door = [&](int delen, int op) {
-        return static_cast<int>(deel_afgerond(afgerond_jaar, delen * op)) * op;
-    };
-    const int beetje = (gemiddeld / 8 / 10 + 1) * 10;
+    const auto door = [&](int delen) { return static_cast<int>(deel_afgerond(afgerond_jaar, delen * stap)) * stap; };
+    const int beetje = (gemiddeld / 8 / stap + 1) * stap;
 
     bord(wit, zwart, 14);
     druk_midden(2690, 380, "Gereden in een jaar (in km):");
@@ -90,17 +89,14 @@ void oefeningen::L_schatten_2_10_09_click() {
 
     const melding ernaast{"Je zit er een beetje naast."};
     const std::string_view soms = "Ben jij er soms van uit gegaan dat een jaar";
-    std::vector<keuze<int>> vergissingen{
-        {gemiddeld - beetje, ernaast}, {gemiddeld + beetje, ernaast}, {gemiddeld - 2 * beetje, ernaast}};
-    if (per_maand) {
-        vergissingen.push_back({door(52, 10), {"Je hebt 't per week uitgerekend."}});
-        vergissingen.push_back({door(10, 1), {soms, "tien maanden heeft?"}});
-    } else {
-        vergissingen.push_back({door(12, 10), {"Je hebt 't per maand uitgerekend."}});
-        vergissingen.push_back({door(48, 5), {soms, "48 weken heeft?"}});
-    }
-    drie_andere(
-        gemiddeld, [](int km) { return regel(duizend(km), " km"); }, vergissingen);
+    drie_andere(gemiddeld, [](int km) { return regel(duizend(km), " km"); },
+                {per_maand ? keuze<int>{door(52), {"Je hebt 't per week uitgerekend."}}
+                           : keuze<int>{door(12), {"Je hebt 't per maand uitgerekend."}},
+                 per_maand ? keuze<int>{door(10), {soms, "tien maanden heeft?"}}
+                           : keuze<int>{door(48), {soms, "48 weken heeft?"}},
+                 {gemiddeld - beetje, ernaast},
+                 {gemiddeld + beetje, ernaast},
+                 {gemiddeld - 2 * beetje, ernaast}});
 
     const int delen = per_maand ? 12 : 52;
     uitleg(
@@ -147,7 +143,7 @@ void oefeningen::M_erfenis_10_07_click() {
     vraag(regel("Een man erft", euros(erfenis), ". Hij krijgt"), "de brief hiernaast. Verder koopt hij",
           regel(koopt.wat, " van", euros(echte_prijs), "."), leeg, "Hoeveel geld", "heeft hij dan nog ongeveer over?");
 
-    // A thousand too little or too much for one amount or for both; one of the two forgotten.
+    // A thousand too little or too much for one amount or for both; one of the two forgotten, or taken off twice.
     const melding rond_af{"Rond de bedragen eerst af."};
     const melding afronden{"Eerst moet je de bedragen afronden."};
     drie_andere(over, euros,
@@ -155,7 +151,9 @@ void oefeningen::M_erfenis_10_07_click() {
                  {over - kant_prijs * 1000, afronden},
                  {over - (kant_belasting + kant_prijs) * 1000, afronden},
                  {erfenis - belasting, {regel("Hij koopt ook nog ", koopt.wat, ".")}},
-                 {erfenis - prijs, {"Hij moet ook nog belasting betalen."}}});
+                 {erfenis - prijs, {"Hij moet ook nog belasting betalen."}},
+                 {over - belasting, {"Je hebt de belasting twee keer afgetrokken."}},
+                 {over - prijs, {"Je hebt de prijs twee keer afgetrokken."}}});
 
     uitleg(regel("Rond af:", duizend(echte_belasting), " is ongeveer", duizend(belasting), " en", duizend(echte_prijs),
                  " is ongeveer", duizend(prijs), "."),

@@ -49,8 +49,8 @@ void oefeningen::B_gestreept_10_03_click() {
     plaatje.line(midden.x, midden.y - straal, midden.x, midden.y + straal, zwart);
     plaatje.sector(midden.x, midden.y, straal, vanaf, boog, donkerblauw, false);
     for (const int y : {250, 1600}) {
-        opdracht(druk_rechts_opdracht(1950, y, donkerrood, 14, "25 %"));
-        opdracht(druk_opdracht(3430, y, donkerrood, 14, "25 %"));
+        opdracht(druk_rechts_opdracht(1850, y, donkerrood, 14, "25 %"));
+        opdracht(druk_opdracht(3530, y, donkerrood, 14, "25 %"));
     }
 
     vraag("Een cirkel is voor een deel gestreept.", "Om je te helpen is de cirkel al in", "vier stukken verdeeld.",
@@ -209,14 +209,16 @@ void oefeningen::L_betegelen_10_12_click() {
     const melding vermenigvuldigen{"Als je de lengte en de breedte afgerond hebt,",
                                    "moet je ze met elkaar vermenigvuldigen."};
     const int kort_breed = breedte / 10, kort_lang = lengte / 10; // what stands before the comma
-    // Cut off or rounded up instead of rounded off; added, or walked around.
-    drie_andere(breed * lang, [](int m2) { return regel(kaal(m2), " m²"); },
-                {{kort_breed * kort_lang, afronden},
-                 {(breed - 1) * lang, afronden},
-                 {breed * (lang - 1), afronden},
-                 {(breedte / 10 + 1) * (lengte / 10 + 1), afronden},
-                 {breed + lang, vermenigvuldigen},
-                 {2 * (breed + lang), vermenigvuldigen}});
+    // Cut off, or a metre too little or too much; added, or walked around.
+    std::vector<keuze<int>> vergissingen{{kort_breed * kort_lang, afronden}, {(breed - 1) * lang, afronden},
+                                         {breed * (lang - 1), afronden},     {(breed + 1) * lang, afronden},
+                                         {breed * (lang + 1), afronden},     {(breed + 1) * (lang + 1), afronden},
+                                         {breed + lang, vermenigvuldigen},   {2 * (breed + lang), vermenigvuldigen}};
+    // Who does not round at all must not find a wrong answer nearly as near as the right one.
+    const auto ernaast = [&](int m2) { return std::abs(100 * m2 - breedte * lengte); };
+    std::erase_if(vergissingen, [&](const keuze<int>& k) { return ernaast(k.waarde) < 2 * ernaast(breed * lang); });
+    drie_andere(
+        breed * lang, [](int m2) { return regel(kaal(m2), " m²"); }, vergissingen);
 
     uitleg("Rond eerst de breedte en de lengte af.",
            regel("De breedte is ongeveer", breed, " m en de lengte is ongeveer", lang, " m."),
