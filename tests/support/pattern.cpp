@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <cmath>
+#include <stdexcept>
 
 namespace cijferwerf {
 
@@ -84,6 +85,7 @@ struct matcher {
     // One of the texts up to the bracket, or the one at that place.
     bool one_of(std::size_t t, std::size_t p, char bracket, std::optional<double> only = {}) {
         const std::size_t close = pattern.find(bracket, p);
+        if (close == pattern.npos) throw std::invalid_argument("no bracket closes: " + std::string(pattern));
         if (!first_choice && !only) first_choice = found.numbers.size();
         const bool is_first = first_choice == found.numbers.size() && !only;
         double which = 0;

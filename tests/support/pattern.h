@@ -24,7 +24,7 @@ struct found_in_text {
 //     $0         is the number that was found as number 0, once more (0 to 9)
 //     \#         is "#" itself
 //
-// and everything else stands for itself; nothing where no place does.
+// and everything else stands for itself; nothing where no place does. A bracket that is never closed ends the test.
 std::optional<found_in_text> find_pattern(std::string_view text, std::string_view pattern);
 
 // What an answer is worth, whatever its unit: "€ 5,-" is 5, "1 3/8 liter" 1.375, "9:05 uur" 545 (minutes), "0:01:10"
