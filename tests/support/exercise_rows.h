@@ -118,6 +118,13 @@ struct mistake {
     formula value;
 };
 
+// Mistakes of which nothing is told.
+inline std::vector<mistake> untold(std::initializer_list<formula> values) {
+    std::vector<mistake> all;
+    for (const formula& value : values) all.push_back({"", value});
+    return all;
+}
+
 // A pattern that the explanation, in words or as drawn, must show, and its numbers in order.
 struct statement {
     const char* pattern;

@@ -10,7 +10,7 @@ namespace {
 
 using enum oefening_id;
 
-const std::vector<mistake> either_side{{"", lies::below}, {"", lies::above}};
+const std::vector<mistake> either_side = untold({lies::below, lies::above});
 
 // What a table says for a number that was read, counted from 0.
 formula of_table(std::vector<double> values, std::size_t number) {
@@ -80,9 +80,10 @@ double days_of(const reading& n) {
 const formula months = of_table({3, 6, 9, 6, 18, 24, 30}, 0), weeks = of_table({13, 26, 39, 26, 78, 104, 130, 52}, 0);
 
 const formula extra = v[3] + v[4] / 100, change = v[2] + extra - v[1];
-const formula paid = (v[1] + 1) * v[2] + (v[3] + 1) * v[4];
+const formula paid = (v[1] + 1) * v[2] + (v[3] + 1) * v[4], back = paid - v[5];
 const formula coins_in = v[1] * 100 / v[0], exchanged = of_table({1, 2, 3, 6}, 0) * v[1];
 const formula pumped = v[1] * 10 + v[2] + v[3] / 10 + v[4] / 100, litres = v[5] * 10 + v[6]; // digit by digit
+const formula per_litre = pumped / litres;
 const formula sub_variant = [](const reading& n) { return n.variant(); };
 const formula hours = v[2] + v[3] + v[4] + v[5] + v[6] + v[7];
 const formula cds = v[0] * v[1], half = v[0] / 2, threes = rounded_down(v[1] / 3);
@@ -103,20 +104,16 @@ const exercise_rows money{
      .reads = "wisselt (een biljet|twee biljetten|drie biljetten|zes biljetten) van € #,- tegen munten van # eurocent.",
      .ranges = {{{0, 3}, {20, 200}, {10, 10}}, {{0, 3}, {20, 200}, {20, 20}}, {{0, 3}, {20, 200}, {50, 50}}},
      .right = exchanged * 100 / v[2],
-     .wrong = either_side,
+     .wrong = untold(
+         {exchanged, exchanged * 2, exchanged * 5, exchanged * 10, exchanged * 20, exchanged * 50, v[1] * 100 / v[2]}),
      .explains = {{"krijgt hij # munten van # eurocent. Voor € #,- ", {100 / v[2], v[2], exchanged}}},
      .tips = {"Bedenk eerst hoeveel", "doe daarna een vermenigvuldiging"}},
     {.id = L_snel_05_07_click,
      .variants = 6,
      .reads = "| Hoeveel munten van # eurocent | gaan er in € #,-?",
-     .counts = {[](const reading& n) {
-         const double right = n[1] * 100 / n[0];
-         const auto gap = [=](double each) { return std::abs(each - right); };
-         return std::ranges::count_if(
-             std::array{5, 10, 15}, [&](int near) { return std::ranges::count(n.exercise.numbers(), near, gap) == 1; });
-     }},
-     .ranges = {{{1, 50}, {2, 10}, {3, 3}}},
+     .ranges = {{{1, 50}, {2, 10}}},
      .right = coins_in,
+     .wrong = untold({coins_in - 15, coins_in - 10, coins_in - 5, coins_in + 5, coins_in + 10, coins_in + 15}),
      .explains = {{"In een euro * # *, dus in € #,- zitten # x ", {100 / v[0], v[1], v[1]}}},
      .ticks = {10}},
     {.id = M_niet_gepast_05_07_click,
@@ -143,9 +140,10 @@ const exercise_rows money{
               "(een munt|2 munten|3 munten) van € #,-. Hoeveel krijgt {hij|ze} terug? | € #",
      .ranges = {{{0, 1}, {0, 2}, {5, 100}, {0, 2}, {1, 2}, {5.05, 305.95, 2}}},
      .words = {10},
-     .right = paid - v[5],
-     .wrong = either_side,
-     .explains = {{"bedrag van € #* moet je aanvullen tot € #,-. Dat doe je met € #", {v[5], paid, paid - v[5]}}},
+     .right = back,
+     .wrong =
+         untold({back - 1, back - .5, back - .1, back - .05, back + .1, back + .5, back + 1, v[5] - (v[1] + 1) * v[2]}),
+     .explains = {{"bedrag van € #* moet je aanvullen tot € #,-. Dat doe je met € #", {v[5], paid, back}}},
      .tips = {"Reken eerst uit", "Bereken met hoeveel"}},
     {.id = L_vreemd_geld_1_05_07_click,
      .variants = 5,
@@ -213,8 +211,9 @@ const exercise_rows money{
      .variants = 2,
      .reads = "(Een man|Een vrouw) heeft bij een pompstation {zijn|haar} auto volgetankt. * | #  #, #  # | #  #",
      .ranges = {{{0, 1}, {2, 9}, {0, 9}, {0, 9}, {0, 9}, {2, 5}, {0, 9}}},
-     .right = pumped / litres,
-     .wrong = either_side,
+     .right = per_litre,
+     .wrong = untold({rounded(litres / pumped, 2), pumped, per_litre * 10, per_litre - .1, per_litre - .01,
+                      per_litre + .01, per_litre + .1}),
      .explains = {{"hoeveel (hij|zij) voor # liters * Dus € #* : #", {v[0], litres, pumped, litres}}},
      .tips = {"Je moet delen.", "een deling doen"}},
     {.id = Z_huren_05_07_click,

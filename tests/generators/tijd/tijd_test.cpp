@@ -33,33 +33,16 @@ formula in_figures(const char* order) {
     };
 }
 
-double month_length(const reading& n) {
-    const int number = month_number(n.words[0]);
-    return number == 2 ? 28 : std::set{4, 6, 9, 11}.contains(number) ? 30 : 31;
-}
-std::string due(const reading& n) {
-    const auto day = static_cast<int>(n[1] + n[2] * 7), length = static_cast<int>(n[3]);
-    const auto month = static_cast<std::size_t>(month_number(n.words[0]) - (day <= length));
-    return regel(kaal(day <= length ? day : day - length), " ", maanden.at(month).naam);
-}
-
-void check_wait(const reading& n) {
-    const std::string_view women = "Marsha Irene Marianne Martje Inge Diana Yvonne Karin Adisa Malti";
-    EXPECT_EQ(women.find(n.words[0]) != women.npos, n[0] == 1);
-    EXPECT_EQ(n[4] < n[2], n.variant() % 2 == 0) << "minutes that are borrowed";
-    EXPECT_EQ(n.words[1], n.exercise.words[4]) << "the destination on the board";
-}
+datum lent(const reading& n) { return {static_cast<int>(n[1]), month_number(n.words[0])}; }
+int month(const reading& n) { return month_number(n.words[0]); }
+double month_length(const reading& n) { return lent(n).in().dagen; }
+std::string due(const reading& n) { return (lent(n) + 7 * static_cast<int>(n[2])).tekst(); }
 
 void check_board(const reading& n) {
-    double previous = -1;
-    bool listed = false;
-    for (std::size_t i = 3; i < n.exercise.words.size(); i += 3) {
-        const double time = number_of(n.exercise.words[i + 1]).value();
-        EXPECT_LT(previous, time);
-        previous = time;
-        listed |= n.exercise.words[i] == n.words[1] && time == n[0] * 60 + n[1];
-    }
-    EXPECT_TRUE(listed && n.exercise.words.size() == 15);
+    std::vector<double> times;
+    for (std::size_t i = 4; i < n.exercise.words.size(); i += 3) times.push_back(*number_of(n.exercise.words[i]));
+    EXPECT_TRUE(std::ranges::is_sorted(times) && times.size() == 4);
+    EXPECT_EQ(number_of(*(std::ranges::find(n.exercise.words, n.words[1]) + 1)), n[0] * 60 + n[1]);
 }
 
 formula offset(std::size_t city) {
@@ -77,12 +60,20 @@ formula there(int more) {
         return std::to_string((hour + 11) % 12 + 1) + ":00 uur " + part;
     };
 }
-void check_same_day(const reading& n) {
+void check_cities(const reading& n) {
     const std::set clear{1, 2, 3, 4, 7, 8, 9, 10, 11, 13, 14, 15, 16, 17, 19, 20, 21, 22, 23};
     EXPECT_TRUE(clear.contains(hour_here(n)) && clear.contains(hour_there(n)) && n.exercise.words.size() == 49);
+    const auto told =
+        find_pattern(n.exercise.explanation, "'t in @ # uur (later|vroeger) is dan in Londen. In @ is het # "
+                                             "uur (later|vroeger) dan in *. In @ is het dus * dan in @. In "
+                                             "@ is het * In @ is het dus");
+    const std::string &here = n.words[0], &far = n.words[1];
+    ASSERT_TRUE(told) << n.exercise.explanation;
+    EXPECT_EQ(told->words, (std::vector{here, far, far, here, here, far}));
+    EXPECT_TRUE(std::ranges::equal(told->numbers,
+                                   std::array{std::abs(n[2]), n[2] < 0 ? 1.0 : 0, std::abs(n[3]), n[3] < 0 ? 1.0 : 0}));
 }
 
-const std::vector<mistake> either_side{{"", lies::below}, {"", lies::above}};
 const formula units = by_variant({12, 7, 24, 60, 60});
 const formula counter = [](const reading& n) {
     std::string digits = n.exercise.words[1];
@@ -91,7 +82,7 @@ const formula counter = [](const reading& n) {
 };
 const formula grid = by_variant({300, 1300}), year = rounded(v[0] / grid) * grid, parts = by_variant({12, 52});
 const formula misread = by_variant({1200, 1300});
-const formula played = by_variant({1, 1, 2, 2}), over = v[0] - played * 60;
+const formula played = by_variant({1, 1, 2, 2}), over = v[0] - played * 60, finish = v[3] * 60 + v[4] + v[0];
 const formula waited = (v[3] - v[1]) * 60 + v[4] - v[2];
 const formula to_school = (v[2] - v[0]) * 60 + v[3] - v[1];
 const formula arrival = v[0] * 60 + v[1] + v[2] * 60 + v[3] * 15 + v[4];
@@ -105,18 +96,13 @@ const exercise_rows time_and_dates{
      .reads = "| # (jaren|weken|dagen|uren|minuten) = ... {maanden|dagen|uren|minuten|seconden}?",
      .ranges = {{{2, 9}, {0, 0}}, {{2, 9}, {1, 1}}, {{2, 9}, {2, 2}}, {{2, 9}, {3, 3}}, {{2, 9}, {4, 4}}},
      .right = v[0] * units,
-     .wrong = either_side,
+     .wrong = untold(
+         {v[0] * units - 6, v[0] * units - 4, v[0] * units - 2, v[0] * units + 2, v[0] * units + 4, v[0] * units + 6}),
      .explains = {{"Eén (jaar|week|dag|uur|minuut) bestaat uit # {maanden|dagen|uren|minuten|seconden}.",
                    {v[1], units}},
                   {"hebben # (jaren|weken|dagen|uren|minuten) # keer zo veel {maanden|dagen|uren|minuten|seconden}.",
                    {v[0], v[1], v[0]}}},
-     .ticks = {9, 9, 15, 9, 9},
-     .check =
-         [](const reading& n) {
-             const auto made = n.exercise.numbers();
-             for (const std::size_t i : {1U, 2U, 3U})
-                 EXPECT_EQ(std::abs(made[i] - made[0]), 2.0 * static_cast<double>(i));
-         }},
+     .ticks = {9, 9, 15, 9, 9}},
     {.id = B_datum_06_04_click,
      .variants = 2,
      .reads = "| #  @  #",
@@ -131,11 +117,10 @@ const exercise_rows time_and_dates{
      .variants = 3,
      .reads = "(Een meisje|Een jongen) neemt * voor {haar|hem} ingevuld is. Op welke datum moet {zij de boeken|hij ze} "
               "weer * UITGELEEND: | # @ | *uitleentermijn: | # weken",
-     .counts = {month_length},
-     .ranges = {{{0, 1}, {1, 17}, {2, 3}, {28, 31}},
-                {{0, 1}, {4, 28}, {2, 4}, {30, 30}},
-                {{0, 1}, {5, 29}, {2, 4}, {31, 31}}},
-     .words = {11},
+     .counts = {month_length, month},
+     .ranges = {{{0, 1}, {1, 17}, {2, 3}, {28, 31}, {1, 11}},
+                {{0, 1}, {4, 28}, {2, 4}, {30, 30}, {4, 11}},
+                {{0, 1}, {5, 29}, {2, 4}, {31, 31}, {1, 10}}},
      .right = due,
      .explains = {{"# weken hebben # dagen. * nog # - # = # dagen.", {v[2], v[2] * 7, v[3], v[1], v[3] - v[1]}},
                   {"dagen. (Zij moet|Hij moet|De volgende)",
@@ -161,8 +146,8 @@ const exercise_rows time_and_dates{
      .counts = {played, v[4] - by_variant({0, 5, 0, 5})},
      .ranges = {{{65, 174}, {0, 3}, {1, 31, 2}, {10, 20}, {0, 5}, {1, 2}, {0, 0}}},
      .words = {3, 24, 24, 7, 12},
-     .right = v[3] * 60 + v[4] + v[0],
-     .wrong = either_side,
+     .right = finish,
+     .wrong = untold({finish - 60, finish - 40, finish - 10, finish + 10, finish + 40, finish + 60}),
      .explains = {{"duurt # minuten. * zeggen: # uur en # minuten", {v[0], played, over}},
                   {"eerst # uur verder, dan kom je op #:# uur. *nog # ", {played, v[3] + played, v[4], over}}},
      .tips = {"(te beginnen hoeveel|Reken eerst uit hoeveel) uur", "Tel vervolgens dat aantal"}},
@@ -177,7 +162,7 @@ const exercise_rows time_and_dates{
                   {"naar #:# uur nog # uur en # minuten verder. # + #",
                    {v[3], v[4], v[3] - v[1] - 1, v[4], 60 - v[2], v[4]}}},
      .tips = {"(Kijk op het horloge|Hoe laat is het|Lees het horloge|Begin met de tijd)", "het vertrek bij op"},
-     .check = check_wait},
+     .check = [](const reading& n) { EXPECT_EQ(n[4] < n[2], n.variant() % 2 == 0) << "minutes that are borrowed"; }},
     {.id = M_naar_school_06_04_click,
      .variants = 4,
      .reads = "De wekker van @ loopt om #:# uur af. @ moet om #:# uur op school zijn.",
@@ -197,13 +182,12 @@ const exercise_rows time_and_dates{
      .variants = 4,
      .reads = "@ gaat om #:# uur per trein naar @. De treinreis zelf duurt # uur en # kwartier. De trein heeft echter "
               "onderweg # minuten vertraging.",
-     .ranges = {{{6, 17}, {0, 59, 2}, {1, 3}, {1, 1}, {3, 14}},
-                {{6, 17}, {0, 59, 2}, {1, 3}, {2, 2}, {3, 14}},
-                {{6, 17}, {0, 59, 2}, {1, 3}, {3, 3}, {3, 14}},
-                {{6, 17}, {0, 59, 2}, {1, 3}, {3, 3}, {17, 29}}},
+     .counts = {v[3] - by_variant({1, 2, 3, 3}), v[4] - by_variant({0, 0, 0, 14})},
+     .ranges = {{{6, 17}, {0, 59, 2}, {1, 3}, {1, 3}, {3, 29}, {0, 0}, {3, 15}}},
      .words = {20, 12},
      .right = arrival,
-     .wrong = either_side,
+     .wrong = untold({arrival - v[4], arrival - 2 * v[4], arrival - v[3] * 15, arrival - 60, arrival + v[3] * 10,
+                      arrival + v[4], arrival + 60}),
      .explains = {{"reistijd is # uur + # kwartier + # minuten.", {v[2], v[3], v[4]}},
                   {"Dat is dus # + # + # =", {v[2] * 60, v[3] * 15, v[4]}},
                   {"tel je op bij #:# uur", {v[0], v[1]}}},
@@ -228,7 +212,7 @@ const exercise_rows time_and_dates{
                {"deel van de dag", there(12)}},
      .explains = {{"is het dus # uur (later|vroeger) dan in", {hours_between, earlier}},
                   {"#:00 uur (+|-) # uur geeft #:00", {hour_here, earlier, hours_between, hour_there}}},
-     .check = check_same_day},
+     .check = check_cities},
 };
 
 } // namespace
