@@ -86,8 +86,8 @@ huursom woning(int prijs, const huurperiode& p) {
         som.uitleg[1] = "jaar en duurt dus drie maanden.";
     } else {
         som.vergissingen.push_back({p.maanden * 10 / 12 * prijs, {"Een jaar heeft meer dan tien maanden!"}});
-        som.uitleg[0] = "Een jaar heeft twaalf maanden,";
-        som.uitleg[1] = "dus een half jaar heeft er zes.";
+        som.uitleg[0] = "Een jaar heeft twaalf maanden";
+        som.uitleg[1] = "en een half jaar heeft er zes.";
     }
     som.uitleg[2] = regel("In ", p.naam, " zitten ", p.maanden_som, p.maanden, " maanden.");
     return som;
