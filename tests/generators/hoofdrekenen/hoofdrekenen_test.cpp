@@ -7,12 +7,17 @@ namespace {
 
 using enum oefening_id;
 
-// So many units above or below the right answer, and more wrong answers.
+// Nothing is told beside a wrong answer.
+std::vector<mistake> one_of(std::initializer_list<formula> values) {
+    std::vector<mistake> all;
+    for (const formula& each : values) all.push_back({"", each});
+    return all;
+}
+// So many units above or below the right one, or another.
 std::vector<mistake> off_by(std::initializer_list<double> steps, const formula& right, const formula& unit = 1,
                             std::initializer_list<formula> more = {}) {
-    std::vector<mistake> all;
+    std::vector<mistake> all = one_of(more);
     for (const double step : steps) all.push_back({"", right + unit * step});
-    for (const formula& each : more) all.push_back({"", each});
     return all;
 }
 
@@ -35,14 +40,9 @@ const formula second = [](const reading& n) { return n.variant() - 1; };
 const formula surplus = [](const reading& n) { return std::abs(n[0] - rounded(n[0] / 10) * 10); };
 
 const formula moved = [](const reading& n) { return n[1] == 0 ? n[0] / n[2] : n[0] * n[2]; };
-// Digits that differ from the right ones would give the right answer away, and so would the number itself.
+// The number itself would give the right answer away.
 void check_comma(const reading& n) {
-    for (const double each : n.exercise.numbers()) {
-        const double places = std::log10(each / decimal(n.exercise.right));
-        EXPECT_NEAR(places, std::round(places), 1e-6);
-        EXPECT_TRUE(!same(each, n[0]) && each < 1e6) << each;
-    }
-    EXPECT_TRUE(n[1] == 0 || n[0] < 10);
+    EXPECT_TRUE((n[1] == 0 || n[0] < 10) && std::ranges::count(n.exercise.numbers(), n[0]) == 0);
 }
 
 // What the first two, three or four numbers make.
@@ -101,29 +101,25 @@ const formula round_quotient = [](const reading& n) {
 };
 const formula too_many = round_quotient - quotient;
 
-const formula product = v[0] * v[1], minus = v[0] - v[1];
-const std::vector<mistake> near_products = off_by({-3, -2, -1, 1, 2, 3}, product, v[1]),
-                           either_side{{"", lies::below}, {"", lies::above}};
+const formula product = v[0] * v[1];
+const std::vector<mistake> near_products = off_by({-3, -2, -1, 1, 2, 3}, product, v[1]);
 const char* const quick_table = "Je hebt niet veel tijd! Maak de som hiernaast... | Hoeveel is # x # ?";
-const statement table_closes{"Het goede antwoord is dus: # x # = #.", {v[0], v[1], product}};
 
 const exercise_rows against_the_clock{
     quick(B_tafels_09_02_click, 10, {1, 2, 3, 6, 7}, {8}, quick_table,
           {{{2, 9}, {3, 4}}, {{2, 9}, {6, 7}}, {{2, 9}, {9, 9}}, {{2, 9}, {5, 5}}, {{2, 9}, {8, 8}}}, product,
-          near_products, {{"eerst te kijken hoe *veel 5 x # of 10 x # ", {v[1], v[1]}}, table_closes}, check_table),
+          near_products, {{"eerst te kijken hoe *veel 5 x # of 10 x # ", {v[1], v[1]}}}, check_table),
     quick(B_tafels_09_02_click, 10, {4, 5, 8, 10}, {8}, quick_table,
           {{{2, 9}, {12, 13}}, {{2, 9}, {15, 15}}, {{2, 9}, {14, 14}}, {{2, 9}, {11, 11}}}, product, near_products,
           {{"doe eerst # x 10 en *dan # x #. *Opgeteld: # + # = # ",
-            {v[0], v[0], v[1] - 10, v[0] * 10, v[0] * (v[1] - 10), product}},
-           table_closes},
+            {v[0], v[0], v[1] - 10, v[0] * 10, v[0] * (v[1] - 10), product}}},
           check_table),
     quick(B_tafels_09_02_click, 10, {9}, {8}, quick_table, {{{2, 9}, {25, 25}}}, product, near_products,
-          {{"4 x 25 gelijk is aan 100."}, table_closes}, check_table),
+          {{"4 x 25 gelijk is aan 100."}}, check_table),
     quick(
         L_keer_09_02_click, 2, {}, {20}, "Geef snel antwoord. Je hebt niet veel tijd! | Hoeveel is: # x #?",
         {{{18, 89}, {15, 95}}, {{21, 92}, {15, 95}}}, product,
-        off_by({}, 0, 0,
-               {to_ten * v[1], (to_ten - beside) * v[1], to_ten* v[1] + beside / surplus * 5, (v[0] + beside) * v[1]}),
+        one_of({to_ten * v[1], (to_ten - beside) * v[1], to_ten* v[1] + beside / surplus * 5, (v[0] + beside) * v[1]}),
         {{"als # (-|+) #. Dan *eerst # x # =  # en dan # x # = #. Die twee uitkomsten (trek je van elkaar "
           "af|moet je nog optellen). Antwoord: #.",
           {to_ten, second, surplus, to_ten, v[1], to_ten* v[1], surplus, v[1], surplus* v[1], second, product}}}),
@@ -132,13 +128,13 @@ const exercise_rows against_the_clock{
            {{0.11, 9990, 600}, {0, 1}, {100, 100}},
            {{0.11, 99900, 6000}, {0, 1}, {1000, 1000}},
            {{0.11, 999000, 60000}, {0, 1}, {10000, 10000}}},
-          moved, either_side,
+          moved, one_of({moved / 1000, moved / 100, moved / 10, moved * 10, moved * 100, moved * 1000, moved * 10000}),
           {{" (deelt|vermenigvuldigt), *# (stap|stappen) naar (links|rechts): #.",
             {v[1], second + 1, [](const reading& n) { return n.variant() > 1; }, v[1], moved}}},
           check_comma),
     quick(Z_komma_09_06_click, 4, {}, {20},
-          "Kijk hiernaast. Je hebt niet veel tijd! | Hoeveel is | # (-|+) # (-|+) # (-|+) #", {}, chain(4), either_side,
-          {}, check_pairs),
+          "Kijk hiernaast. Je hebt niet veel tijd! | Hoeveel is | # (-|+) # (-|+) # (-|+) #", {}, chain(4),
+          one_of({lies::below, lies::above}), {}, check_pairs),
     quick(L_aftrekken_09_01_click, 4, {1}, {15}, "Je hebt niet veel tijd! Kijk hiernaast... | Hoeveel is # - # - # ?",
           {{{311, 899, 30}, {21, 99, 3}, {111, 399, 9}}}, two_less, near_tens(two_less),
           {{"# - # = #. Daar trek je nog # van af. Uitkomst: #.", {v[0], v[2], hundreds, v[1], two_less}}}),
@@ -156,16 +152,12 @@ const exercise_rows against_the_clock{
             {v[1], near_hundred, v[0], near_hundred, v[0] - near_hundred, to_hundred, v[0] - near_hundred, to_hundred,
              v[0] - v[1]}}}),
     quick(L_delen_1_09_06_click, 2, {}, {15}, "Je hebt weinig tijd! Kijk hiernaast... | Bereken # : #",
-          {{{0.6, 17.1}, {0.2, 0.9}}, {{3.3, 22.5}, {1.1, 2.5}}}, quotient, near_quotient(quotient),
-          {{"Dan wordt het dus # : # = #.", {v[0] * 10, v[1] * 10, quotient}}},
+          {{{0.6, 17.1}, {0.2, 0.9}}, {{3.3, 22.5}, {1.1, 2.5}}}, quotient, near_quotient(quotient), {},
           [](const reading& n) { EXPECT_TRUE(n[0] != std::floor(n[0]) && n[1] != std::floor(n[1])); }),
     quick(M_delen_2_09_06_click, 4, {1}, {15}, "Je hebt niet veel tijd! Kijk hiernaast. | Hoeveel is # : # ?",
-          {{{1010, 9810, 900}, {3, 9}}}, quotient, off_by({-100, -10, -1, 1, 10, 100}, quotient),
-          {{"eerst # : # = # en daarna nog # : # = #. Samen is dat #.",
-            {v[0] - rest, v[1], (v[0] - rest) / v[1], rest, v[1], rest / v[1], quotient}}}),
+          {{{1010, 9810, 900}, {3, 9}}}, quotient, off_by({-100, -10, -1, 1, 10, 100}, quotient), {}),
     quick(M_delen_2_09_06_click, 4, {2}, {15}, "| Hoeveel is # : # ?", {{{2, 90}, {0.5, 4.5}}}, quotient,
-          near_quotient(quotient),
-          {{"met 10 vermenigvuldigen. *wordt het dus # : # = #.", {v[0] * 10, v[1] * 10, quotient}}}),
+          near_quotient(quotient), {}),
     quick(M_delen_2_09_06_click, 4, {3}, {15}, "| Hoeveel is # : # ?", {{{1100, 9810, 500}, {30, 90}}}, quotient,
           off_by({-10, -2, -1, 1, 10}, quotient, 1, {quotient * 10}),
           {{"eerst # : # = # en daarna nog # : # = #. Samen is dat #.*je niet door # delen, maar door #. *# : 10 = #.",
