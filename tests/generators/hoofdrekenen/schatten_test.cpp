@@ -107,6 +107,7 @@ double drawn(const reading& n) {
     const box_op &first = laid.at(before.size()), &last = laid.back();
     const line_op end = last_of<line_op>(n);
     EXPECT_EQ(before.back().width, 567);
+    EXPECT_NEAR(before.back().y, n.exercise.texts.back().y + 100, 60) << "beside its words";
     EXPECT_EQ(last.x + last.width, end.to.x) << "where the measure ends";
     EXPECT_NEAR(first.x + end.to.x, drawing::inner_width, 1) << "in the middle";
     return (last.x + last.width - first.x) / 567.0;
