@@ -37,7 +37,7 @@ void oefeningen::B_cirkel_1_00_13_click() {
     const int plaats = gelegd < 0.4F ? 1 : gelegd < 0.41F ? 2 : gelegd < 0.7F ? 3 : 4;
     const kommagetal straal{r}, omtrek = cirkelomtrek(straal), oppervlakte = cirkeloppervlakte(straal);
 
-    bord(donkerblauw, geel, 11);
+    bord(donkerblauw, geel, 10);
     teken_cirkel(plaatje, regel("r =", r, " cm"));
 
     vraag("Een cirkel heeft een straal", regel("van", r, " cm."), leeg,

@@ -75,10 +75,11 @@ void oefeningen::Z_dichtheid_00_17_click() {
     fout(per_cm3(deel_afgerond(100LL * inhoud, massa)), "Je hebt wel een deling gedaan, maar daarbij ",
          "de teller en noemer verwisseld.");
 
+    const bool precies = 100 * massa % inhoud == 0;
     uitleg(regel("De inhoud van het voorwerp is", lengte, " x", breedte, " x", hoogte, " =", inhoud, " cm³."),
            "De dichtheid is het gewicht gedeeld door de inhoud:",
-           regel(kaal(duizend(massa)), " :", inhoud, " = afgerond", komma(dichtheid, 2), "."),
-           regel("De dichtheid is dus ongeveer ", juiste_antwoord(), "."));
+           regel(kaal(duizend(massa)), " :", inhoud, precies ? " =" : " = afgerond", komma(dichtheid, 2), "."),
+           regel("De dichtheid is dus ", precies ? "" : "ongeveer ", juiste_antwoord(), "."));
 }
 
 void oefeningen::Z_volumeprocent_00_17_click() {

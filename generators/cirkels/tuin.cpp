@@ -8,9 +8,10 @@ namespace cijferwerf {
 void oefeningen::M_skelterbaan_00_13_click() {
     kies_variant(2);
     zaai();
-    const int recht = trek(20) + 20;
-    // The radius is a whole number of metres, or half a metre more.
-    const int breedte = trek(10) * 2 + 19 + variant;
+    // The radius is a whole number of metres, or half a metre more. The straight part is clearly longer than the track
+    // is wide, as the picture shows it.
+    const int breedte = trek(7) * 2 + 19 + variant;
+    const int recht = trek_van(breedte + 6, 39);
     const kommagetal straal{5LL * breedte, 1}, cirkel = cirkeloppervlakte(straal), rechthoek{recht * breedte};
     const kommagetal gras = cirkel + rechthoek;
     const auto m2 = [](kommagetal k) { return regel(komma(k, 2), " m²"); };
@@ -18,7 +19,7 @@ void oefeningen::M_skelterbaan_00_13_click() {
     plaatje.picture("skelterbaan.bmp");
     bord(wit, donkerblauw, 12);
     druk_midden(2250, 80, kaal(recht), " m");
-    druk_midden(4800, 1250 - halve_regel(12), kaal(breedte), " m");
+    druk_midden(4520, 1250 - halve_regel(12), kaal(breedte), " m");
 
     vraag("Hiernaast zie je het bovenaanzicht", "van een skelterbaan. De afmetingen", "zijn ook aangegeven.",
           "Binnen de skelterbaan bevindt zich gras.", "Hoeveel m² gras is er ongeveer?");
@@ -33,9 +34,9 @@ void oefeningen::M_skelterbaan_00_13_click() {
 
     uitleg(
         regel("Samen zijn de halve cirkels één cirkel. De straal is", breedte, " : 2 =", komma_kort(straal), " m."),
-        regel("De oppervlakte van die cirkel is 3,14 x", komma_kort(straal), " x", komma_kort(straal), " ="),
-        regel(kaal(komma_kort(cirkel)), " m². De oppervlakte van de rechthoek is", recht, " x", breedte, " =",
-              duizend(rechthoek.geschaald), " m²."),
+        regel("De oppervlakte van die cirkel is 3,14 x", komma_kort(straal), " x", komma_kort(straal), " =",
+              komma_kort(cirkel), " m²."),
+        regel("De oppervlakte van de rechthoek is", recht, " x", breedte, " =", duizend(rechthoek.geschaald), " m²."),
         regel("Samen is dat", komma_kort(cirkel), " +", duizend(rechthoek.geschaald), " =", komma_kort(gras), " m²."),
         regel("Er is dus ongeveer ", juiste_antwoord(), " gras."));
 }

@@ -46,17 +46,17 @@ void oefeningen::M_bacterie_00_11_click() {
     const auto duur = [this](int tijd) { return regel(tijd, variant == 1 ? " minuten" : " uur"); };
     const auto bacterien = [](int keer) { return duizend(macht{2, keer}.waarde()); };
 
-    bord(wit, donkerblauw, 14);
-    teken_bacterie(plaatje, {620, 950});
-    druk_midden(620, 1600, "1 bacterie");
-    druk_midden(1640, 570, kaal(duur(periode)));
-    teken_pijl(plaatje, {1200, 950}, {2080, 950}, geel);
-    teken_bacterie(plaatje, {2680, 650});
-    teken_bacterie(plaatje, {2680, 1250});
-    druk_midden(2680, 1600, "2 bacteriën");
-    druk_midden(3720, 570, kaal(duur(periode)));
-    teken_pijl(plaatje, {3280, 950}, {4160, 950}, geel);
-    druk_midden(4700, 740, "...");
+    bord(wit, donkerblauw, 12);
+    teken_bacterie(plaatje, {700, 950});
+    druk_midden(700, 1600, "1 bacterie");
+    druk_midden(1700, 620, kaal(duur(periode)));
+    teken_pijl(plaatje, {1200, 950}, {2200, 950}, geel);
+    teken_bacterie(plaatje, {2700, 650});
+    teken_bacterie(plaatje, {2700, 1250});
+    druk_midden(2700, 1600, "2 bacteriën");
+    druk_midden(3700, 620, kaal(duur(periode)));
+    teken_pijl(plaatje, {3200, 950}, {4200, 950}, geel);
+    druk_midden(4700, 790, "...");
 
     vraag("Een bepaald soort bacterie plant zich", regel("voort door zich elke", periode, " ", eenheid), "te delen. ",
           "Stel, er is eerst één bacterie.", regel("Na hoeveel ", eenheid, " zijn er dan"),
@@ -113,6 +113,7 @@ void oefeningen::Z_spaargeld_00_11_click() {
     vraag(regel("Op een dag zet je ", bedrag, " op de bank."), regel("De rente is", r.p, "% per jaar. "),
           "Hoe groot is dit bedrag (ongeveer)", regel("geworden na", r.t, " jaar?"), leeg,
           "Kijk hiernaast voor de tip...");
+    met_rekenmachine();
 
     goed(juist);
     fout(in_euros(r.gelijke_rente()), "Ben je er soms van uit gegaan dat er", "elk jaar even veel euro's bijkomen?");

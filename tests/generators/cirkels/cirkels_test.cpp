@@ -119,7 +119,7 @@ const exercise_rows circles{
     {.id = M_skelterbaan_00_13_click,
      .variants = 2,
      .reads = "Hoeveel m² gras is er ongeveer? | # m | # m",
-     .ranges = {{{20, 39}, {20, 38}}, {{20, 39}, {21, 39}}},
+     .ranges = {{{26, 39}, {20, 32}}, {{27, 39}, {21, 33}}},
      .right = rounded(ends + v[0] * v[1], 2),
      .wrong = {{"de diameter voor de straal", ends * 4 + v[0] * v[1]},
                {"de rechthoek vergeten", rounded(ends, 2)},

@@ -246,6 +246,7 @@ const exercise_rows powers{
      .explains = {{"wordt het bedrag # keer zo groot. *dus uiteindelijk # tot de macht # keer", {v[3], v[3], v[2]}},
                   {"afgerond op hele euro's: #, #, #*, #. Het bedrag is dus ongeveer € #,- geworden.",
                    {after(1), after(2), after(3), after(v[2]), after(v[2])}}},
+     .calculator = true,
      .check = check_savings},
 };
 
