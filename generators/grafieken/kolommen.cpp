@@ -19,16 +19,29 @@ void oefeningen::L_inkomen_04_18_click() {
     zaai();
     const bool stijging = variant == 1;
     const int juist = trek_van(1, 4);
-    // One family goes up, or down, against three; the columns are multiples of 5.000.
-    std::array<gezin, 4> gezinnen{};
-    for (int i = 1; i <= 4; ++i) {
-        // Who only looks for the highest green column, or the lowest, is mostly wrong.
-        const int minste = i == juist && !stijging ? 45'000 : 30'000, meeste = i == juist && stijging ? 45'000 : 60'000;
-        const int vorig_jaar = trek_van(minste, meeste, 5000);
-        const int verschil = vorig_jaar % 10'000 == 0 ? 10'000 : kop() ? 5000 : 15'000;
-        const bool omhoog = (i == juist) == stijging;
-        rij(gezinnen, i) = {vorig_jaar, (vorig_jaar + (omhoog ? verschil : -verschil)) / 2};
-    }
+    // One family goes up, or down, against three; the columns are multiples of 5.000. Mostly neither its green column
+    // alone nor its red one gives it away: another's green is higher, or lower, and so is another's red.
+    const bool valt_op = trek(5) < 2;
+    const auto gezinnen = trek_tot(
+        [&] {
+            std::array<gezin, 4> drawn{};
+            for (int i = 1; i <= 4; ++i) {
+                const int vorig_jaar = trek_van(20'000, 60'000, 5000);
+                const int verschil = vorig_jaar % 10'000 == 0 ? 10'000 : kop() ? 5000 : 15'000;
+                const bool omhoog = (i == juist) == stijging;
+                rij(drawn, i) = {vorig_jaar, (vorig_jaar + (omhoog ? verschil : -verschil)) / 2};
+            }
+            return drawn;
+        },
+        [&](const auto& drawn) {
+            const gezin& dit = rij(drawn, juist);
+            const auto uiterst = [&](int gezin::*kolom, bool hoogste) {
+                return std::ranges::none_of(drawn, [&](const gezin& ander) {
+                    return hoogste ? ander.*kolom > dit.*kolom : ander.*kolom < dit.*kolom;
+                });
+            };
+            return (uiterst(&gezin::half_jaar, stijging) || uiterst(&gezin::vorig_jaar, !stijging)) == valt_op;
+        });
 
     bord(wit, zwart, 8);
     // Along the axis below, values are places in the picture.

@@ -54,8 +54,7 @@ void oefeningen::B_vakantie_02_16_click() {
     if (geheel == 8) misgelezen[0] = kop() ? 10 * deel + 8 : 80 + deel;
     goed(procent(juist));
     fout(procent(andere_landen), "Dat percentage gaat juist niet naar", "dat land.");
-    fout(procent(misgelezen[0]), "Lees de vraag nog eens!");
-    fout(procent(misgelezen[1]), "Lees de vraag nog eens!");
+    for (const int tienden : {misgelezen[0], misgelezen[1]}) fout(procent(tienden), "Lees de vraag nog eens!");
 
     uitleg(regel(groep, " inwoners is 't zelfde als", deel, " :", geheel, "."),
            regel("Dit is een verhouding van", komma_kort(juist, 1), " : 100."),

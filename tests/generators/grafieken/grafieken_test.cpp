@@ -150,6 +150,16 @@ void check_incomes(const reading& n) {
     }
 }
 
+formula higher_than_asked(std::size_t which) {
+    return [which](const reading& n) {
+        const std::vector<box_op> columns = bars(n.exercise);
+        const auto asked = 2 * static_cast<std::size_t>(n.exercise.right_place() - 1) + which;
+        int higher = 0;
+        for (std::size_t i = which; i < columns.size(); i += 2) higher += columns[i].height > columns.at(asked).height;
+        return higher;
+    };
+}
+
 const formula rain_step = [](const reading& n) {
     return std::array{5, 10, 10, 20, 25}.at(static_cast<std::size_t>(n.variant() - 1));
 };
@@ -312,7 +322,9 @@ const exercise_rows graphs{
     {.id = L_inkomen_04_18_click,
      .variants = 2,
      .reads = "Welk gezin kan een (inkomensstijging|inkomensdaling) ver- wachten",
-     .ranges = {{{0, 0}}, {{1, 1}}},
+     // How many have a green column that is higher, and a red one.
+     .counts = {higher_than_asked(1), higher_than_asked(0)},
+     .ranges = {{{0, 0}, {0, 3}, {0, 3}}, {{1, 1}, {0, 3}, {0, 3}}},
      .explains = {{"er op (vooruit|achteruit)", {v[0]}}},
      .tips = {"(Maak in gedachten|twee keer een half jaar)", "(boven rood uit|lager dan rood)"},
      .check = check_incomes},

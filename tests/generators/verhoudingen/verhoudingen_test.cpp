@@ -245,7 +245,7 @@ const exercise_rows ratios{
                {"bovendien ook zomaar meters", says("# m", v[1] / v[0])}},
      .explains = {{"in werkelijkheid # cm. Het fietspad is # cm lang", {v[1], v[0]}},
                   {"van # x # = # cm, ofwel # m.", {v[0], v[1], v[0] * v[1], v[0] * v[1] / 100}}},
-     .check = lies_in(3500, 1650, 5250, 2050)},
+     .check = lies_in(3650, 1650, 5100, 2050)},
     {.id = L_museum_02_16_click,
      .variants = 5,
      .reads = "gemiddeld # mensen. Eén op de (drie|vier|vijf|zes|zeven|acht|negen|tien|elf|twaalf|dertien|veertien|"
@@ -276,7 +276,7 @@ const exercise_rows ratios{
                {"vergeten van meters", says("1 : #", v[0] * 1000 / v[1])}},
      .explains = {{"van # kilometer eerst centimeters. Dat is # cm", {v[0], v[0] * 100000}},
                   {"dat # cm in werkelijkheid een afstand van # cm is.", {v[1], v[0] * 100000}}},
-     .check = lies_in(3500, 1650, 5250, 2050)},
+     .check = lies_in(4050, 1650, 4700, 2050)},
     {.id = M_tandwielen_02_16_click,
      .variants = 2,
      .reads = "linker tandwiel heeft # tanden, het rechter tandwiel heeft er #. Het (linker|rechter) tandwiel draait # "
