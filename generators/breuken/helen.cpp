@@ -157,8 +157,8 @@ void oefeningen::M_aanvullen_1_03_14_click() {
            regel("Op de stippeltjes moet dus het getal ", kortste(af), " staan."));
     const std::string met_breuken =
         regel(streepbreuk(som), " - ", streepbreuk(af), " = ", streepbreuk(over.maal(fijner / over.noemer)));
-    // The dots go in the colour of the ground, and their soft edges under a box.
-    opdrachten("PRINT_2450_450_1_20_..", vak_opdracht(2430, 520, 240, 310, donkerblauw),
+    // The dots go in the colour of the ground, and under a box on which red stands out.
+    opdrachten("PRINT_2450_450_1_20_..", vak_opdracht(2180, 520, 740, 310, zwart),
                druk_midden_opdracht(gat, 550, rood, 12, juiste_antwoord()),
                druk_midden_opdracht(gat, 1300, wit, 12, met_breuken));
 }

@@ -32,17 +32,24 @@ void oefeningen::L_prijzen_03_03_click() {
         // Much is left, so that mistakes can be less than that.
         bool geschikt() const { return eerste > tweede && over() > breuk{4, 9} && samen().noemer <= 40; }
     };
+    // All that fit, by the denominator of the first prize, which is drawn first: else most would be elevenths.
+    static const auto alle = [](bool gelijknamig) {
+        std::array<std::vector<verdeling>, 13> per_noemer;
+        const std::vector<breuk> breuken = breuken_onder_1(12);
+        for (const breuk eerste : breuken)
+            for (const breuk tweede : breuken)
+                if (const verdeling v{eerste, tweede}; (eerste.noemer == tweede.noemer) == gelijknamig && v.geschikt())
+                    rij(per_noemer, eerste.noemer).push_back(v);
+        std::vector<std::vector<verdeling>> gevuld;
+        std::ranges::copy_if(per_noemer, std::back_inserter(gevuld), [](const auto& v) { return !v.empty(); });
+        return gevuld;
+    };
+    static const std::array verdelingen{alle(true), alle(false)};
     kies_variant(2);
     zaai();
     const bool gelijknamig = variant == 1;
     const std::string_view stad = kies(steden);
-    const verdeling prijzen = trek_tot(
-        [&] {
-            const breuk eerste = trek_breuk(toeval, 3, 12);
-            return verdeling{eerste, gelijknamig ? trek_breuk(toeval, eerste.noemer, eerste.noemer)
-                                                 : trek_breuk(toeval, 3, 12)};
-        },
-        [&](const verdeling& v) { return v.geschikt() && (v.eerste.noemer == v.tweede.noemer) == gelijknamig; });
+    const verdeling& prijzen = kies(kies(rij(verdelingen, variant)));
     const auto& [eerste, tweede] = prijzen;
     const breuk samen = prijzen.samen();
     // So that either prize is a whole number of thousands.
@@ -101,16 +108,20 @@ void oefeningen::L_optellen_03_14_click() {
     // The second kind has larger denominators, but none that is hard to count with.
     static constexpr std::array<int, 5> ronde_noemers{12, 18, 20, 24, 30};
     static const std::array sommen{
-        alle_sommen(15, 0, [](const breuksom& s) { return past(s) && s.noemers_passen(); }),
-        alle_sommen(24, 0,
+        alle_sommen(15, [](const breuksom& s) { return past(s) && s.noemers_passen(); }),
+        alle_sommen(24,
                     [](const breuksom& s) {
                         return past(s) && std::ranges::find(ronde_noemers, s.gelijke_noemer()) != ronde_noemers.end();
                     }),
-        alle_sommen(10, 4, [](const breuksom& s) { return past(s) && s.gelijke_noemer() <= 60; }),
+        alle_sommen(10, [](const breuksom& s) { return past(s) && s.gelijke_noemer() <= 60; }),
     };
     kies_variant(3);
     zaai();
-    const breuksom s = kies(rij(sommen, variant));
+    breuksom s = kies(rij(sommen, variant));
+    if (variant == 3) {
+        s.helen_links = trek_van(1, 4);
+        s.helen_rechts = trek_van(1, 4);
+    }
     const int noemer = s.gelijke_noemer();
     const int helen = s.helen_links + s.helen_rechts;
     const breuk samen = s.links + s.rechts;
@@ -150,16 +161,17 @@ void oefeningen::M_aftrekken_03_14_click() {
         const breuk over = s.links - s.rechts;
         const int zonder_aanpassen = s.links.teller - s.rechts.teller;
         return s.links.noemer != s.rechts.noemer && s.gelijke_noemer() <= 60 && over.teller > 0 &&
-               over.vereenvoudigbaar() && s.helen_links > s.helen_rechts && zonder_aanpassen > 0 &&
-               zonder_aanpassen != over.teller;
+               over.vereenvoudigbaar() && zonder_aanpassen > 0 && zonder_aanpassen != over.teller;
     };
     static const std::array sommen{
-        alle_sommen(15, 6, [](const breuksom& s) { return past(s) && s.noemers_passen(); }),
-        alle_sommen(15, 6, [](const breuksom& s) { return past(s) && !s.noemers_passen(); }),
+        alle_sommen(15, [](const breuksom& s) { return past(s) && s.noemers_passen(); }),
+        alle_sommen(15, [](const breuksom& s) { return past(s) && !s.noemers_passen(); }),
     };
     kies_variant(2);
     zaai();
-    const breuksom s = kies(rij(sommen, variant));
+    breuksom s = kies(rij(sommen, variant));
+    s.helen_links = trek_van(2, 6);
+    s.helen_rechts = trek_van(1, s.helen_links - 1);
     const int noemer = s.gelijke_noemer();
     const int helen = s.helen_links - s.helen_rechts;
     const breuk over = s.links - s.rechts;

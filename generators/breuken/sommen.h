@@ -1,5 +1,5 @@
-// A sum of two mixed numbers: all those of a kind, and how one is drawn on the board. Which kind an exercise wants, and
-// what is asked about it, is the exercise's.
+// A sum of two mixed numbers: all pairs of fractions of a kind, and how a sum is drawn on the board. Which kind an
+// exercise wants, what wholes it puts before them and what is asked is the exercise's.
 #pragma once
 
 #include "generators/breuken/breuken.h"
@@ -19,17 +19,14 @@ struct breuksom {
     bool noemers_passen() const { return gelijke_noemer() == std::max(links.noemer, rechts.noemer); }
 };
 
-// All sums that fit, with wholes up to so many (from 1 on, or none at all).
+// All sums that fit, without wholes.
 template<class Fits>
-std::vector<breuksom> alle_sommen(int grootste_noemer, int meeste_helen, Fits past) {
+std::vector<breuksom> alle_sommen(int grootste_noemer, Fits past) {
     std::vector<breuksom> all;
     const std::vector<breuk> breuken = breuken_onder_1(grootste_noemer);
-    const int minste = std::min(meeste_helen, 1);
     for (const breuk links : breuken)
         for (const breuk rechts : breuken)
-            for (int a = minste; a <= meeste_helen; ++a)
-                for (int b = minste; b <= meeste_helen; ++b)
-                    if (const breuksom s{links, rechts, a, b}; past(s)) all.push_back(s);
+            if (const breuksom s{links, rechts}; past(s)) all.push_back(s);
     return all;
 }
 

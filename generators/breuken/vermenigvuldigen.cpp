@@ -19,12 +19,16 @@ struct kruis {
 constexpr std::string_view maak_streepbreuken = "Maak er eerst twee echte streepbreuken van.";
 constexpr std::string_view hoe_vaak = "Hoe vaak past de noemer in de teller?";
 
-using vergissingen = std::vector<keuze<breuk>>;
+struct vergissing {
+    breuk waarde;
+    std::string_view regel_1, regel_2;
+};
+using vergissingen = std::vector<vergissing>;
 
 // Those in which a child may believe: mixed numbers of a likely size.
 vergissingen geloofwaardig(breuk uitkomst, vergissingen alle) {
-    std::erase_if(alle, [uitkomst](const keuze<breuk>& k) {
-        const breuk waarde = k.waarde.vereenvoudigd();
+    std::erase_if(alle, [uitkomst](const vergissing& v) {
+        const breuk waarde = v.waarde.vereenvoudigd();
         return waarde.geheel() < 1 || waarde.rest().teller == 0 || waarde.noemer > 40 ||
                waarde > uitkomst * breuk{4, 1};
     });
@@ -35,10 +39,10 @@ vergissingen geloofwaardig(breuk uitkomst, vergissingen alle) {
 vergissingen bij_vermenigvuldigen(breuk a, breuk b) {
     const breuk uitkomst = a * b;
     const kruis k(a, b);
-    const std::string_view alleen_een_noemer = "Bij het vereenvoudigen heb je alleen een noemer gedeeld.";
-    const std::string_view de_teller_ook = "De teller moet je door hetzelfde getal delen.";
-    const std::string_view alleen_een_teller = "Bij het vereenvoudigen heb je alleen een teller gedeeld.";
-    const std::string_view de_noemer_ook = "De noemer moet je door hetzelfde getal delen.";
+    constexpr std::string_view alleen_een_noemer = "Bij het vereenvoudigen heb je alleen een noemer gedeeld.";
+    constexpr std::string_view de_teller_ook = "De teller moet je door hetzelfde getal delen.";
+    constexpr std::string_view alleen_een_teller = "Bij het vereenvoudigen heb je alleen een teller gedeeld.";
+    constexpr std::string_view de_noemer_ook = "De noemer moet je door hetzelfde getal delen.";
     return {{{a.teller * b.teller, a.noemer},
              "Je hebt de tellers vermenigvuldigd, maar van de",
              "noemers heb je alleen de eerste opgeschreven."},
@@ -76,16 +80,39 @@ vergissingen bij_delen(const breuksom& s) {
     return geloofwaardig(a / b, std::move(alle));
 }
 
-// An outcome to work out by head, with at least so many different slips below and above it.
-bool past(breuk uitkomst, const vergissingen& slips, std::size_t minste_lager, std::size_t minste_hoger) {
+// Two numbers that go with an outcome to work out by head.
+bool past(breuk a, breuk b, breuk uitkomst) {
     const breuk kort = uitkomst.vereenvoudigd();
-    if (kort.geheel() == 0 || kort.rest().teller == 0 || kort.teller > 99 || kort.noemer > 30) return false;
+    return a.teller <= 40 && b.teller <= 40 && kort.geheel() > 0 && kort.rest().teller > 0 && kort.teller <= 99 &&
+           kort.noemer <= 30;
+}
+
+// At least so many different slips below and above it.
+bool genoeg(breuk uitkomst, const vergissingen& slips, std::size_t minste_lager, std::size_t minste_hoger) {
     std::vector<breuk> lager, hoger;
-    for (const keuze<breuk>& k : slips) {
-        auto& kant = k.waarde < uitkomst ? lager : hoger;
-        if (k.waarde != uitkomst && std::ranges::find(kant, k.waarde) == kant.end()) kant.push_back(k.waarde);
+    for (const auto& [waarde, regel_1, regel_2] : slips) {
+        auto& kant = waarde < uitkomst ? lager : hoger;
+        if (waarde != uitkomst && std::ranges::find(kant, waarde) == kant.end()) kant.push_back(waarde);
     }
     return lager.size() >= minste_lager && hoger.size() >= minste_hoger;
+}
+
+// All sums with wholes from 1 to so many, by their kind: the number that `soort` tells, or 0 for none.
+template<std::size_t N, class Soort>
+std::array<std::vector<breuksom>, N> sommen_per_soort(int grootste_noemer, int meeste_helen, Soort soort) {
+    std::array<std::vector<breuksom>, N> all;
+    for (breuksom s : alle_sommen(grootste_noemer, [](const breuksom&) { return true; }))
+        for (s.helen_links = 1; s.helen_links <= meeste_helen; ++s.helen_links)
+            for (s.helen_rechts = 1; s.helen_rechts <= meeste_helen; ++s.helen_rechts)
+                if (const std::size_t which = soort(s); which > 0) all.at(which - 1).push_back(s);
+    return all;
+}
+
+std::vector<keuze<breuk>> keuzes(const vergissingen& alle) {
+    std::vector<keuze<breuk>> all;
+    all.reserve(alle.size());
+    for (const auto& [waarde, regel_1, regel_2] : alle) all.push_back({waarde, {regel_1, regel_2}});
+    return all;
 }
 
 constexpr point keuzeplaats{3050, 90};
@@ -123,14 +150,12 @@ int links_van(int midden, int getal) { return midden - text_width(kaal(getal), 8
 
 void oefeningen::Z_delen_03_14_click() {
     // One pair cancels: the two numerators, or the two denominators.
-    static const auto met_kruis = [](bool eerste, bool tweede) {
-        return alle_sommen(8, 5, [=](const breuksom& s) {
-            const kruis k(s.eerste(), s.tweede().omgekeerd());
-            return (k.eerste > 1) == eerste && (k.tweede > 1) == tweede && s.eerste().teller <= 40 &&
-                   s.tweede().teller <= 40 && past(s.eerste() / s.tweede(), bij_delen(s), 3, 2);
-        });
-    };
-    static const std::array sommen{met_kruis(true, false), met_kruis(false, true)};
+    static const auto sommen = sommen_per_soort<2>(8, 5, [](const breuksom& s) -> std::size_t {
+        const breuk a = s.eerste(), b = s.tweede();
+        const kruis k(a, b.omgekeerd());
+        if ((k.eerste > 1) == (k.tweede > 1) || !past(a, b, a / b) || !genoeg(a / b, bij_delen(s), 3, 2)) return 0;
+        return k.eerste > 1 ? 1 : 2;
+    });
     kies_variant(4);
     zaai();
     const breuksom s = kies(rij(sommen, (variant - 1) % 2 + 1));
@@ -141,7 +166,7 @@ void oefeningen::Z_delen_03_14_click() {
 
     bord(donkerblauw, wit, 16);
     teken_som(plaatje, 250, 500, s, ":", "...");
-    kleurkeuze(keuzeplaats, keuzehoogte, keuzekleuren, vier_opties(quotient, kortste, bij_delen(s)));
+    kleurkeuze(keuzeplaats, keuzehoogte, keuzekleuren, vier_opties(quotient, kortste, keuzes(bij_delen(s))));
 
     vraag("Kijk hiernaast...", "Twee breuken worden gedeeld.", "Slechts één van de", "gegeven uitkomsten is goed.",
           "Welke is dat?", "Kies de juiste kleur.");
@@ -177,14 +202,12 @@ void oefeningen::Z_delen_03_14_click() {
 
 void oefeningen::Z_vermenigvuldigen_03_14_click() {
     // A numerator cancels against the other denominator: the left one, the right one, or both.
-    static const auto met_kruis = [](bool eerste, bool tweede) {
-        return alle_sommen(10, 4, [=](const breuksom& s) {
-            const kruis k(s.eerste(), s.tweede());
-            return (k.eerste > 1) == eerste && (k.tweede > 1) == tweede && s.eerste().teller <= 40 &&
-                   s.tweede().teller <= 40 && past(s.eerste() * s.tweede(), bij_maal(s), 2, 3);
-        });
-    };
-    static const std::array sommen{met_kruis(true, false), met_kruis(false, true), met_kruis(true, true)};
+    static const auto sommen = sommen_per_soort<3>(10, 4, [](const breuksom& s) -> std::size_t {
+        const breuk a = s.eerste(), b = s.tweede();
+        const kruis k(a, b);
+        if ((k.eerste == 1 && k.tweede == 1) || !past(a, b, a * b) || !genoeg(a * b, bij_maal(s), 2, 3)) return 0;
+        return k.tweede == 1 ? 1 : k.eerste == 1 ? 2 : 3;
+    });
     kies_variant(3);
     zaai();
     const breuksom s = kies(rij(sommen, variant));
@@ -194,7 +217,7 @@ void oefeningen::Z_vermenigvuldigen_03_14_click() {
 
     bord(donkerblauw, wit, 16);
     teken_som(plaatje, 250, 500, s, "x", "...");
-    kleurkeuze(keuzeplaats, keuzehoogte, keuzekleuren, vier_opties(product, kortste, bij_maal(s)));
+    kleurkeuze(keuzeplaats, keuzehoogte, keuzekleuren, vier_opties(product, kortste, keuzes(bij_maal(s))));
 
     vraag("Kijk hiernaast...", "Twee breuken worden vermenigvuldigd.", "Slechts één van de",
           "gegeven uitkomsten is goed.", "Welke is dat?", "Kies de juiste kleur.");

@@ -162,7 +162,7 @@ void oefeningen::L_bevolking_01_08_click() {
         plaatje.filled_box(x, y + 50, 160, 140, kleuren[s]);
         plaatje.box(x, y + 50, 160, 140, zwart);
         druk(x + 250, y, groepen[s]);
-        druk_rechts(x + 1950, y, procenten[s]);
+        druk_rechts(x + 2020, y, procenten[s]);
     }
 
     vraag("In een atlas staat weergegeven", "hoe de samenstelling is van de", regel("bevolking van", plaats.soort, "."),
