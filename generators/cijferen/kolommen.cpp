@@ -101,7 +101,7 @@ void oefeningen::M_maal_12_02_click() {
     const int a = 10 * (variant == 1 ? trek_van(1, 9) : trek_van(10, 99 / onder_tiental - 1)) + eenheid;
     const int b = 10 * onder_tiental + onder_eenheid;
     const int eerste = a * onder_eenheid, tweede = a * onder_tiental, juist = a * b;
-    const int onthouden = eenheid * onder_eenheid / 10;
+    const int onthouden = eenheid * onder_eenheid / 10, tweede_onthouden = eenheid * onder_tiental / 10;
 
     // Digits are 240 apart, those of the units at 2300.
     constexpr int rechts = 2420, achter = 2620;
@@ -113,10 +113,16 @@ void oefeningen::M_maal_12_02_click() {
 
     vraag("Bereken de uitkomst.");
 
-    // What is remembered forgotten, the second line without its zero, or a carry too many or too few.
-    drie_andere(
-        juist, duizend,
-        {{juist - 10 * onthouden}, {eerste + tweede}, {juist - 100}, {juist + 100}, {juist + 10}, {juist + 200}});
+    // What is remembered forgotten on the first line or on the second, or added before the tens are multiplied; the
+    // zero behind the first line instead of the second; an addition that is one off.
+    drie_andere(juist, duizend,
+                {{juist - 10 * onthouden},
+                 {juist - 100 * tweede_onthouden},
+                 {juist + 10 * onthouden * (onder_eenheid - 1)},
+                 {10 * eerste + tweede},
+                 {juist - 100},
+                 {juist + 10},
+                 {juist + 100}});
     tip_1("Je moet vermenigvuldigen.");
     tip_2("Als je gaat vermenigvuldigen, begin dan", "met de eenheden.");
 

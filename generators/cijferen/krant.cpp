@@ -155,6 +155,7 @@ void oefeningen::Z_sponsorloop_12_07() {
                                                  {1, 24},
                                                  {1, 27},
                                                  {1, 30},
+                                                 {2, 15},
                                                  {2, 20},
                                                  {2, 25},
                                                  {2, 30},
@@ -163,8 +164,7 @@ void oefeningen::Z_sponsorloop_12_07() {
                                                  {4, 18},
                                                  {4, 27},
                                                  {5, 22},
-                                                 {6, 26},
-                                                 {2, 15}}};
+                                                 {6, 26}}};
     kies_variant(6);
     zaai();
     const std::string_view plaats = kies(plaatsen), doel = rij(doelen, variant), dag = kies(weekdagen);
