@@ -120,7 +120,13 @@ const exercise_rows energy{
      .explains = {{"dus # Watt is # kW. * # x # = # kWh. Eén kWh kost # eurocent, * # x # = ",
                    {v[0], v[0] / 1000, v[0] / 1000, v[1], v[0] * v[1] / 1000, v[2], v[0] * v[1] / 1000, v[2]}}},
      .tips = {"", "aantal kWh energie uit. Derde stap:  reken de totale"},
-     .check = [](const reading& n) { EXPECT_EQ(n.words[0], n.words[1]); }},
+     .check =
+         [](const reading& n) {
+             EXPECT_EQ(n.words[0], n.words[1]);
+             for (const text_op& on_card : n.exercise.texts) {
+                 EXPECT_TRUE(on_card.x > 3300 && on_card.x + text_width(on_card.text, on_card.size) < 5200);
+             }
+         }},
     {.id = M_voeding_1_00_19_click,
      .variants = 10,
      .reads =

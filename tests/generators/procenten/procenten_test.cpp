@@ -69,7 +69,7 @@ void check_injuries(const reading& n) {
 }
 
 const formula own = v[0] * v[1] / 100, one_percent = v[1] / 100;
-const formula mown = v[0] * 100 / (v[0] + v[1]);
+const formula mown = v[1] * 100 / (v[1] + v[2]);
 const std::vector<mistake> percentage_mistakes{{"(Je hebt wel 1 % gedaan|Je hebt alleen 1 % genomen)", one_percent},
                                                {"(door 10 gedeeld? Dat is|kommafout gemaakt)", 10 * own},
                                                {"Eerst moet je 1 % nemen", 10 * one_percent}};
@@ -194,25 +194,16 @@ const exercise_rows percentages{
      .check = check_pies},
     {.id = B_grasveld_01_08_click,
      .variants = 2,
-     .of = {1},
-     .reads = "Hoeveel procent is al gemaaid?",
+     .reads = "Hoeveel procent (is al|moet nog) gemaaid",
      .counts = {blocks(lichtgroen), blocks(groen)},
-     .ranges = {{{1, 24}, {1, 24}}},
-     .right = mown,
-     .wrong = {{"baantjes die nog", v[1]}, {"nog gedaan moet", 100 - mown}, {"aantal gemaaide", v[0]}},
-     .explains = {{"Er zijn # baantjes", {v[0] + v[1]}},
-                  {"dus #/# van", {v[0], v[0] + v[1]}},
-                  {"zeggen: # /", {mown}}}},
-    {.id = B_grasveld_01_08_click,
-     .variants = 2,
-     .of = {2},
-     .reads = "Hoeveel procent moet nog gemaaid worden?",
-     .counts = {blocks(lichtgroen), blocks(groen)},
-     .ranges = {{{1, 24}, {1, 24}}},
-     .right = 100 - mown,
-     .wrong = {{"baantjes geteld die nog", v[1]}, {"al gedaan is", mown}, {"aantal gemaaide", v[0]}},
-     .explains = {{"Er zijn # baantjes", {v[0] + v[1]}},
-                  {"dus #/# van", {v[0], v[0] + v[1]}},
+     .ranges = {{{0, 0}, {1, 24}, {1, 24}}, {{1, 1}, {1, 24}, {1, 24}}},
+     .right = mown + v[0] * (100 - 2 * mown),
+     .wrong = {{"baantjes (die nog|geteld die nog)", v[2]},
+               {"nog gedaan moet", 100 - mown},
+               {"al gedaan is", mown},
+               {"aantal gemaaide", v[1]}},
+     .explains = {{"Er zijn # baantjes", {v[1] + v[2]}},
+                  {"dus #/# van", {v[1], v[1] + v[2]}},
                   {"zeggen: # /", {mown}}}},
 };
 
