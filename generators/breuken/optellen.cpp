@@ -74,7 +74,7 @@ void oefeningen::L_prijzen_03_03_click() {
 
     const breuk een{1, 1};
     const breuk een_stukje{1, samen.noemer};
-    const std::string verteld = regel("Je hebt je", streepbreuk(een_stukje), " deel vergist.");
+    const std::string verteld = regel("Je hebt je ", streepbreuk(een_stukje), " deel vergist.");
     drie_andere(
         prijzen.over(), kortste,
         {{samen, "Dat is het deel voor de eerste en de tweede prijs", "samen. Hoeveel blijft er dan over?"},
