@@ -126,14 +126,13 @@ void oefeningen::M_worst_08_17_click() {
     const zin kijk_eerst = "Kijk eerst hoeveel gram elk streepje is.";
     drie_andere(
         juist, gram,
-        std::vector<keuze<int>>{
-            {(streepje + 1) * per_streepje, {"Je bent bij 1 begonnen met tellen.", "(de schaal begint met een nul!)"}},
-            {(streepje - 1) * per_streepje, {"Je hebt een streepje te weinig geteld."}},
-            {(10 - streepje) * per_streepje,
-             {"Je hebt de streepjes vanaf de verkeerde kant geteld:", "je begint bij de nul, links onder."}},
-            {2 * juist, {kijk_eerst, regel("Een lang streepje is hier niet", gram(2 * per_streepje), ".")}},
-            {juist / 2, {kijk_eerst, regel("Een lang streepje is hier niet", gram(per_streepje / 2), ".")}},
-            {10 * juist, {kijk_eerst, "Eén kg is 1.000 gram."}}});
+        {{(streepje + 1) * per_streepje, {"Je bent bij 1 begonnen met tellen.", "(de schaal begint met een nul!)"}},
+         {(streepje - 1) * per_streepje, {"Je hebt een streepje te weinig geteld."}},
+         {(10 - streepje) * per_streepje,
+          {"Je hebt de streepjes vanaf de verkeerde kant geteld:", "je begint bij de nul, links onder."}},
+         {2 * juist, {kijk_eerst, regel("Een lang streepje is hier niet", gram(2 * per_streepje), ".")}},
+         {juist / 2, {kijk_eerst, regel("Een lang streepje is hier niet", gram(per_streepje / 2), ".")}},
+         {10 * juist, {kijk_eerst, "Eén kg is 1.000 gram."}}});
 
     uitleg("De lange streepjes verdelen de schaal in tien gelijke stukken", "(de schaal begint met een nul!)",
            regel("Elk stuk is dus", gram(maximum), " : 10 = ", schaal.streepje, "."),

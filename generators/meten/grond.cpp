@@ -4,6 +4,7 @@
 #include "generators/oefeningen.h"
 
 #include <algorithm>
+#include <map>
 #include <numeric>
 
 namespace cijferwerf {
@@ -39,26 +40,20 @@ struct stuk_grond {
     bool lijkt_op(const stuk_grond& ander) const { return std::ranges::is_permutation(hoogten, ander.hoogten); }
 };
 
-// All pieces of three to five columns, each one to four squares high, of 9 to 13 squares.
-const std::vector<stuk_grond>& alle_stukken() {
-    static const auto all = [] {
-        std::vector<stuk_grond> wanted;
-        std::vector<std::vector<int>> rijen{{}}; // of so many columns
-        for (int breed = 1; breed <= 5; ++breed) {
-            std::vector<std::vector<int>> langer;
-            for (const std::vector<int>& rij : rijen)
-                for (int hoogte = 1; hoogte <= 4; ++hoogte) {
-                    langer.push_back(rij);
-                    langer.back().push_back(hoogte);
-                }
-            rijen = std::move(langer);
-            for (const std::vector<int>& rij : rijen)
-                if (const int som = std::accumulate(rij.begin(), rij.end(), 0); breed >= 3 && som >= 9 && som <= 13)
-                    wanted.emplace_back(rij);
-        }
-        return wanted;
+// The pieces of three to five columns, each one to four squares high, with this edge and this many squares.
+const std::vector<stuk_grond>& stukken(int omtrek, int oppervlakte) {
+    static const auto op_maat = [] {
+        std::map<std::pair<int, int>, std::vector<stuk_grond>> found;
+        for (int breed = 3; breed <= 5; ++breed)
+            for (int code = 0; code < 1 << 2 * breed; ++code) { // two bits a column
+                std::vector<int> kolommen;
+                for (int x = 0; x < breed; ++x) kolommen.push_back((code >> 2 * x & 3) + 1);
+                const stuk_grond stuk(std::move(kolommen));
+                found[{stuk.omtrek, stuk.oppervlakte}].push_back(stuk);
+            }
+        return found;
     }();
-    return all;
+    return op_maat.at({omtrek, oppervlakte});
 }
 
 } // namespace
@@ -72,7 +67,8 @@ void oefeningen::M_draad_07_12_click() {
     const bool even_lang = juist == 4;
     const bool even_groot = kop();
     // Pieces that are even large tempt to say that their edges are even long.
-    const int oppervlakte = trek_van(10, 12);
+    auto oppervlakten = geschud(std::array{10, 11, 12, 13});
+    if (even_groot) oppervlakten.fill(trek_van(10, 12));
     std::array<int, 3> omtrekken{};
     if (even_lang) {
         omtrekken.fill(trek_van(16, 20, 2));
@@ -83,18 +79,14 @@ void oefeningen::M_draad_07_12_click() {
         std::swap(*uiterste, rij(omtrekken, juist));
     }
     // Of even large pieces there are at least three that look different for each of these edges.
-    std::vector<stuk_grond> gekozen;
-    for (const int omtrek : omtrekken) {
-        std::vector<const stuk_grond*> mogelijk;
-        for (const stuk_grond& s : alle_stukken()) {
-            const bool te_gelijk = std::ranges::any_of(gekozen, [&](const stuk_grond& eerder) {
-                return even_groot ? even_lang && eerder.lijkt_op(s) : eerder.oppervlakte == s.oppervlakte;
-            });
-            if (s.omtrek == omtrek && (!even_groot || s.oppervlakte == oppervlakte) && !te_gelijk)
-                mogelijk.push_back(&s);
-        }
-        gekozen.push_back(*kies(mogelijk));
-    }
+    std::vector<const stuk_grond*> gekozen;
+    for (std::size_t i = 0; i < omtrekken.size(); ++i)
+        gekozen.push_back(trek_tot([&] { return &kies(stukken(omtrekken[i], oppervlakten[i])); },
+                                   [&](const stuk_grond* drawn) {
+                                       return std::ranges::none_of(gekozen, [drawn](const stuk_grond* eerder) {
+                                           return eerder->omtrek == drawn->omtrek && eerder->lijkt_op(*drawn);
+                                       });
+                                   }));
 
     bord(wit, zwart, 14);
     constexpr int hokje = 270;
@@ -102,18 +94,18 @@ void oefeningen::M_draad_07_12_click() {
     std::vector<gekleurde_figuur> figuren;
     std::vector<int> middens;
     int breed = 0;
-    for (const stuk_grond& s : gekozen) breed += s.breed();
+    for (const stuk_grond* s : gekozen) breed += s->breed();
     int x = (op.breed - breed - 2) / 2;
-    for (const stuk_grond& s : gekozen) {
+    for (const stuk_grond* s : gekozen) {
         const bool hangt = kop();
-        figuren.push_back({s.figuur(hangt).verschoven(x, hangt ? 1 : 5), lichtgroen});
-        middens.push_back(op.hoek({x, 0}).x + s.breed() * hokje / 2);
-        x += s.breed() + 1;
+        figuren.push_back({s->figuur(hangt).verschoven(x, hangt ? 1 : 5), lichtgroen});
+        middens.push_back(op.hoek({x, 0}).x + s->breed() * hokje / 2);
+        x += s->breed() + 1;
     }
     teken_rooster(plaatje, op, figuren);
     for (std::size_t i = 0; i < 3; ++i) {
         druk_midden(middens[i], 40, letters[i]);
-        opdracht(druk_opdracht(middens[i] + 160, 40, donkerrood, 14, "(", kaal(gekozen[i].omtrek), ")"));
+        opdracht(druk_opdracht(middens[i] + 160, 40, donkerrood, 14, "(", kaal(gekozen[i]->omtrek), ")"));
     }
 
     vraag("Om deze stukjes wordt", "een draad gespannen.", "Voor welk stukje grond heb je",
@@ -128,7 +120,7 @@ void oefeningen::M_draad_07_12_click() {
                          : "De draad is niet bij elk stukje even lang.",
               even_groot ? "is niet overal even lang." : leeg);
 
-    const auto draad = [&](std::size_t i) { return regel("om ", letters[i], " is die", gekozen[i].omtrek, " lang"); };
+    const auto draad = [&](std::size_t i) { return regel("om ", letters[i], " is die", gekozen[i]->omtrek, " lang"); };
     uitleg("Tel bij elk stukje grond de zijden van hokjes langs de rand.",
            regel("Zo lang is de draad: ", draad(0), ","), regel(draad(1), " en ", draad(2), "."),
            even_lang ? regel("De draad is dus overal even lang.")

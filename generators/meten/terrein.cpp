@@ -130,16 +130,14 @@ void oefeningen::Z_tegels_07_12_click() {
           regel("lengte van", kort, " m wordt betegeld."), "De vloer van de schuur (geel) hoeft niet",
           "gedaan te worden. ", "Hoeveel m² tegels is nodig?");
 
-    drie_andere(juist, m2,
-                std::vector<keuze<int>>{
-                    {terrein, {"Heb je soms vergeten de oppervlakte van de schuur", "ervan af te trekken?"}},
-                    {terrein + schuur, {"Je hebt de oppervlakte van de schuur erbij opgeteld."}},
-                    {lang * hoog - schuur,
-                     {"Het terrein is niet overal even lang:", regel("de kleinste lengte is", kort, " m.")}},
-                    {kort * hoog - schuur,
-                     {"Het terrein is niet overal even lang:", regel("de grootste lengte is", lang, " m.")}},
-                    {terrein - 2 * (schuur_breed + schuur_hoog),
-                     {"Je hebt de omtrek van de schuur ervan afgetrokken", "in plaats van de oppervlakte."}}});
+    drie_andere(
+        juist, m2,
+        {{terrein, {"Heb je soms vergeten de oppervlakte van de schuur", "ervan af te trekken?"}},
+         {terrein + schuur, {"Je hebt de oppervlakte van de schuur erbij opgeteld."}},
+         {lang * hoog - schuur, {"Het terrein is niet overal even lang:", regel("de kleinste lengte is", kort, " m.")}},
+         {kort * hoog - schuur, {"Het terrein is niet overal even lang:", regel("de grootste lengte is", lang, " m.")}},
+         {terrein - 2 * (schuur_breed + schuur_hoog),
+          {"Je hebt de omtrek van de schuur ervan afgetrokken", "in plaats van de oppervlakte."}}});
 
     uitleg(regel("Gemiddeld is het terrein (", kaal(lang), " +", kort, ") : 2 =", midden, " m lang."),
            regel("Het is", hoog, " hokjes hoog, dus de oppervlakte is", midden, " x", hoog, " =", m2(terrein), "."),
@@ -187,11 +185,10 @@ void oefeningen::M_opbrengst_08_12_click() {
           regel("voor", bedrag(prijs), " per m²."), leeg, "Hoeveel brengt het land op?");
 
     drie_andere(juist, bedrag,
-                std::vector<keuze<int>>{
-                    {omtrek * prijs, {"Heb je soms de omtrek voor de oppervlakte aangezien?"}},
-                    {zijde * prijs, {"Je hebt vergeten de lengte van een zijde", "in het kwadraat te zetten."}},
-                    {halve * halve * prijs, {"Heb je soms de omtrek eerst door 2 gedeeld", "in plaats van door 4...?"}},
-                    {oppervlakte, {"Je hebt de oppervlakte nog niet met de prijs", "vermenigvuldigd."}}});
+                {{omtrek * prijs, {"Heb je soms de omtrek voor de oppervlakte aangezien?"}},
+                 {zijde * prijs, {"Je hebt vergeten de lengte van een zijde", "in het kwadraat te zetten."}},
+                 {halve * halve * prijs, {"Heb je soms de omtrek eerst door 2 gedeeld", "in plaats van door 4...?"}},
+                 {oppervlakte, {"Je hebt de oppervlakte nog niet met de prijs", "vermenigvuldigd."}}});
 
     opdracht(druk_midden_opdracht(land.midden().x, land.boven - 290, donkerrood, 12, zijde, " m"));
     uitleg(regel("Een zijde van het land is", omtrek, " : 4 =", zijde, " m."),

@@ -81,12 +81,12 @@ void oefeningen::M_L_vorm_07_12_click() {
           "Niet alle maten (in cm) zijn gegeven.", "Hoe groot is de oppervlakte van", "de hele figuur?");
 
     drie_andere(l.oppervlakte(), cm2,
-                std::vector<keuze<int>>{{om_beide, {"Je moet er nog de oppervlakte van een klein", "stukje afhalen."}},
-                                        {om_beide + vierkant,
-                                         {"Je hebt met een te lange rechthoek gerekend:",
-                                          regel("de gele rechthoek is geen", l.lengte(), " cm lang.")}},
-                                        {l.omtrek(), {"Je hebt de omtrek berekend in plaats van", "de oppervlakte..."}},
-                                        {rechthoek, {"Je bent de oppervlakte van het blauwe vierkant", "vergeten."}}});
+                {{om_beide, {"Je moet er nog de oppervlakte van een klein", "stukje afhalen."}},
+                 {om_beide + vierkant,
+                  {"Je hebt met een te lange rechthoek gerekend:",
+                   regel("de gele rechthoek is geen", l.lengte(), " cm lang.")}},
+                 {l.omtrek(), {"Je hebt de omtrek berekend in plaats van", "de oppervlakte..."}},
+                 {rechthoek, {"Je bent de oppervlakte van het blauwe vierkant", "vergeten."}}});
 
     uitleg(regel("De rechthoek is", l.lengte(), " -", zijde, " =", breed, " cm breed en", hoog, " cm hoog."),
            regel("De oppervlakte ervan is", breed, " x", hoog, " =", cm2(rechthoek), "."),
@@ -112,18 +112,17 @@ void oefeningen::M_tuin_07_09_click() {
           "De tuin kun je opvatten als een vierkant", "(lichtgroen) naast een rechthoek",
           "(donkergroen). Bereken de totale lengte", "van het hek om deze L-vormige tuin.");
 
-    drie_andere(l.omtrek(), meter,
-                std::vector<keuze<int>>{
-                    {rechthoek + vierkant,
-                     {"Je hebt de omtrek van het vierkant en die van de",
-                      "rechthoek opgeteld. Tussen die twee staat geen hek."}},
-                    {rechthoek + vierkant - zijde,
-                     {"De grens tussen het vierkant en de rechthoek", "hoort bij allebei: die moet er twee keer af."}},
-                    {l.oppervlakte(), {"Je hebt de oppervlakte berekend in plaats van", "de lengte van het hek."}},
-                    {l.omtrek() - stap,
-                     {"Je bent een stuk hek vergeten: naast het vierkant", "houdt de rechthoek nog een stukje over."}},
-                    {l.lengte() + hoog, {"Je hebt nog maar de helft van het hek."}},
-                    {rechthoek, {"Je hebt alleen de omtrek van de rechthoek berekend."}}});
+    drie_andere(
+        l.omtrek(), meter,
+        {{rechthoek + vierkant,
+          {"Je hebt de omtrek van het vierkant en die van de", "rechthoek opgeteld. Tussen die twee staat geen hek."}},
+         {rechthoek + vierkant - zijde,
+          {"De grens tussen het vierkant en de rechthoek", "hoort bij allebei: die moet er twee keer af."}},
+         {l.oppervlakte(), {"Je hebt de oppervlakte berekend in plaats van", "de lengte van het hek."}},
+         {l.omtrek() - stap,
+          {"Je bent een stuk hek vergeten: naast het vierkant", "houdt de rechthoek nog een stukje over."}},
+         {l.lengte() + hoog, {"Je hebt nog maar de helft van het hek."}},
+         {rechthoek, {"Je hebt alleen de omtrek van de rechthoek berekend."}}});
 
     // The sides that were not told.
     const int kop_y = onder ? groot.boven - 280 : groot.onder() + 10;

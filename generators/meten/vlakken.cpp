@@ -199,7 +199,7 @@ void oefeningen::M_bedrijfsruimte_07_12_click() {
     plaatje.line(deur_x, plan.onder(), deur_x + deur, plan.onder(), wit);
     plaatje.line_width = 1;
     plaatje.sector(deur_x, plan.onder(), deur, 0, 90, grijs, false);
-    druk_midden(plan.midden().x + 250, plan.onder() + 50, kaal(met(zijde(lang, gegeven), gegeven)));
+    druk_midden(plan.midden().x, plan.onder() + 50, kaal(met(zijde(lang, gegeven), gegeven)));
     druk_rechts(plan.links - 130, plan.midden().y - halve_regel(14), kaal(met(zijde(kort, gegeven), gegeven)));
 
     vraag("Een bedrijfsruimte heeft afmetingen",
