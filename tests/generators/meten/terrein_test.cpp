@@ -1,6 +1,7 @@
 // Pieces of land and figures: measured again from what is drawn.
 #include "tests/support/exercise_rows.h"
 
+#include <map>
 #include <set>
 
 namespace cijferwerf {
@@ -26,37 +27,59 @@ double area(const std::vector<point>& corners) {
     }
     return std::abs(twice) / 2;
 }
-// How wide (or high) the figure with this number is.
-formula extent(std::size_t which, int point::*along) {
+// How wide or high a figure with four corners is.
+formula across(std::size_t which, int point::*along) {
     return [=](const reading& n) {
         const auto corners = figures(n).at(which);
-        const auto [low, high] = std::ranges::minmax(corners, {}, along);
-        return high.*along - low.*along;
+        return std::abs(corners[0].*along - corners[2].*along);
     };
 }
 
+// The one figure whose area is smallest or largest; each is told and shown as it is counted from what is drawn.
 void check_areas(const reading& n) {
     std::vector<double> areas;
-    std::string drawn;
+    std::string drawn, shown = n.exercise.when_explained().words.back();
     for (const auto& corners : figures(n)) {
         areas.push_back(area(corners));
         const auto place = static_cast<int>(areas.size());
-        const std::string cm2 = regel(komma_kort(static_cast<int>(areas.back() * 10), 1), " cm²");
-        n.exercise.told(regel("figuur", place, ":", cm2).c_str());
+        const std::string figure = n.exercise.answer(place),
+                          cm2 = regel(komma_kort(static_cast<int>(areas.back() * 10), 1), " cm²");
+        n.exercise.told((figure + ":" + cm2).c_str());
         drawn += cm2;
-        EXPECT_EQ(n.exercise.answer(place), regel("figuur", place));
+        EXPECT_EQ(figure, regel("figuur", place));
         EXPECT_TRUE(place == n.exercise.right_place() ||
-                    n.exercise.feedback(place).starts_with(regel("De oppervlakte van figuur", place, " is", cm2,
+                    n.exercise.feedback(place).starts_with(regel("De oppervlakte van ", figure, " is", cm2,
                                                                  ". Er is een figuur die ",
                                                                  n.variant() == 1 ? "kleiner" : "groter")));
     }
     const auto most = n.variant() == 1 ? std::ranges::min_element(areas) : std::ranges::max_element(areas);
     EXPECT_TRUE(areas.size() == 4 && std::ranges::count(areas, *most) == 1);
     EXPECT_EQ(n.exercise.right_place(), most - areas.begin() + 1);
-    std::string shown = n.exercise.when_explained().words.back();
-    std::erase(shown, ' ');
-    std::erase(drawn, ' ');
+    std::erase(shown, ' '), std::erase(drawn, ' ');
     EXPECT_EQ(shown, drawn);
+}
+
+// The one piece whose edge is shortest or longest, along the corners as drawn, or "overal even lang".
+void check_wire(const reading& n) {
+    std::map<int, std::vector<int>> by_edge;
+    std::set<double> areas;
+    int number = 0;
+    for (const auto& corners : figures(n)) {
+        int edge = 0;
+        for (std::size_t i = 0; i < corners.size(); ++i) {
+            const point a = corners[i], b = corners[(i + 1) % corners.size()];
+            edge += std::abs(a.x - b.x) + std::abs(a.y - b.y);
+        }
+        areas.insert(area(corners));
+        n.exercise.told(
+            ("om " + n.exercise.words.at(static_cast<std::size_t>(number)) + regel(" is die", edge, " lang")).c_str());
+        by_edge[n[0] == 0 ? edge : -edge].push_back(++number);
+    }
+    const int right = n.exercise.right_place();
+    EXPECT_TRUE(number == 3 && (areas.size() == 1 || areas.size() == 3));
+    EXPECT_EQ(by_edge.begin()->second, right == 4 ? (std::vector{1, 2, 3}) : std::vector{right});
+    EXPECT_TRUE(right == 4 || n.exercise.feedback(4).find(areas.size() == 1 ? "wel even groot" : "elk stukje even") !=
+                                  std::string::npos);
 }
 
 // A rectangle so long with its square, so high, and the side of the square, as drawn in these colours.
@@ -98,6 +121,11 @@ const exercise_rows land{
          "| figuur 3 | figuur 4 ",
      .ranges = {{{0, 0}}, {{1, 1}}},
      .check = check_areas},
+    {.id = M_draad_07_12_click,
+     .variants = 2,
+     .reads = "de (KORTSTE|LANGSTE) draad nodig? Of is de draad overal even lang? | A | B | C",
+     .ranges = {{{0, 0}}, {{1, 1}}},
+     .check = check_wire},
     {.id = M_L_vorm_07_12_click,
      .variants = 2,
      .reads = "Niet alle maten * zijn gegeven. Hoe groot is de oppervlakte van de hele figuur? | # | # | # ",
@@ -132,7 +160,7 @@ const exercise_rows land{
      .variants = 2,
      .reads =
          "grootste lengte van # m en een kleinste lengte van # m wordt betegeld. * nodig? | Eén hokje is 1 bij 1 meter.",
-     .counts = {extent(0, &point::y), extent(1, &point::x), extent(1, &point::y)},
+     .counts = {across(0, &point::y), across(1, &point::x), across(1, &point::y)},
      .ranges = {{{8, 18}, {6, 12}, {4, 6}, {2, 4}, {1, 4}}},
      .right = site - shed,
      .wrong = {{"ervan af te trekken?", site},
