@@ -82,18 +82,18 @@ void check_wire(const reading& n) {
                                   std::string::npos);
 }
 
-// A rectangle so long with its square, so high, and the side of the square, as drawn in these colours.
+// A rectangle so long with its square, so high, and the side of the square, as drawn in these colours; the square at
+// its foot or at its top.
 const formula wide = v[0] - v[2];
+const formula at_foot = [](const reading& n) { return n.exercise.blocks.at(1).y > n.exercise.blocks.at(0).y ? 1 : 0; };
 auto check_L(kleur rectangle, kleur square) {
     return [=](const reading& n) {
-        const auto box = [&](kleur colour) {
-            return *std::ranges::find(n.exercise.blocks, colour, [](const box_op& b) { return b.pen.colour; });
-        };
-        const box_op large = box(rectangle), small = box(square);
+        const box_op &large = n.exercise.blocks.at(0), &small = n.exercise.blocks.at(1);
+        EXPECT_TRUE(large.pen.colour == rectangle && small.pen.colour == square);
         EXPECT_TRUE(same(large.width * n[1], large.height * (n[0] - n[2])));
         EXPECT_TRUE(same(small.width * n[1], large.height * n[2]) && small.width == small.height);
         EXPECT_TRUE(n.variant() == 1 ? large.x + large.width == small.x : small.x + small.width == large.x);
-        EXPECT_TRUE(small.y == large.y || small.y + small.height == large.y + large.height);
+        EXPECT_EQ(small.y, large.y + n[3] * (large.height - small.height));
     };
 }
 
@@ -129,7 +129,8 @@ const exercise_rows land{
     {.id = M_L_vorm_07_12_click,
      .variants = 2,
      .reads = "Niet alle maten * zijn gegeven. Hoe groot is de oppervlakte van de hele figuur? | # | # | # ",
-     .ranges = {{{8, 33, 1}, {12, 14}, {3, 9}}},
+     .counts = {at_foot},
+     .ranges = {{{8, 33, 1}, {12, 14}, {3, 9}, {0, 1}}},
      .right = wide * v[1] + v[2] * v[2],
      .wrong = {{"stukje afhalen", v[0] * v[1]},
                {"te lange rechthoek", v[0] * v[1] + v[2] * v[2]},
@@ -143,7 +144,8 @@ const exercise_rows land{
     {.id = M_tuin_07_09_click,
      .variants = 2,
      .reads = "totale lengte van het hek om deze L-vormige tuin. | # m | # m | # m ",
-     .ranges = {{{10, 32, 1}, {7, 21}, {4, 12}}},
+     .counts = {at_foot},
+     .ranges = {{{10, 32, 1}, {7, 21}, {4, 12}, {0, 1}}},
      .right = (v[0] + v[1]) * 2,
      .wrong = {{"die van de rechthoek opgeteld", both_edges},
                {"twee keer af", both_edges - v[2]},
