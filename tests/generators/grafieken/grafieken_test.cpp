@@ -321,7 +321,8 @@ const exercise_rows graphs{
          }},
     {.id = L_inkomen_04_18_click,
      .variants = 2,
-     .reads = "Welk gezin kan een (inkomensstijging|inkomensdaling) ver- wachten",
+     .reads =
+         "Welk gezin kan een (inkomensstijging|inkomensdaling) ver- wachten* | in euro | vorig jaar | eerste helft van dit jaar",
      // How many have a green column that is higher, and a red one.
      .counts = {higher_than_asked(1), higher_than_asked(0)},
      .ranges = {{{0, 0}, {0, 3}, {0, 3}}, {{1, 1}, {0, 3}, {0, 3}}},
@@ -372,8 +373,9 @@ const exercise_rows graphs{
                    {v[0], v[1], v[3] - v[2], v[1] * (v[3] - v[2]) / 100}}}},
     {.id = Z_roken_04_18_click,
      .variants = 2,
-     .reads = "Welke groep rookte het (MEEST|MINST)?",
-     .ranges = {{{0, 0}}, {{1, 1}}},
+     .reads = "Welke groep rookte het (MEEST|MINST)? | ROKERS PER LEEFTIJD, IN % VAN DE HELE GROEP",
+     .counts = {[](const reading& n) { return decimal(n.exercise.told("percentage (\\d+) %").at(1)); }},
+     .ranges = {{{0, 0}, {70, 100}}, {{1, 1}, {60, 70}}},
      .explains = {{"het (grootste|kleinste) percentage", {v[0]}}},
      .check = check_smokers},
     {.id = Z_verkiezingen_04_18_click,
