@@ -75,6 +75,19 @@ int oefening::trek_eronder(int lager, int hoger) {
     return trek_van(std::max(0, 3 - hoger), std::min(3, lager));
 }
 
+void oefening::druk_delen(int x, int y, std::initializer_list<regeldeel> delen) { plaatje.print_at(x, y, plak(delen)); }
+
+void oefening::volgende_fout(regeldeel text, std::initializer_list<tekstregel> feedback) {
+    const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
+    antwoord(which) = plak({text});
+    schrijf(foutregels(which), 0, feedback);
+}
+
+void oefening::zet_op_plaats(int plaats, regeldeel text, std::initializer_list<tekstregel> feedback) {
+    antwoord(plaats) = plak({text});
+    if (plaats != juiste_positie) schrijf(foutregels(getoond_antwoord(plaats, juiste_positie)), 0, feedback);
+}
+
 void oefening::fout_met(std::string text, const melding& feedback) {
     const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
     antwoord(which) = std::move(text);

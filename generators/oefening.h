@@ -21,6 +21,24 @@
 
 namespace cijferwerf {
 
+// A line on its way into a record: a glued one is moved there, any other is copied.
+class tekstregel {
+public:
+    tekstregel(std::string&& geplakt) : geplakt_(&geplakt) {}
+    template<std::convertible_to<std::string_view> Text>
+    tekstregel(const Text& vast) : vast_(vast) {}
+    void schrijf_in(std::string& slot) const {
+        if (geplakt_ != nullptr)
+            slot = std::move(*geplakt_);
+        else
+            slot = vast_;
+    }
+
+private:
+    std::string* geplakt_ = nullptr;
+    std::string_view vast_;
+};
+
 // Seven lines of text; a single blank is an empty line.
 using tekstregels = std::array<std::string, 7>;
 
@@ -95,7 +113,7 @@ protected:
     // Prints a line glued from texts and numbers with its top-left corner at (x, y).
     template<line_part... Parts>
     void druk(int x, int y, const Parts&... parts) {
-        plaatje.print_at(x, y, regel(parts...));
+        druk_delen(x, y, {regeldeel(parts)...});
     }
     // The same with its middle at x.
     template<line_part... Parts>
@@ -131,22 +149,22 @@ protected:
     template<class... Lines>
     void vraag(Lines&&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(vraagregels, 1, std::forward<Lines>(lines)...);
+        schrijf(vraagregels, 1, {tekstregel(std::forward<Lines>(lines))...});
     }
     template<class... Lines>
     void tip_1(Lines&&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(tipregels_1, 0, std::forward<Lines>(lines)...);
+        schrijf(tipregels_1, 0, {tekstregel(std::forward<Lines>(lines))...});
     }
     template<class... Lines>
     void tip_2(Lines&&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(tipregels_2, 0, std::forward<Lines>(lines)...);
+        schrijf(tipregels_2, 0, {tekstregel(std::forward<Lines>(lines))...});
     }
     template<class... Lines>
     void uitleg(Lines&&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(uitlegregels, 0, std::forward<Lines>(lines)...);
+        schrijf(uitlegregels, 0, {tekstregel(std::forward<Lines>(lines))...});
     }
     // One more drawing command of the explanation, or several; an empty line is none. There are at most seven in all:
     // an eighth ends the run.
@@ -182,9 +200,7 @@ protected:
     template<line_part Text, class... Lines>
     void fout(const Text& text, Lines&&... feedback) {
         static_assert(sizeof...(Lines) <= 6);
-        const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
-        antwoord(which) = regel(text);
-        schrijf(foutregels(which), 0, std::forward<Lines>(feedback)...);
+        volgende_fout(text, {tekstregel(std::forward<Lines>(feedback))...});
     }
 
     // For answers with fixed places: the place, 1 to 4, of the right one. Say this first.
@@ -194,9 +210,7 @@ protected:
     template<line_part Text, class... Lines>
     void op_plaats(int plaats, const Text& text, Lines&&... feedback) {
         static_assert(sizeof...(Lines) <= 6);
-        antwoord(plaats) = regel(text);
-        if (plaats != juiste_positie)
-            schrijf(foutregels(getoond_antwoord(plaats, juiste_positie)), 0, std::forward<Lines>(feedback)...);
+        zet_op_plaats(plaats, text, {tekstregel(std::forward<Lines>(feedback))...});
     }
     // Fixes the places of answers that were written with goed() and fout(): the right one stands at this place and
     // every button keeps the feedback of the answer that it shows.
@@ -294,6 +308,9 @@ private:
     }
     // Draws how many of three mistakes lie below the right answer, when so many do and so many lie above it.
     int trek_eronder(int lager, int hoger);
+    void volgende_fout(regeldeel text, std::initializer_list<tekstregel> feedback);
+    void zet_op_plaats(int plaats, regeldeel text, std::initializer_list<tekstregel> feedback);
+    void druk_delen(int x, int y, std::initializer_list<regeldeel> delen);
     void fout_met(std::string text, const melding& feedback);
     void toon_snelle_som(int ticks, const std::string& som);
     void druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som, const std::string& antwoord);
@@ -309,10 +326,8 @@ private:
         for (std::size_t i = 0; i < feedback.size(); ++i)
             if (const std::string_view line = feedback[i]; !line.empty()) to[i] = line;
     }
-    template<class... Lines>
-    static void schrijf(tekstregels& to, std::size_t first, Lines&&... lines) {
-        [[maybe_unused]] const auto put = [&](auto&& line) { to[first++] = std::forward<decltype(line)>(line); };
-        (put(std::forward<Lines>(lines)), ...);
+    static void schrijf(tekstregels& to, std::size_t first, std::initializer_list<tekstregel> lines) {
+        for (const tekstregel& line : lines) line.schrijf_in(to[first++]);
     }
 };
 

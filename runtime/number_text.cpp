@@ -119,19 +119,25 @@ number_text kaal(const number_text& number) {
 
 number_text kaal(long long number) { return kaal(tekst(number)); }
 
-void voeg_toe(std::string& line, long long number) {
-    std::array<char, 32> buffer{};
-    if (number < 0)
-        line += '-';
-    else if (!line.ends_with(' '))
-        line += ' ';
-    line += digits(magnitude(number), buffer);
+void regeldeel::voeg_toe_aan(std::string& line) const {
+    if (soort_ == soort::geheel) {
+        std::array<char, 32> buffer{};
+        if (geheel_ < 0)
+            line += '-';
+        else if (!line.ends_with(' '))
+            line += ' ';
+        line += digits(magnitude(geheel_), buffer);
+    } else if (soort_ == soort::getal && tekst_.starts_with(' ') && line.ends_with(' '))
+        line += tekst_.substr(1);
+    else
+        line += tekst_;
 }
 
-void voeg_toe(std::string& line, const number_text& number) {
-    std::string_view text = number;
-    if (text.starts_with(' ') && line.ends_with(' ')) text.remove_prefix(1);
-    line += text;
+std::string plak(std::initializer_list<regeldeel> delen) {
+    std::string line;
+    line.reserve(64);
+    for (const regeldeel& deel : delen) deel.voeg_toe_aan(line);
+    return line;
 }
 
 double lees_getal(std::string_view text) {

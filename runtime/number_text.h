@@ -5,6 +5,7 @@
 #include <array>
 #include <concepts>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -76,27 +77,35 @@ double lees_getal(std::string_view text);
 template<class T>
 concept line_part = std::convertible_to<const T&, std::string_view> || whole_number<T>;
 
-// Puts a number behind a line, with its blank in front unless the line so far ends in one.
-void voeg_toe(std::string& line, long long number);
-void voeg_toe(std::string& line, const number_text& number);
+// One of them: a text is only looked at, and must outlive this.
+class regeldeel {
+public:
+    template<line_part Part>
+    constexpr regeldeel(const Part& part) {
+        if constexpr (whole_number<Part>) {
+            geheel_ = static_cast<long long>(part);
+            soort_ = soort::geheel;
+        } else {
+            tekst_ = part;
+            if constexpr (std::same_as<Part, number_text>) soort_ = soort::getal;
+        }
+    }
+    void voeg_toe_aan(std::string& line) const;
+
+private:
+    enum class soort : std::uint8_t { tekst, geheel, getal };
+
+    std::string_view tekst_;
+    long long geheel_ = 0;
+    soort soort_ = soort::tekst;
+};
+std::string plak(std::initializer_list<regeldeel> delen);
 
 // Glues a line from its parts in the order in which they are read. A number, whole or in one of the forms above, has
 // its blank in front unless the line so far ends in one; texts go in as they stand.
 template<line_part... Parts>
 std::string regel(const Parts&... parts) {
-    std::string line;
-    line.reserve(64);
-    const auto add = [&line](const auto& part) {
-        using type = std::remove_cvref_t<decltype(part)>;
-        if constexpr (whole_number<type>)
-            voeg_toe(line, static_cast<long long>(part));
-        else if constexpr (std::same_as<type, number_text>)
-            voeg_toe(line, part);
-        else
-            line += std::string_view(part);
-    };
-    (add(parts), ...);
-    return line;
+    return plak({regeldeel(parts)...});
 }
 
 // The fields of a drawing command joined by "_", numbers without a blank: velden(1, 2, 3) is "1_2_3".
