@@ -126,7 +126,7 @@ const exercise_rows money{
     {.id = L_bijbetalen_05_07_click,
      .variants = 2,
      .reads = "(Een man|Een vrouw) koopt voor € # een stel CD's. {Hij|Zij} betaalt eerst met een briefje van € #,-, "
-              "maar {hij|zij} geeft er ook nog een munt van € #,- en een munt van # eurocent bij.",
+              "maar {hij|zij} geeft er ook nog een munt van € #,- en een munt van # eurocent bij. * | CD's * | U I T",
      .ranges = {{{0, 1}, {6.1, 97.5, 2}, {20, 100}, {1, 2}, {10, 50}}},
      .right = change,
      .wrong = {{"(te veel|teveel) terug", change + extra},
@@ -171,8 +171,9 @@ const exercise_rows money{
      .tips = {"Weet je dat je de laagste", "Doe een vermenigvuldiging en gebruik de laagste"}},
     {.id = M_boodschap_05_07_click,
      .variants = 4,
-     .reads = "@ haalt voor (zijn|haar) (vader|moeder) @. (Vader|Moeder) geeft zo min mogelijk geld mee. * Hoeveel "
-              "krijgt @ mee? | # kg aardappelen *€ #",
+     .reads =
+         "@ haalt voor (zijn|haar) (vader|moeder) @, @ en @. (Vader|Moeder) geeft zo min mogelijk geld mee. * Hoeveel "
+         "krijgt @ mee? | # kg aardappelen *€ #",
      .counts = {[](const reading& n) { return n.exercise.words.size(); }},
      .ranges = {{{0, 1}, {0, 0}, {0, 0}, {1.5, 2.5}, {.5, 1.9}, {3, 3}},
                 {{0, 1}, {1, 1}, {1, 1}, {1.5, 2.5}, {.5, 1.9}, {3, 3}},
@@ -184,7 +185,7 @@ const exercise_rows money{
      .tips = {"De afzonderlijke bedragen", "(Vader|Moeder) niet kan betalen"}},
     {.id = M_CDs_05_07_click,
      .variants = 2,
-     .reads = "Ze kosten € # per stuk. * Een meneer koopt # CD's. Hoeveel moet hij betalen?",
+     .reads = "Ze kosten € # per stuk. * Een meneer koopt # CD's. Hoeveel moet hij betalen? | CD's * | U I T",
      .counts = {v[1] - 3 * threes},
      .ranges = {{{6.9, 19.9}, {6, 15}, {0, 0}}, {{6.9, 19.9}, {7, 17}, {1, 2}}},
      .right = cds - threes * half,
