@@ -128,11 +128,6 @@ protected:
 
     // The same with powers, at (x, y): the digits after each "^" are small and raised. Returns its right end.
     int druk_machten(int x, int y, std::string_view text);
-    // One power. Returns its right end.
-    template<line_part Base>
-    int druk_macht(int x, int y, const Base& grondtal, int exponent) {
-        return druk_machten(x, y, regel(kaal(regel(grondtal)), "^", kaal(exponent)));
-    }
 
     // The board of a quick exercise, and its limit. Of the picture y 1100 to 1450 is kept free for the bar that counts
     // the time, and the place from (1800, 1500) on for what is said when it is up; the practice screen draws both.

@@ -173,10 +173,10 @@ void oefeningen::Z_gas_2_00_19_click() {
     };
     kies_variant(2);
     zaai();
-    const auto [minste, meeste] = rij(honderdtallen_bespaard, variant);
+    const auto& honderdtallen = rij(honderdtallen_bespaard, variant);
     const isolatie i = trek_tot(
-        [this, minste, meeste] {
-            const int bespaard = trek_van(minste, meeste) * 100;
+        [&] {
+            const int bespaard = trek_van(honderdtallen.minste, honderdtallen.meeste) * 100;
             const int prijs = trek_van(40, 70);
             const int kosten = trek_van(1500, 4500, 100);
             return isolatie{bespaard, prijs, kosten};

@@ -38,8 +38,6 @@ struct datum {
     int maandnummer; // 1 to 12
 
     constexpr const maand& in() const { return maanden.at(static_cast<std::size_t>(maandnummer - 1)); }
-    // The days that are left of the month.
-    constexpr int tot_maandeinde() const { return in().dagen - dag; }
     // "3 maart".
     std::string tekst() const { return regel(kaal(dag), " ", in().naam); }
 

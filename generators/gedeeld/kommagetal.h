@@ -36,7 +36,6 @@ struct kommagetal {
         return plaatsen >= decimalen ? geschaald * tien_tot_de(plaatsen - decimalen)
                                      : deel_afgerond(geschaald, tien_tot_de(decimalen - plaatsen));
     }
-    constexpr bool is_geheel() const { return kort().decimalen == 0; }
     // 10 to this power times as large: the decimal point moves.
     constexpr kommagetal verschoven(int plaatsen) const {
         return plaatsen <= decimalen ? kommagetal{geschaald, decimalen - plaatsen}.kort()

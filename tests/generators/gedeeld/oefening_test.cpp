@@ -15,7 +15,7 @@ struct proef : oefening {
     using oefening::bijna;
     using oefening::bord;
     using oefening::drie_andere;
-    using oefening::druk_macht;
+    using oefening::druk_machten;
     using oefening::fout;
     using oefening::goed;
     using oefening::juiste_antwoord;
@@ -229,7 +229,7 @@ TEST(powers, are_raised_and_leave_the_picture_as_it_was) {
     proef made;
     made.begin();
     made.bord(wit, zwart, 20);
-    EXPECT_EQ(made.druk_macht(100, 200, 12, 3), 100 + 400 + 120);
+    EXPECT_EQ(made.druk_machten(100, 200, "12^3"), 100 + 400 + 120);
     EXPECT_EQ(teken_met_machten(made.plaatje, 1000, 900, "4^10 = x"), 1000 + breedte_met_machten("4^10 = x", 20));
     EXPECT_EQ(as_texts(made.plaatje),
               (std::vector<std::string>{"text 100,200 colour 0 size 20 \"12\"", "text 500,194 colour 0 size 12 \"3\"",

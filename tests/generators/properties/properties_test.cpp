@@ -1,5 +1,5 @@
 // What holds for every exercise, whichever generator made it: each is made some hundreds of times, through all its
-// sub-variants, and read as a pupil would. A generator that is still blank is left out.
+// sub-variants, and read as a pupil would.
 #include "forms/practice/layout.h"
 #include "generators/gedeeld/kleuren.h"
 
@@ -24,14 +24,9 @@ using enum exception_kind;
 
 constexpr int rounds = 420; // a multiple of all numbers of sub-variants up to 7, and many of each other
 
-std::vector<oefening_id> finished() {
+std::vector<oefening_id> all_exercises() {
     std::vector<oefening_id> all;
-    oefeningen maker([] { return 0.0F; });
-    for (std::size_t i = 0; i < alle_oefeningen().size(); ++i) {
-        maker.maak(static_cast<oefening_id>(i));
-        if (std::ranges::any_of(maker.vraagregels, [](const std::string& line) { return line != leeg; }))
-            all.push_back(static_cast<oefening_id>(i));
-    }
+    for (std::size_t i = 0; i < alle_oefeningen().size(); ++i) all.push_back(static_cast<oefening_id>(i));
     return all;
 }
 
@@ -529,7 +524,7 @@ TEST_P(every_exercise, gives_drawing_commands_that_draw_what_they_say) {
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(generators, every_exercise, testing::ValuesIn(finished()),
+INSTANTIATE_TEST_SUITE_P(generators, every_exercise, testing::ValuesIn(all_exercises()),
                          [](const auto& of) { return std::string(naam(of.param)); });
 
 } // namespace
