@@ -253,6 +253,7 @@ void oefeningen::M_tandwielen_02_16_click() {
     const int factor = ander_per_keer * (veelvoud ? trek_van(3, 8) : trek_van(2, 4));
     const int keer = factor * per_keer;
     const int juist = factor * ander_per_keer;
+    // NOLINTNEXTLINE(clang-analyzer-core.DivideZero): a number of teeth is never less than what divides it
     const int rechtevenredig = keer * per_keer / ander_per_keer;
     // A slip of one or two, from the right answer or from a wrong one.
     const int bijna = kop() ? juist : kop() ? keer : rechtevenredig;
