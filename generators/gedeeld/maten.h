@@ -61,15 +61,19 @@ inline constexpr std::array<eenheid, 4> kubieke_maten{{{"kubieke meter", "m³", 
 
 // The unit with this sign: maat("cm"). A sign that does not exist does not compile.
 consteval eenheid maat(std::string_view teken) {
-    const auto in = [teken](const auto& ladder) -> const eenheid* {
+    eenheid gevonden{};
+    const auto zoek_in = [&](const auto& ladder) {
         for (const eenheid& e : ladder)
-            if (e.teken == teken) return &e;
-        return nullptr;
+            if (e.teken == teken) gevonden = e;
     };
-    for (const eenheid* found :
-         {in(lengtematen), in(oppervlaktematen), in(landmaten), in(gewichtsmaten), in(inhoudsmaten), in(kubieke_maten)})
-        if (found) return *found;
-    throw checked_error("no unit with this sign");
+    zoek_in(lengtematen);
+    zoek_in(oppervlaktematen);
+    zoek_in(landmaten);
+    zoek_in(gewichtsmaten);
+    zoek_in(inhoudsmaten);
+    zoek_in(kubieke_maten);
+    if (gevonden.teken.empty()) throw checked_error("no unit with this sign");
+    return gevonden;
 }
 
 // One of the first is 10 to this power of the second: 2 for m and cm, -2 for cm and m.
