@@ -143,7 +143,7 @@ void check_incomes(const reading& n) {
         EXPECT_EQ(bars(n.exercise)[2 * i].pen.colour, rood);
         EXPECT_GE(std::abs(doubled - last_year), 5000);
         EXPECT_EQ(doubled > last_year, (static_cast<int>(i) + 1 == n.exercise.right_place()) == (n[0] == 0));
-        const box_op& green = bars(n.exercise)[2 * i + 1];
+        const box_op green = bars(n.exercise)[2 * i + 1];
         EXPECT_EQ(green.x, 1420 + 900 * static_cast<int>(i));
         EXPECT_EQ(n.exercise.made.uitlegopdrachten[i],
                   "LINE_" + velden(green.x, 1670, 300, -2 * green.height, 1) + "_B_1");
