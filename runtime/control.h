@@ -4,6 +4,7 @@
 
 #include "runtime/checked_error.h"
 #include "runtime/picture_box.h"
+#include "runtime/subject.h"
 
 #include <array>
 #include <functional>
@@ -42,6 +43,9 @@ enum class theme_role : std::uint8_t {
     picture,         // a picture box
 };
 
+// What a text or a panel has to say of an answer.
+enum class tone : std::uint8_t { neutral, right, wrong };
+
 struct control {
     explicit control(control_kind of_kind) : kind(of_kind) {}
     control(const control&) = delete;
@@ -59,6 +63,7 @@ struct control {
     double font_size = 9.75;     // points
     theme_role role = theme_role::body;
     std::string accessible_name; // for a screen reader, where the caption does not say enough
+    std::string description;     // more for a screen reader, after the name; of a choice it is shown too
     std::string keys;            // each of these keys presses it, wherever the focus is (see form::press)
     char mnemonic = 0;           // with Alt, presses it; a letter of the caption
 
@@ -73,23 +78,43 @@ struct control {
 struct label : control {
     label() : control(control_kind::label) {}
     bool right_aligned = false;
+    cijferwerf::tone tone = tone::neutral;
+    bool subdued = false;                // said before, still worth reading
+    std::optional<double> share;         // 0 to 1: a value is shown with a bar filled so far
+    std::optional<drawing> mark;         // at the left of the text
+    control* card = nullptr;             // the button that this text belongs to: one card for pointer, focus and reader
+    const control* caption_of = nullptr; // the value that this text names
 };
+
+// What became of an answer.
+enum class answer_result : std::uint8_t { open, tried, right, unused };
 
 struct button : control {
     button() : control(control_kind::button) {}
     bool keeps_enter = true;     // Enter on it presses it, also where the form lists Enter for another
-    std::optional<drawing> mark; // a small drawing above the caption, of drawing::inner_width by drawing::inner_height
+    std::optional<drawing> mark; // a small drawing, fitted by what is drawn on it (see drawn_bounds)
+    // Where a caption is shown as a small line over a large one; the caption stays the whole, for a screen reader.
+    std::string overline, headline;
+    subject about = subject::none;
+    answer_result result = answer_result::open;
+    bool quiet = false; // of use to few: shown as plain text
+    // A sign in the place of the caption, which stays what is spoken.
+    enum class sign : std::uint8_t { none, plus, minus } face = sign::none;
 };
 
 struct option_button : control {
     option_button() : control(control_kind::option_button) {}
     bool selected = false; // at most one of a form is (see form::press)
     std::optional<drawing> mark;
+    subject about = subject::none;
 };
 
 struct list_box : control {
     list_box() : control(control_kind::list_box) {}
     std::vector<std::string> items;
+    enum class item_mark : std::uint8_t { none, first, later }; // solved at the first attempt, or later
+    std::vector<item_mark> marks;                               // as long as items, or empty
+    int row_height = 0;                                         // twips; 0 leaves it to the look
     int selected = -1;                 // position in items, or -1; the front end sets it before it calls a handler
     std::function<void(int)> keypress; // a key code: 13 is Enter
 
@@ -98,6 +123,9 @@ struct list_box : control {
 
 struct frame : control {
     frame() : control(control_kind::frame) {}
+    bool quiet = false;    // waits for something to show
+    int header_height = 0; // twips, of a band at its top in the colour of its tone
+    cijferwerf::tone tone = tone::neutral;
 };
 
 // The picture box is a control and a drawing at once.

@@ -45,6 +45,10 @@ public:
     int width = 12480;        // twips, as is the height
     int height = 7800;        //
     bool side_window = false; // true: a window of its own beside the main one, which stays usable
+    subject about = subject::none;
+    int grid_columns = 0; // of the buttons of a menu: arrow keys go through them row by row and column by column
+    std::optional<point> wanted_place; // of a side window on the main form, twips
+    std::string announcement;          // what a screen reader says when this event is over; the front end empties it
     control* focus = nullptr; // where a handler wants the keyboard to go; the front end takes it and sets it back
 
 protected:

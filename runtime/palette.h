@@ -29,8 +29,8 @@ enum kleur : std::uint8_t {
 inline constexpr int aantal_kleuren = 16;
 
 // 0xRRGGBB of each palette index.
-inline constexpr std::array<std::uint32_t, aantal_kleuren> kleur_rgb{
-    0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080, 0x808000, 0xC0C0C0,
-    0x808080, 0x0000FF, 0x00FF00, 0x00FFFF, 0xFF0000, 0xFF00FF, 0xFFFF00, 0xFFFFFF};
+using kleurtabel = std::array<std::uint32_t, aantal_kleuren>;
+inline constexpr kleurtabel kleur_rgb{0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080, 0x808000, 0xC0C0C0,
+                                      0x808080, 0x0000FF, 0x00FF00, 0x00FFFF, 0xFF0000, 0xFF00FF, 0xFFFF00, 0xFFFFFF};
 
 } // namespace cijferwerf

@@ -91,6 +91,7 @@ public:
     static constexpr int inner_height = 2130;
 
     kleur ground = wit;
+    const kleurtabel* colours = &kleur_rgb; // what the palette's indices mean here
 
     const std::vector<drawing_op>& operations() const { return operations_; }
 
