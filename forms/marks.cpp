@@ -239,26 +239,61 @@ void taken(drawing& on) {
 struct mark_row {
     std::string_view key;
     void (*draw)(drawing&);
+    subject about;
 };
 constexpr mark_row marks[]{
-    {booklet_set, boekjes}, {task_set, taken},        {"boekje01", procenten},    {"boekje02", verhoudingen},
-    {"boekje03", breuken},  {"boekje04", grafieken},  {"boekje05", geld},         {"boekje06", tijd},
-    {"boekje07", meten},    {"boekje08", meetkunde},  {"boekje09", hoofdrekenen}, {"boekje10", schatten},
-    {"boekje11", getallen}, {"boekje12", cijferen},   {"taak01", getallen},       {"taak02", vermenigvuldigen},
-    {"taak03", breuken},    {"taak04", tijd},         {"taak05", herhaling},      {"taak06", kommagetallen},
-    {"taak07", geld},       {"taak08", procenten},    {"taak09", lengtematen},    {"taak10", herhaling},
-    {"taak11", machten},    {"taak12", oppervlakte},  {"taak13", cirkel},         {"taak14", optellen_van_breuken},
-    {"taak15", herhaling},  {"taak16", verhoudingen}, {"taak17", inhoud},         {"taak18", grafieken},
-    {"taak19", energie},    {"taak20", herhaling},
+    {booklet_set, boekjes, subject::none},
+    {task_set, taken, subject::verhoudingen},
+    {"boekje01", procenten, subject::procenten},
+    {"boekje02", verhoudingen, subject::verhoudingen},
+    {"boekje03", breuken, subject::breuken},
+    {"boekje04", grafieken, subject::grafieken},
+    {"boekje05", geld, subject::geld},
+    {"boekje06", tijd, subject::tijd},
+    {"boekje07", meten, subject::meten},
+    {"boekje08", meetkunde, subject::meetkunde},
+    {"boekje09", hoofdrekenen, subject::hoofdrekenen},
+    {"boekje10", schatten, subject::schatten},
+    {"boekje11", getallen, subject::getallen},
+    {"boekje12", cijferen, subject::cijferen},
+    {"taak01", getallen, subject::getallen},
+    {"taak02", vermenigvuldigen, subject::hoofdrekenen},
+    {"taak03", breuken, subject::breuken},
+    {"taak04", tijd, subject::tijd},
+    {"taak05", herhaling, subject::none},
+    {"taak06", kommagetallen, subject::getallen},
+    {"taak07", geld, subject::geld},
+    {"taak08", procenten, subject::procenten},
+    {"taak09", lengtematen, subject::meten},
+    {"taak10", herhaling, subject::none},
+    {"taak11", machten, subject::cijferen},
+    {"taak12", oppervlakte, subject::meetkunde},
+    {"taak13", cirkel, subject::meetkunde},
+    {"taak14", optellen_van_breuken, subject::breuken},
+    {"taak15", herhaling, subject::none},
+    {"taak16", verhoudingen, subject::verhoudingen},
+    {"taak17", inhoud, subject::meten},
+    {"taak18", grafieken, subject::grafieken},
+    {"taak19", energie, subject::schatten},
+    {"taak20", herhaling, subject::none},
 };
+
+const mark_row* find_row(std::string_view key) {
+    const auto row = std::ranges::find(marks, key, &mark_row::key);
+    return row == std::end(marks) ? nullptr : row;
+}
 
 } // namespace
 
 drawing merkteken(std::string_view key) {
     drawing made;
-    const auto row = std::ranges::find(marks, key, &mark_row::key);
-    if (row != std::end(marks)) row->draw(made);
+    if (const mark_row* row = find_row(key)) row->draw(made);
     return made;
+}
+
+subject onderwerp(std::string_view key) {
+    const mark_row* row = find_row(key);
+    return row == nullptr ? subject::none : row->about;
 }
 
 } // namespace cijferwerf
