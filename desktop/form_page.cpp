@@ -2,6 +2,7 @@
 
 #include "desktop/theme.h"
 #include "desktop/widgets.h"
+#include "runtime/picture_reading.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -151,7 +152,7 @@ void form_page::update_widgets() {
 void form_page::copy(placed_control& placed) {
     const control& shown = placed.shown;
     if (auto* picture = dynamic_cast<picture_widget*>(placed.widget)) {
-        picture->setAccessibleDescription(reading_of(static_cast<const picture_box&>(shown)));
+        picture->setAccessibleDescription(QString::fromStdString(read_picture(static_cast<const picture_box&>(shown))));
         picture->update();
     }
     const auto now = placed.current();

@@ -175,21 +175,4 @@ void paint_operations(QPainter& on, const drawing& shown, const QRectF& box, pic
     on.restore();
 }
 
-QString reading_of(const drawing& shown) {
-    std::vector<const text_op*> texts;
-    for (const drawing_op& op : shown.operations())
-        if (const auto* text = std::get_if<text_op>(&op)) texts.push_back(text);
-    // Texts within half a line's height of each other stand on one line.
-    std::ranges::stable_sort(texts, {}, &text_op::y);
-    for (auto first = texts.begin(); first != texts.end();) {
-        const double below = (*first)->y + text_height((*first)->size) / 2;
-        const auto next = std::find_if(first, texts.end(), [&](const text_op* text) { return text->y > below; });
-        std::stable_sort(first, next, [](const text_op* a, const text_op* b) { return a->x < b->x; });
-        first = next;
-    }
-    QStringList words;
-    for (const text_op* text : texts) words << QString::fromStdString(text->text).simplified();
-    return words.join(' ').simplified();
-}
-
 } // namespace cijferwerf

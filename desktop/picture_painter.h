@@ -31,7 +31,4 @@ void paint_drawing(QPainter& on, const drawing& shown, const QRectF& box, pictur
 // The same without the drawing's ground, on what is there.
 void paint_operations(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures);
 
-// What a drawing says, line by line, for who cannot see it.
-QString reading_of(const drawing& shown);
-
 } // namespace cijferwerf

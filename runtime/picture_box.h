@@ -85,6 +85,13 @@ int bold_text_width(std::string_view text, double points);
 constexpr int text_height(double points) { return static_cast<int>(points * 20 * 1.149 + 0.5); }
 constexpr int digit_top(double points) { return static_cast<int>(points * 20 * 0.212 + 0.5); }
 
+// What operations (from the first up to, not including, the end) show, in a sentence of its own for who cannot see
+// them: it is read in place of the texts among them.
+struct spoken_part {
+    std::size_t first, end;
+    std::string sentence;
+};
+
 class drawing {
 public:
     static constexpr int inner_width = 5380;
@@ -94,6 +101,7 @@ public:
     const kleurtabel* colours = &kleur_rgb; // what the palette's indices mean here
 
     const std::vector<drawing_op>& operations() const { return operations_; }
+    std::vector<spoken_part> spoken;
 
     // What the following operations draw with, unless they say otherwise.
     kleur fore_colour = zwart;
@@ -106,7 +114,10 @@ public:
     // White, empty, black on it, 8 points, thin solid lines, position at the top left.
     void reset();
     // Empties the list and leaves everything else as it is.
-    void clear() { operations_.clear(); }
+    void clear() {
+        operations_.clear();
+        spoken.clear();
+    }
 
     // Prints one line at the current position, which then moves to the end of the text.
     void print(std::string_view text);

@@ -139,16 +139,6 @@ TEST(picture_box, a_picture_of_few_colours_is_scaled_without_a_grain) {
     EXPECT_GT(colours.size(), 8U) << "where the four meet there are colours between them";
 }
 
-TEST(picture_box, is_read_line_by_line) {
-    drawing shown;
-    shown.text_size = 12;
-    shown.print_at(3000, 600, "rechts");
-    shown.print_at(200, 630, "links");
-    shown.print_at(900, 1500, "onder");
-    shown.print_at(900, 100, "boven");
-    EXPECT_EQ(reading_of(shown), "boven links rechts onder");
-}
-
 TEST(report, is_printed_on_one_page_with_its_columns_in_line) {
     QTemporaryDir folder;
     const QString file = folder.filePath("score.pdf");
