@@ -1,6 +1,7 @@
 #include "desktop/desktop.h"
 
 #include "desktop/report_printer.h"
+#include "desktop/shipped.h"
 #include "desktop/theme.h"
 
 #include <QApplication>
@@ -267,7 +268,10 @@ void prepare_application() {
 
 void dress_application() {
     QApplication::setApplicationName(QString::fromStdString(program_name));
+    QApplication::setDesktopFileName("cijferwerf");
+    QApplication::setWindowIcon(program_icon());
     QApplication::setQuitOnLastWindowClosed(false);
+    load_shipped_face();
     qApp->installEventFilter(new held_keys(qApp));
     QApplication::setPalette(theme::palette());
     QFont font = twip_font(box_points);

@@ -1,6 +1,7 @@
 #include "desktop/picture_painter.h"
 
-#include <QCoreApplication>
+#include "desktop/shipped.h"
+
 #include <QFontMetricsF>
 
 #include <algorithm>
@@ -137,7 +138,7 @@ private:
 } // namespace
 
 QFont twip_font(double points, bool bold) {
-    QFont font(QStringList{"Liberation Sans", "Arial", "Helvetica"});
+    QFont font(faces);
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 20))));
     font.setBold(bold);
@@ -150,10 +151,7 @@ const QImage& picture_cache::scaled(const std::string& file, QSize size) {
     if (file == file_ && size == size_) return image_;
     file_ = file;
     size_ = size;
-    const QString folder = QCoreApplication::applicationDirPath();
-    const QString name = QString::fromStdString(file);
-    image_ = QImage(folder + '/' + name, "BMP");
-    if (image_.isNull()) image_ = QImage(folder + "/../share/cijferwerf/" + name, "BMP");
+    image_ = QImage(shipped_file(QString::fromStdString(file)), "BMP");
     // In full colour before it is scaled: within its own few colours it would be dithered.
     if (!image_.isNull())
         image_ = image_.convertToFormat(QImage::Format_ARGB32_Premultiplied)

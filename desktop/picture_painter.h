@@ -17,7 +17,6 @@ QFont twip_font(double points, bool bold = false);
 class picture_cache {
 public:
     // The picture of this bare name in this size in pixels; a null image when there is none or it is unreadable.
-    // Looked for beside the program, and then in share/cijferwerf beside the program's folder.
     const QImage& scaled(const std::string& file, QSize size);
 
 private:

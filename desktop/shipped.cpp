@@ -1,0 +1,30 @@
+#include "desktop/shipped.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFontDatabase>
+
+#include <algorithm>
+
+namespace cijferwerf {
+
+QString shipped_file(const QString& name) {
+    const QString folder = QCoreApplication::applicationDirPath();
+    const QString beside = folder + '/' + name;
+    return QFile::exists(beside) ? beside : folder + "/../share/cijferwerf/" + name;
+}
+
+QIcon program_icon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128}) icon.addFile(QString(":/icon/%1.png").arg(size), {size, size});
+    return icon;
+}
+
+void load_shipped_face() {
+    if (std::any_of(faces.begin(), faces.end(), [](const QString& face) { return QFontDatabase::hasFamily(face); }))
+        return;
+    for (const char* file : {"LiberationSans-Regular.ttf", "LiberationSans-Bold.ttf"})
+        QFontDatabase::addApplicationFont(shipped_file(file));
+}
+
+} // namespace cijferwerf
