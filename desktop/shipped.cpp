@@ -3,6 +3,9 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFontDatabase>
+#include <QImage>
+#include <QPixmap>
+#include <QResource>
 
 #include <algorithm>
 
@@ -16,7 +19,11 @@ QString shipped_file(const QString& name) {
 
 QIcon program_icon() {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128}) icon.addFile(QString(":/icon/%1.png").arg(size), {size, size});
+    for (const int size : {16, 24, 32, 48, 64}) {
+        const QResource pixels(QString(":/icon/%1.rgba").arg(size));
+        if (pixels.isValid())
+            icon.addPixmap(QPixmap::fromImage(QImage(pixels.data(), size, size, QImage::Format_RGBA8888)));
+    }
     return icon;
 }
 

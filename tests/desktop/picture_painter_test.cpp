@@ -1,6 +1,7 @@
 // Drawings as they come out in pixels, and texts as wide as the layout of the exercises takes them to be.
 #include "desktop/picture_painter.h"
 #include "desktop/report_printer.h"
+#include "desktop/shipped.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -160,6 +161,14 @@ TEST(report, is_printed_on_one_page_with_its_columns_in_line) {
         EXPECT_EQ(lines[i].simplified(), QString::fromUtf8("oefening %1 goed één keer").arg(i - 1));
         EXPECT_NEAR(static_cast<double>(lines[i].indexOf("goed")), static_cast<double>(lines[1].indexOf("goed")), 1);
     }
+}
+
+TEST(icon, of_each_size_has_a_blue_ship) {
+    const QIcon icon = program_icon();
+    EXPECT_EQ(icon.availableSizes().size(), 5);
+    for (const QSize size : icon.availableSizes())
+        EXPECT_EQ(icon.pixmap(size).toImage().pixelColor(size.width() / 2, size.height() * 3 / 4), QColor("#1D4E9E"))
+            << size.width();
 }
 
 TEST(report, that_cannot_be_written_says_so) {
