@@ -2,6 +2,7 @@
 // child that swaps numerator and denominator, looks at the other part or miscounts.
 #include "generators/breuken/breuken.h"
 #include "generators/gedeeld/opdracht.h"
+#include "generators/gedeeld/tekening.h"
 #include "generators/gedeeld/telwoord.h"
 #include "generators/oefeningen.h"
 
@@ -92,6 +93,8 @@ void oefeningen::B_vlakjes_03_03_click() {
 
     bord(wit, zwart, 12);
     const int boven = (drawing::inner_height - rijen * vorm.vlakje) / 2;
+    vertel(plaatje, regel("Een rechthoek van ", telwoord(rijen), " rijen met elk ", telwoord(vorm.kolommen),
+                          " vlakjes. Rood: ", telwoord(rood_aantal), "."));
     for (int i = 0; i < totaal; ++i) {
         const int plaats = plaatsen[static_cast<std::size_t>(i)];
         const int x = 250 + plaats / rijen * vorm.vlakje;
@@ -199,6 +202,8 @@ void oefeningen::L_stukken_03_14_click() {
     const std::string deel = streepbreuk({tot_B, stukken});
 
     bord(wit, donkerblauw, 16);
+    vertel(plaatje, regel("Een lijnstuk van A naar C in ", telwoord(stukken), " gelijke stukken. B staat bij het ",
+                          rangtelwoord(tot_B), " streepje na A. Eronder de lengte van AB en die van AC:"));
     constexpr int links = 440, rechts = 4940, lijn = 780;
     const auto streep = [&](int i) { return links + (rechts - links) * i / stukken; };
     plaatje.line_width = 3;

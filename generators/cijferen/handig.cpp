@@ -1,6 +1,8 @@
 // Sums that are easier in another way: a factor that lies near a round ten, crates that are counted from two sides, and
 // four numbers of which pairs make whole ones.
 #include "generators/gedeeld/kommasom.h"
+#include "generators/gedeeld/tekening.h"
+#include "generators/gedeeld/telwoord.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -84,6 +86,10 @@ void oefeningen::M_flesjes_12_02_click() {
     constexpr std::string_view opschrift = "VOORAANZICHT                            ZIJAANZICHT";
     constexpr int links = 302, midden_voor = links + 858, midden_opzij = links + 4776 - 690;
     bord(wit, donkerblauw, 12);
+    const auto kratten_naast = [hoog](int naast) {
+        return regel(telwoord(naast), " kratten naast elkaar en ", telwoord(hoog), " op elkaar.");
+    };
+    vertel(plaatje, regel("Van voren ", kratten_naast(breed), " Van opzij ", kratten_naast(diep)));
     druk(links, 40, opschrift);
     plaatje.filled_box(100, 2040, 5180, 30, grijs);
     teken_stapel(plaatje, midden_voor, 2040, breed, hoog, 400, 335);

@@ -1,5 +1,8 @@
 #include "generators/gedeeld/tekening.h"
 
+#include "generators/gedeeld/telwoord.h"
+#include "runtime/number_text.h"
+
 #include <algorithm>
 #include <numbers>
 
@@ -10,6 +13,15 @@ namespace {
 int heel(double value) { return static_cast<int>(std::lround(value)); }
 
 } // namespace
+
+void vertel(drawing& on, std::string zin) {
+    on.spoken.push_back({on.operations().size(), on.operations().size(), std::move(zin)});
+}
+
+std::string in_stappen(double waarde, double stap) {
+    const int tienden = heel(10 * waarde / stap);
+    return tienden % 10 == 0 ? telwoord(tienden / 10) : regel(kaal(komma(tienden, 1)));
+}
 
 point op_cirkel(point midden, double straal, double graden) {
     const double hoek = graden * std::numbers::pi / 180;

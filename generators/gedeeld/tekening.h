@@ -49,6 +49,30 @@ private:
     int width_;
 };
 
+// Tells what is seen and not read, in a sentence for who cannot see it. It says how something lies or how many marks
+// high it is, in words, and leaves to the pupil what that is worth.
+void vertel(drawing& on, std::string zin);
+
+// The texts that are drawn while it lives are read as this sentence, or, without one, not at all.
+class verteld_als {
+public:
+    explicit verteld_als(drawing& on, std::string zin = {})
+        : on_(on),
+          eerste_(on.operations().size()),
+          zin_(std::move(zin)) {}
+    ~verteld_als() { on_.spoken.push_back({eerste_, on_.operations().size(), std::move(zin_)}); }
+    verteld_als(const verteld_als&) = delete;
+    verteld_als& operator=(const verteld_als&) = delete;
+
+private:
+    drawing& on_;
+    std::size_t eerste_;
+    std::string zin_;
+};
+
+// How many steps a value is: "zeven", or to a tenth "7,5".
+std::string in_stappen(double waarde, double stap);
+
 // From the top of a line of text to the middle of its digits.
 constexpr int halve_regel(double points) { return static_cast<int>(points * 20 * 0.5585 + 0.5); }
 

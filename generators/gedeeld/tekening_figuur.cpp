@@ -1,5 +1,7 @@
 #include "generators/gedeeld/tekening_figuur.h"
 
+#include "generators/gedeeld/telwoord.h"
+
 #include "runtime/checked_error.h"
 
 #include <algorithm>
@@ -52,7 +54,23 @@ void roosterfiguur::teken_rand(drawing& on, const rooster& op) const {
     }
 }
 
+std::string roosterfiguur::rand() const {
+    std::string zin;
+    for (std::size_t i = 0; i < hoeken_.size(); ++i) {
+        const point &van = hoeken_[i], &naar = hoeken_[(i + 1) % hoeken_.size()];
+        const int opzij = naar.x - van.x, omlaag = naar.y - van.y;
+        if (i > 0) zin += ", ";
+        if (opzij != 0) zin += telwoord(std::abs(opzij)) + (opzij > 0 ? " naar rechts" : " naar links");
+        if (opzij != 0 && omlaag != 0) zin += " met ";
+        if (omlaag != 0) zin += telwoord(std::abs(omlaag)) + (omlaag > 0 ? " omlaag" : " omhoog");
+    }
+    return zin;
+}
+
 void teken_rooster(drawing& on, const rooster& op, const std::vector<gekleurde_figuur>& figuren) {
+    for (int nummer = 0; const auto& [figuur, vulling] : figuren)
+        vertel(on, regel("De ", rangtelwoord(++nummer), " figuur is ", woord(vulling),
+                         ". In hokjes loopt de rand: ", figuur.rand(), "."));
     const zelfde_stand bewaard(on);
     for (const auto& [figuur, vulling] : figuren) figuur.teken(on, op, vulling);
     const point eind = op.hoek({op.breed, op.hoog});
@@ -82,6 +100,8 @@ int twips(double value) { return static_cast<int>(std::lround(value)); }
 void teken_doos(drawing& on, const vlak& binnen, int breedte, int diepte, int hoogte, std::string_view achter) {
     constexpr double naar_rechts = 0.5, omhoog = 0.38; // of what lies behind, per unit of depth
     const auto maat = [&](int waarde) { return regel(kaal(waarde), achter); };
+    vertel(on, regel("Een doos: ", maat(breedte), " breed, ", maat(diepte), " diep en ", maat(hoogte), " hoog."));
+    const verteld_als stil(on);
     const int naast = naast_hoogte(on, maat(hoogte)), links = 2 * naast;
     const int rechts = text_width(maat(diepte), on.text_size), onder = maatlijn + text_height(on.text_size);
     const double schaal = schaal_voor(binnen.breedte - links - rechts, breedte + naar_rechts * diepte,
@@ -113,6 +133,8 @@ void teken_doos(drawing& on, const vlak& binnen, int breedte, int diepte, int ho
 void teken_cilinder(drawing& on, const vlak& binnen, int middellijn, int hoogte, std::string_view achter) {
     constexpr double plat = 0.28; // how flat the circles are seen
     const auto maat = [&](int waarde) { return regel(kaal(waarde), achter); };
+    vertel(on, regel("Een cilinder met een middellijn van ", maat(middellijn), " en ", maat(hoogte), " hoog."));
+    const verteld_als stil(on);
     const int naast = naast_hoogte(on, maat(hoogte)), onder = maatlijn + text_height(on.text_size);
     const double schaal =
         schaal_voor(binnen.breedte - 4 * naast, middellijn, binnen.hoogte - onder, hoogte + plat * middellijn);

@@ -25,6 +25,8 @@ public:
     // In half squares, which is exact for any corners on the grid, and in whole ones: half a square left ends the run.
     int halve_hokjes() const;
     int oppervlakte() const;
+    // The way along its edge in words, from its first corner on; a slanting side goes aside "met" up or down.
+    std::string rand() const;
     roosterfiguur verschoven(int rechts, int omlaag) const;
 
     // One filled polygon, and its edge as lines.

@@ -1,5 +1,6 @@
 #include "generators/gedeeld/tekening_grafiek.h"
 
+#include "generators/gedeeld/telwoord.h"
 #include "runtime/checked_error.h"
 
 #include <algorithm>
@@ -18,13 +19,23 @@ int tussen(int waarde, const asschaal& langs, int van, int tot) {
     return van + static_cast<int>(std::lround(1.0 * (waarde - langs.van) * (tot - van) / (langs.tot - langs.van)));
 }
 
+// "0, 20 enzovoort tot 160, bij elke tweede streep"
+std::string getallen_langs(const asschaal& langs, int om, std::string_view achter) {
+    const auto getal = [&](int waarde) { return regel(kaal(duizend(waarde / langs.een)), achter); };
+    const int laatste = langs.van + (langs.tot - langs.van) / om * om, strepen = om / langs.stap;
+    return regel(getal(langs.van), ", ", getal(langs.van + om), " enzovoort tot ", getal(laatste),
+                 strepen == 1 ? ", bij elke streep" : regel(", bij elke ", rangtelwoord(strepen), " streep"));
+}
+
 } // namespace
 
 assen::assen(drawing& on, const vlak& plot, asschaal langs_x, asschaal langs_y)
     : on_(on),
       plot_(plot),
       langs_x_(langs_x),
-      langs_y_(langs_y) {
+      langs_y_(langs_y),
+      zin_(on.spoken.size()) {
+    cijferwerf::vertel(on, "");
     if (langs_x.tot <= langs_x.van || langs_y.tot <= langs_y.van || langs_x.stap < 1 || langs_y.stap < 1 ||
         langs_x.een < 1 || langs_y.een < 1)
         throw checked_error("an axis without length");
@@ -37,6 +48,40 @@ assen::assen(drawing& on, const vlak& plot, asschaal langs_x, asschaal langs_y)
 
 int assen::x(int waarde) const { return tussen(waarde, langs_x_, plot_.links, plot_.rechts()); }
 int assen::y(int waarde) const { return tussen(waarde, langs_y_, plot_.onder(), plot_.boven); }
+
+std::string assen::hoogte(int waarde) const { return in_stappen(waarde - langs_y_.van, langs_y_.stap); }
+
+void assen::vertel() {
+    std::string zin = "Een grafiek.";
+    const auto as = [&zin](std::string_view kant, const beschrift& van) {
+        if (van.getallen.empty()) return;
+        zin += regel(" ", kant, van.naam.empty() ? "" : regel(" (", van.naam, ")"), ": ", van.getallen, ".");
+    };
+    as("Omhoog", omhoog_);
+    as("Naar rechts", opzij_);
+    const bool benoemd = namen_.size() == kolommen_.size();
+    for (std::size_t i = 0; i < kolommen_.size(); ++i) {
+        const auto [in, waarde] = kolommen_[i];
+        const bool andere = !benoemd && (i == 0 || in != kolommen_[i - 1].in);
+        zin += i == 0 ? " De kolommen van links naar rechts, in strepen hoog: " : andere ? "; " : ", ";
+        if (andere) zin += regel(woord(in), " ");
+        if (benoemd) zin += namen_[i] + " ";
+        zin += hoogte(waarde);
+    }
+    if (!kolommen_.empty()) zin += '.';
+    for (const auto& [in, waarden] : lijnen_) {
+        const bool op_naam = namen_.size() == waarden.size();
+        zin += regel(" De ", bijvoeglijk(in),
+                     op_naam ? " lijn, in strepen hoog: " : " lijn, in strepen naar rechts en omhoog: ");
+        for (std::size_t i = 0; i < waarden.size(); ++i) {
+            if (i > 0) zin += ", ";
+            zin += op_naam ? namen_[i] + " " : in_stappen(waarden[i].x - langs_x_.van, langs_x_.stap) + " en ";
+            zin += hoogte(waarden[i].y);
+        }
+        zin += '.';
+    }
+    on_.spoken[zin_].sentence = std::move(zin);
+}
 
 void assen::lijnen_op() {
     const zelfde_stand bewaard(on_);
@@ -51,17 +96,26 @@ void assen::lijnen_langs() {
 }
 
 void assen::getallen_links(std::string_view achter, int om) {
+    omhoog_.getallen = getallen_langs(langs_y_, om == 0 ? langs_y_.stap : om, achter);
+    vertel();
+    const verteld_als stil(on_);
     for (int waarde = langs_y_.van; waarde <= langs_y_.tot; waarde += om == 0 ? langs_y_.stap : om)
         on_.print_right(plot_.links - room, y(waarde) - halve_regel(on_.text_size),
                         regel(kaal(duizend(waarde / langs_y_.een)), achter));
 }
 
 void assen::getallen_onder(int om) {
+    opzij_.getallen = getallen_langs(langs_x_, om == 0 ? langs_x_.stap : om, "");
+    vertel();
+    const verteld_als stil(on_);
     for (int waarde = langs_x_.van; waarde <= langs_x_.tot; waarde += om == 0 ? langs_x_.stap : om)
         on_.print_centred(x(waarde), plot_.onder() + room / 2, kaal(duizend(waarde / langs_x_.een)));
 }
 
 void assen::namen_onder(const std::vector<std::string>& namen) {
+    namen_ = namen;
+    vertel();
+    const verteld_als stil(on_);
     int links = langs_x_.van;
     for (const std::string& naam : namen) {
         on_.print_centred((x(links) + x(links + langs_x_.stap)) / 2, plot_.onder() + room / 2, naam);
@@ -70,17 +124,25 @@ void assen::namen_onder(const std::vector<std::string>& namen) {
 }
 
 void assen::naam_boven(std::string_view naam) {
+    omhoog_.naam = naam;
+    vertel();
+    const verteld_als stil(on_);
     // Clear of the uppermost number, half of which rises above the plot.
     const int left = std::max(plot_.links - text_width(naam, on_.text_size) / 2, 60);
     on_.print_at(left, plot_.boven - text_height(on_.text_size) * 3 / 2, naam);
 }
 
 void assen::naam_rechts(std::string_view naam) {
+    opzij_.naam = naam;
+    vertel();
+    const verteld_als stil(on_);
     on_.print_at(plot_.rechts() + 2 * room, plot_.onder() - halve_regel(on_.text_size), naam);
 }
 
 void assen::lijn(const std::vector<point>& waarden, kleur met, bool stippen) {
     constexpr int dot = 32;
+    lijnen_.push_back({met, waarden});
+    vertel();
     const zelfde_stand bewaard(on_, 2);
     for (std::size_t i = 1; i < waarden.size(); ++i)
         on_.line(x(waarden[i - 1].x), y(waarden[i - 1].y), x(waarden[i].x), y(waarden[i].y), met);
@@ -89,6 +151,8 @@ void assen::lijn(const std::vector<point>& waarden, kleur met, bool stippen) {
 }
 
 vlak assen::kolom(int van, int tot, int waarde, kleur met) {
+    kolommen_.push_back({met, waarde});
+    vertel();
     const vlak staat{x(van), y(waarde), x(tot) - x(van), plot_.onder() - y(waarde)};
     const zelfde_stand bewaard(on_);
     on_.filled_box(staat.links, staat.boven, staat.breedte, staat.hoogte, met);
@@ -100,6 +164,12 @@ void teken_taart(drawing& on, point midden, int straal, const std::vector<taartd
     const zelfde_stand bewaard(on);
     const int geheel =
         std::accumulate(delen.begin(), delen.end(), 0, [](int sum, const taartdeel& each) { return sum + each.deel; });
+    std::string zin = "Een cirkel in delen. In twaalfden van de cirkel: ";
+    for (const taartdeel& each : delen)
+        zin += regel(&each == &delen.front() ? "" : ", ", each.tekst.empty() ? woord(each.vulling) : each.tekst,
+                     each.gestreept ? " gestreept " : " ", in_stappen(12.0 * each.deel, geheel));
+    vertel(on, zin + '.');
+    const verteld_als stil(on);
     struct sector {
         double vanaf, sweep;
     };
@@ -159,6 +229,8 @@ int teken_legenda(drawing& on, int x, int y, const std::vector<legendaregel>& re
     const zelfde_stand bewaard(on);
     const int step = text_height(on.text_size) * 5 / 4, side = step * 3 / 5;
     for (const legendaregel& each : regels) {
+        const bool noemt = each.naam.find(woord(each.vulling)) != std::string::npos;
+        const verteld_als genoemd(on, noemt ? each.naam : regel(woord(each.vulling), ": ", each.naam, "."));
         on.filled_box(x, y + (step - side) / 2, side, side, each.vulling);
         on.box(x, y + (step - side) / 2, side, side, on.fore_colour);
         on.print_at(x + side * 3 / 2, y + step / 2 - halve_regel(on.text_size), each.naam);

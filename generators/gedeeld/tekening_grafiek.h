@@ -44,9 +44,29 @@ public:
     vlak kolom(int van, int tot, int waarde, kleur met);
 
 private:
+    // What is known of the graph so far, as its sentence.
+    void vertel();
+    std::string hoogte(int waarde) const;
+
+    struct beschrift { // how an axis is
+        std::string naam, getallen;
+    };
+    struct staaf {
+        kleur in;
+        int waarde;
+    };
+    struct verloop {
+        kleur in;
+        std::vector<point> waarden;
+    };
     drawing& on_;
     vlak plot_;
     asschaal langs_x_, langs_y_;
+    std::size_t zin_; // its place among what the drawing tells
+    beschrift omhoog_, opzij_;
+    std::vector<std::string> namen_;
+    std::vector<staaf> kolommen_;
+    std::vector<verloop> lijnen_;
 };
 
 // A part of a pie: its size in any unit (the parts together are the whole), its colour, a text in it or none, and

@@ -1,5 +1,7 @@
 #include "generators/gedeeld/tekening_macht.h"
 
+#include "generators/gedeeld/tekening.h"
+
 namespace cijferwerf {
 
 namespace {
@@ -24,6 +26,11 @@ void lees_machten(std::string_view text, Base base, Exponent exponent) {
 } // namespace
 
 int teken_met_machten(drawing& on, int x, int y, std::string_view text) {
+    std::string gelezen;
+    lees_machten(
+        text, [&](std::string_view base) { gelezen += base; },
+        [&](std::string_view exponent) { gelezen.append(" tot de macht ").append(exponent); });
+    const verteld_als macht(on, gelezen);
     const double points = on.text_size;
     // The exponent's digits begin a little above those of the base.
     const int raised = y + digit_top(points) - digit_top(points * exponent_size) - static_cast<int>(points * 2);

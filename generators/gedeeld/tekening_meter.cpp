@@ -1,5 +1,7 @@
 #include "generators/gedeeld/tekening_meter.h"
 
+#include "generators/gedeeld/telwoord.h"
+
 #include <algorithm>
 
 namespace cijferwerf {
@@ -15,6 +17,22 @@ void teken_naald(drawing& on, point midden, int lengte, int half_width, double g
     on.polygon({op_cirkel(midden, half_width, graden + 90), op_cirkel(midden, lengte, graden),
                 op_cirkel(midden, half_width, graden - 90), op_cirkel(midden, half_width * 2, graden + 180)},
                met, true);
+}
+
+// Where a needle stands among numbers that lie so many steps apart on a clock.
+std::string bij_uur(int stand, int per_uur) {
+    const int uur = (stand / per_uur + 11) % 12 + 1, verder = stand % per_uur;
+    return verder == 0 ? regel("op de", uur) : regel("tussen de", uur, " en de", uur % 12 + 1);
+}
+
+std::string verteld(const wijzerschaal& langs, int waarde) {
+    if (langs.getal == 0)
+        return regel("Een wijzerplaat met ", telwoord(langs.tot / langs.lang), " lange streepjes. De wijzer staat ",
+                     in_stappen(waarde, langs.lang), " lange streepjes na het begin.");
+    const int onder = waarde / langs.getal * langs.getal, verder = waarde - onder;
+    return regel("Een wijzerplaat met de getallen 0,", langs.getal, " enzovoort tot", langs.tot, " en ",
+                 telwoord(langs.getal / langs.kort), " stukjes van getal tot getal. De wijzer staat ",
+                 verder == 0 ? "op" : regel(in_stappen(verder, langs.kort), " stukje verder dan"), onder, ".");
 }
 
 } // namespace
@@ -36,6 +54,7 @@ int teller_breedte(std::string_view getal, double points) { return text_width(ci
 
 void teken_teller(drawing& on, int x, int y, std::string_view getal) {
     const zelfde_stand bewaard(on);
+    const verteld_als teller(on, std::string(kaal(getal)));
     const std::string wijd = cijfers_wijd(getal);
     const int window = text_width("0  ", on.text_size), blank = text_width(" ", on.text_size);
     const int width = teller_breedte(getal, on.text_size), height = teller_hoogte(on.text_size);
@@ -56,6 +75,7 @@ void teken_teller(drawing& on, int x, int y, std::string_view getal) {
 void teken_wijzerplaat(drawing& on, point midden, int straal, const wijzerschaal& langs, int waarde,
                        std::string_view opschrift) {
     const zelfde_stand bewaard(on);
+    vertel(on, verteld(langs, waarde));
     const auto graden = [&](int at) { return langs.vanaf - langs.boog * at / langs.tot; };
     const bool round = langs.boog > 180;
     const double sweep = round ? 360 : langs.boog, right_end = langs.vanaf - langs.boog;
@@ -69,6 +89,7 @@ void teken_wijzerplaat(drawing& on, point midden, int straal, const wijzerschaal
              op_cirkel(midden, share(straal, lang ? 0.84 : 0.91), graden(at)), on.fore_colour);
     }
     for (int at = 0; langs.getal > 0 && at <= langs.tot; at += langs.getal) {
+        const verteld_als stil(on);
         const std::string getal = regel(kaal(duizend(at)));
         // As far out as the text is deep in that direction.
         const point out = op_cirkel({0, 0}, 1000, graden(at));
@@ -86,6 +107,9 @@ void teken_wijzerplaat(drawing& on, point midden, int straal, const wijzerschaal
 
 void teken_klok(drawing& on, point midden, int straal, int minuten) {
     const zelfde_stand bewaard(on);
+    vertel(on, regel("Een wekker. De kleine wijzer staat ", bij_uur(minuten % 720, 60), ", de grote ",
+                     bij_uur(minuten % 60, 5), "."));
+    const verteld_als stil(on);
     // Bells and feet first: the case lies over them.
     for (const double side : {50.0, 130.0}) {
         const point bell = op_cirkel(midden, straal * 1.05, side);

@@ -1,12 +1,31 @@
 #include "generators/gedeeld/tekening_som.h"
 
+#include "generators/gedeeld/telwoord.h"
+
 #include <algorithm>
 
 namespace cijferwerf {
 
+namespace {
+
+std::string verteld(const std::vector<somregel>& getallen, std::string_view teken) {
+    std::string zin = "Onder elkaar:";
+    for (auto [getal, inspringing] : getallen) {
+        std::erase(getal, ' ');
+        zin += regel(" ", getal);
+        if (inspringing != 0)
+            zin += regel(", ", telwoord(std::abs(inspringing)), inspringing > 0 ? " naar links" : " naar rechts");
+        zin += ';';
+    }
+    return regel(zin, " ", teken, ".");
+}
+
+} // namespace
+
 int teken_kolomsom(drawing& on, int rechts, int boven, const std::vector<somregel>& getallen, std::string_view teken) {
     constexpr int past = 50; // how far the bar reaches past the digits
     const zelfde_stand bewaard(on);
+    const verteld_als som(on, verteld(getallen, teken));
     const int digit = text_width("0", on.text_size), step = text_height(on.text_size);
     int left = rechts, right = rechts, y = boven;
     for (const auto& [getal, inspringing] : getallen) {

@@ -2,6 +2,7 @@
 // The wrong answers take half a figure for a whole one, or read the scale or the sector wrong.
 #include "generators/gedeeld/opdracht.h"
 #include "generators/gedeeld/tekening_grafiek.h"
+#include "generators/gedeeld/telwoord.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -47,6 +48,8 @@ void oefeningen::B_inwoners_04_18_click() {
     const int inwoners = helften * (schaal / 2);
 
     bord(wit, donkerblauw, 12);
+    vertel(plaatje,
+           regel("Een beelddiagram met ", telwoord(hele), " hele figuurtjes en een half. Eronder één figuurtje:"));
     plaatje.filled_box(0, 1720, drawing::inner_width, drawing::inner_height - 1720, lichtcyaan);
     const int per_rij = (hele + 2) / 2;
     const int links = (drawing::inner_width - per_rij * 600) / 2 + 300;

@@ -2,6 +2,7 @@
 // number of centimetres beside a bar of one centimetre.
 #include "generators/gedeeld/opdracht.h"
 #include "generators/gedeeld/tekening.h"
+#include "generators/gedeeld/telwoord.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -112,6 +113,7 @@ void oefeningen::L_schaal_10_16_click() {
 
     bord(wit, zwart, 12);
     const int breedte = getekend * centimeter, links = (drawing::inner_width - breedte) / 2, grond = 1200;
+    vertel(plaatje, regel("Een tekening die ", telwoord(getekend), " keer zo lang is als het staafje van 1 cm."));
     o.teken(plaatje, links, grond, breedte);
     teken_maat(plaatje, {links, grond + 340}, {links + breedte, grond + 340}, meters);
     plaatje.filled_box(250, 1860, centimeter, 60, donkerrood);

@@ -3,6 +3,7 @@
 #include "generators/gedeeld/maten.h"
 #include "generators/gedeeld/opdracht.h"
 #include "generators/gedeeld/tekening_grafiek.h"
+#include "generators/gedeeld/telwoord.h"
 #include "generators/oefeningen.h"
 
 #include <cstdlib>
@@ -38,10 +39,13 @@ void oefeningen::B_gestreept_10_03_click() {
     const int procent = 25 * stukken;
     // A little more or less than whole pieces.
     const int scheef = trek_van(1, 4);
-    const double boog = 3.6 * (kop() ? procent + scheef : procent - scheef);
+    const bool meer = kop();
+    const double boog = 3.6 * (meer ? procent + scheef : procent - scheef);
     const double vanaf = (5 - variant) * 90 - boog;
 
     bord(wit, zwart, 12);
+    vertel(plaatje, regel("Een cirkel in vier gelijke stukken. Gestreept is iets ", meer ? "meer" : "minder", " dan ",
+                          telwoord(stukken), stukken == 1 ? " stuk." : " stukken."));
     arceer_sector(plaatje, midden, straal, vanaf, boog, donkerblauw);
     plaatje.line_width = 2;
     plaatje.circle(midden.x, midden.y, straal, zwart);

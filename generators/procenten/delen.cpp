@@ -2,6 +2,7 @@
 #include "generators/gedeeld/kalender.h"
 #include "generators/gedeeld/tekening_blad.h"
 #include "generators/gedeeld/tekening_grafiek.h"
+#include "generators/gedeeld/telwoord.h"
 #include "generators/oefeningen.h"
 
 namespace cijferwerf {
@@ -202,6 +203,7 @@ void oefeningen::B_grasveld_01_08_click() {
     bord(wit, zwart, 8);
     const int breedte = 5000 / n;
     const int links = (drawing::inner_width - n * breedte) / 2;
+    vertel(plaatje, regel("Een grasveld in ", telwoord(n), " gelijke banen. Lichtgroen: ", telwoord(m), "."));
     for (int i = 0; i < n; ++i) {
         plaatje.filled_box(links + i * breedte, 165, breedte, 1800, i < m ? lichtgroen : groen);
         plaatje.box(links + i * breedte, 165, breedte, 1800, zwart);

@@ -102,7 +102,10 @@ void oefeningen::L_wachten_06_04_click() {
 
     bord(wit, zwart, 16);
     plaatje.picture("wachten.bmp");
-    druk_midden(1000, 885, aankomst.cijfers());
+    {
+        const verteld_als horloge(plaatje, regel("Op het horloge staat ", aankomst.cijfers(), "."));
+        druk_midden(1000, 885, aankomst.cijfers());
+    }
     plaatje.text_size = 12;
     const auto op_bord = [this](int y, std::string_view kop, std::string_view tekst) {
         plaatje.fore_colour = wit;

@@ -13,9 +13,11 @@ namespace cijferwerf {
 
 namespace {
 
+constexpr int deur_breed = 230;
+
 // A house on the line at y = 1700, its front three quarters as high as it is wide; the door never changes.
 void teken_huis(drawing& on, int midden, int breedte, kleur verf) {
-    static constexpr int grond = 1700, deur_breed = 230, deur_hoog = 400;
+    static constexpr int grond = 1700, deur_hoog = 400;
     const int hoogte = breedte * 3 / 4, links = midden - breedte / 2, boven = grond - hoogte;
     const std::vector<point> dak{
         {links - 60, boven}, {midden, boven - breedte / 3}, {links + breedte + 60, boven}, {links - 60, boven}};
@@ -76,6 +78,8 @@ void oefeningen::B_huis_02_16_click() {
     for (int midden = 920; const huis& h : geschud(huizen)) {
         teken_huis(plaatje, midden, h.breedte, h.verf);
         druk_midden(midden, 1770, h.woord());
+        vertel(plaatje, regel("De voorkant van het ", h.bijvoeglijk(), " huis is ", in_stappen(h.breedte, deur_breed),
+                              " deuren breed."));
         midden += 1770;
     }
 
@@ -147,6 +151,9 @@ void oefeningen::B_maatbeker_02_16_click() {
     const auto hoogte_van = [n](int streepje) { return bodem - hoogte * streepje / n; };
 
     bord(lichtgrijs, zwart, 12);
+    vertel(plaatje,
+           regel("Een maatbeker met ", telwoord(n), " streepjes, het laatste aan de rand. De limonade komt tot het ",
+                 rangtelwoord(vol), " streepje."));
     plaatje.ellipse(links + breedte, 1050, 480, 560, grijs, true);
     plaatje.ellipse(links + breedte, 1050, 360, 440, lichtgrijs, true);
     plaatje.filled_box(links, hoogte_van(n), breedte, hoogte, wit);
@@ -211,6 +218,8 @@ void oefeningen::L_cirkels_02_16_click() {
         plaatje.filled_circle(midden_x, midden_y, straal, donkerblauw);
         plaatje.sector(midden_x, midden_y, straal, 0, graden, rood, true);
         plaatje.circle(midden_x, midden_y, straal, zwart);
+        const verteld_als cirkel(plaatje, regel("In twaalfden van de cirkel is ", naam,
+                                                " rood: ", in_stappen(12.0 * rood_deel.teller, rood_deel.noemer), "."));
         druk_midden(midden_x, 1820, naam);
     }
 

@@ -1,20 +1,24 @@
 // What the drawing verbs leave on the picture: words that can be read, shapes and needles where their numbers say.
+#include "generators/gedeeld/breuk.h"
 #include "generators/gedeeld/tekening_blad.h"
 #include "generators/gedeeld/tekening_figuur.h"
 #include "generators/gedeeld/tekening_geld.h"
 #include "generators/gedeeld/tekening_grafiek.h"
 #include "generators/gedeeld/tekening_lijn.h"
+#include "generators/gedeeld/tekening_macht.h"
 #include "generators/gedeeld/tekening_meter.h"
 #include "generators/gedeeld/tekening_som.h"
 #include "generators/gedeeld/tekening_tabel.h"
 
 #include "runtime/checked_error.h"
+#include "runtime/picture_reading.h"
 #include "tests/support/crossing.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace cijferwerf {
 namespace {
@@ -363,6 +367,82 @@ TEST(dial, points_at_the_mark_of_its_value) {
         teken_wijzerplaat(on, {1'000, 1'000}, 800, {200, 10, 20}, value);
         EXPECT_NEAR(points_at(all<polygon_op>(on)[0], {1'000, 1'000}), degrees, 0.6) << value;
         EXPECT_EQ(all<line_op>(on).size(), 21U) << "marks";
+    }
+}
+
+TEST(tekening, is_read_aloud_with_what_its_texts_do_not_say) {
+    struct row {
+        std::function<void(drawing&)> draw;
+        std::string_view says;
+    };
+    const std::array<row, 11> rows{{
+        {[](drawing& on) {
+             teken_klok(on, {2000, 1000}, 800, 6 * 60 + 35);
+         },
+         "Een wekker. De kleine wijzer staat tussen de 6 en de 7, de grote op de 7."},
+        {[](drawing& on) {
+             teken_klok(on, {2000, 1000}, 800, 12 * 60 + 59);
+         },
+         "Een wekker. De kleine wijzer staat tussen de 12 en de 1, de grote tussen de 11 en de 12."},
+        {[](drawing& on) {
+             teken_wijzerplaat(on, {2000, 1000}, 800, {200, 10, 20, 20}, 70, "km/uur");
+         },
+         "Een wijzerplaat met de getallen 0, 20 enzovoort tot 200 en twee stukjes van getal tot getal. De wijzer staat "
+         "één stukje verder dan 60. km/uur"},
+        {[](drawing& on) {
+             teken_wijzerplaat(on, {2000, 1000}, 800, {1000, 50, 100, 0}, 650);
+         },
+         "Een wijzerplaat met tien lange streepjes. De wijzer staat 6,5 lange streepjes na het begin."},
+        {[](drawing& on) {
+             getallenlijn lijn(on, 290, 5090, 1150, 10);
+             lijn.getal(0, "15");
+             lijn.pijl(7, rood, "rood");
+             lijn.getal(10, "25");
+         },
+         "Een getallenlijn in tien gelijke stukjes. Bij het begin staat 15. De rode pijl wijst naar het zevende "
+         "streepje. Bij het eind staat 25."},
+        {[](drawing& on) {
+             assen grafiek(on, {480, 240, 4000, 1640}, {0, 2, 1}, {60, 100, 10});
+             grafiek.kolom(0, 1, 90, groen);
+             grafiek.kolom(1, 2, 75, rood);
+             grafiek.getallen_links("", 20);
+             grafiek.naam_boven("mm");
+         },
+         "Een grafiek. Omhoog (mm): 60, 80 enzovoort tot 100, bij elke tweede streep. De kolommen van links naar "
+         "rechts, in strepen hoog: groen drie; rood 1,5."},
+        {[](drawing& on) {
+             assen grafiek(on, {480, 240, 4000, 1640}, {0, 8, 4}, {0, 100, 10});
+             grafiek.lijn({{0, 0}, {4, 55}, {8, 40}}, donkerblauw);
+             grafiek.lijn({{2, 20}, {6, 30}}, rood);
+             grafiek.namen_onder({"j", "f"});
+         },
+         "Een grafiek. De blauwe lijn, in strepen naar rechts en omhoog: nul en nul, één en 5,5, twee en vier. De rode "
+         "lijn, in strepen hoog: j twee, f drie."},
+        {[](drawing& on) {
+             teken_taart(on, {2000, 1000}, 800, {{3, rood}, {1, geel, "rest", true}});
+         },
+         "Een cirkel in delen. In twaalfden van de cirkel: rood negen, rest gestreept drie."},
+        {[](drawing& on) {
+             teken_kolomsom(on, 2000, 100, {{"3  5"}, {"7", 1}}, "+");
+         },
+         "Onder elkaar: 35; 7, één naar links; +."},
+        {[](drawing& on) {
+             teken_breuk(on, 100, 500, 2, 3, 4);
+             on.print_at(1500, 400, "=");
+             teken_met_machten(on, 2000, 400, "3^2 x 5^10");
+         },
+         "2 3/4 = 3 tot de macht 2 x 5 tot de macht 10"},
+        {[](drawing& on) {
+             teken_rooster(on, {{0, 0}, 270, 9, 5}, {{roosterfiguur({{0, 0}, {3, 0}, {2, 2}, {0, 2}}), grijs}});
+         },
+         "De eerste figuur is grijs. In hokjes loopt de rand: drie naar rechts, één naar links met twee omlaag, twee "
+         "naar links, twee omhoog."},
+    }};
+    for (const auto& [draw, says] : rows) {
+        drawing on;
+        on.text_size = 12;
+        draw(on);
+        EXPECT_EQ(read_picture(on), says);
     }
 }
 

@@ -272,6 +272,20 @@ TEST_P(every_exercise, ends_its_explanation_with_the_right_answer) {
     });
 }
 
+TEST_P(every_exercise, reads_its_picture_aloud_without_giving_away_the_answer) {
+    each([&](const oefening& made) {
+        const seen exercise(made);
+        std::string said;
+        for (const spoken_part& part : made.plaatje.spoken) said += part.sentence + " ";
+        const auto all = exercise.answers();
+        const bool tells_all = std::ranges::all_of(all, [&](const std::string& each) { return names(said, each); });
+        std::string apart = exercise.right; // as a fraction is printed
+        std::ranges::replace(apart, '/', ' ');
+        EXPECT_TRUE(tells_all || names(exercise.sheet(), apart) || !names(said, exercise.right))
+            << exercise.right << " | " << said;
+    });
+}
+
 TEST_P(every_exercise, fits_the_screen) {
     each([&](const oefening& made) {
         const double size = vraag_punten(made.vraagregels);
