@@ -20,7 +20,7 @@ class nowhere : public outside {
 public:
     void show(form&) override {}
     void unload(form&) override {}
-    box_answer ask(const std::string&, const std::string&, box_buttons) override { return box_answer::ok; }
+    void ask(form&, message_box, std::function<void(box_answer)>) override {}
     print_result print(const report&) override { return {}; }
     float seconds_since_midnight() const override { return fixed_clock; }
     local_time now() const override { return {}; }

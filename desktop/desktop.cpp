@@ -8,13 +8,13 @@
 #include <QCloseEvent>
 #include <QDateTime>
 #include <QKeyEvent>
-#include <QLayout>
-#include <QMessageBox>
-#include <QPushButton>
+#include <QPainter>
+#include <QPointer>
 #include <QScreen>
 #include <QStackedWidget>
 
-#include <cmath>
+#include <cstdio>
+#include <utility>
 
 namespace cijferwerf {
 
@@ -82,7 +82,60 @@ private:
     desktop& of_;
 };
 
-desktop::desktop() : window_(std::make_unique<main_window>(*this)), gate_(steady_now) {
+// Over a page while a message box is open: darkens it and keeps pointer and keyboard from it.
+class desktop::shade : public QWidget {
+public:
+    explicit shade(form_page& over) : QWidget(&over), had_focus_(over.focusWidget()) {
+        setFocusPolicy(Qt::StrongFocus);
+        over.installEventFilter(this);
+        setGeometry(over.rect());
+        show();
+        setFocus();
+    }
+    // Bears the box in its middle.
+    void carry(form_page& box) {
+        box_ = &box;
+        place_box();
+        box.show();
+    }
+    // The focus returns to where it was.
+    void lift() {
+        if (had_focus_ != nullptr) had_focus_->setFocus();
+        hide();
+        deleteLater(); // the button of the box that was pressed is on it
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Resize) {
+            setGeometry(parentWidget()->rect());
+            place_box();
+        }
+        return false;
+    }
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), QColor(0x17, 0x20, 0x2E, 0x73)); }
+    void keyPressEvent(QKeyEvent*) override {}
+    bool focusNextPrevChild(bool) override { return true; }
+
+private:
+    void place_box() {
+        if (box_ == nullptr) return;
+        const double unit = static_cast<form_page*>(parentWidget())->unit();
+        const QSize size = (QSizeF(box_->shown().width, box_->shown().height) * unit).toSize();
+        box_->setGeometry(QRect(rect().center() - QRect({}, size).center(), size));
+    }
+
+    QPointer<QWidget> had_focus_;
+    form_page* box_ = nullptr;
+};
+
+desktop::desktop()
+    : window_(std::make_unique<main_window>(*this)),
+      gate_(steady_now),
+      box_(*this, [this](box_answer given) {
+          close_box();
+          guarded([&] { gate_.answer(given); });
+      }) {
     wake_up_.setSingleShot(true);
     wake_up_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&wake_up_, &QTimer::timeout, [this] { tick(); });
@@ -96,23 +149,25 @@ desktop::~desktop() {
 
 template<class Event>
 void desktop::guarded(Event event) {
-    if (failed_) return;
     try {
-        ++running_;
         event();
-        --running_;
     } catch (const std::exception& error) {
-        --running_;
+        const std::string told = std::string("Het programma moet stoppen door een fout:\r\r") + error.what();
+        std::fprintf(stderr, "%s\n", error.what());
         failed_ = true;
-        wake_up_.stop();
-        ask(std::string("Het programma moet stoppen door een fout:\n\n") + error.what(), program_name, box_buttons::ok);
-        stop(1);
+        gate_.drop_boxes();
+        if (pages_.empty())
+            stop(1);
+        else
+            ask(pages_.back()->shown(), {told}, [this](box_answer) { stop(1); });
     }
 }
 
 void desktop::run(const std::function<void()>& handler) {
-    guarded([&] { gate_.handle(handler); });
-    after_event();
+    if (failed_) return;
+    bool let_in = false;
+    guarded([&] { let_in = gate_.handle(handler); });
+    if (let_in || failed_) after_event();
 }
 
 void desktop::tick() {
@@ -122,10 +177,10 @@ void desktop::tick() {
 
 // Ticks that fall due while a handler runs come when it has returned.
 void desktop::after_event() {
-    if (running_ > 0 || failed_) return;
-    if (ended_ || (pages_.empty() && side_pages_.empty())) return stop(0);
+    if (!failed_ && (ended_ || (pages_.empty() && side_pages_.empty()))) return stop(0);
     update_screen();
-    if (const auto wait = gate_.until_next_tick())
+    if (box_page_ == nullptr && gate_.open_box() != nullptr) open_box();
+    if (const auto wait = gate_.until_next_tick(); wait && !failed_)
         wake_up_.start(*wait);
     else
         wake_up_.stop();
@@ -143,6 +198,7 @@ void desktop::update_screen() {
         page->update_widgets();
         page->setWindowTitle(QString::fromStdString(page->shown().caption));
     }
+    if (box_page_ != nullptr) box_page_->update_widgets();
     if (!pages_.empty()) window_->setWindowTitle(QString::fromStdString(pages_.back()->shown().caption));
 }
 
@@ -215,38 +271,37 @@ void desktop::unload(form& gone) {
     left->deleteLater(); // its widget may be the one whose event runs
 }
 
-// ---- message boxes, printer, clock ----
+// ---- message boxes ----
 
-box_answer desktop::ask(const std::string& text, const std::string& title, box_buttons buttons) {
-    update_screen();
-    QWidget* const over = QApplication::activeWindow() != nullptr ? QApplication::activeWindow() : window_.get();
-    QMessageBox box(over);
-    box.setWindowTitle(QString::fromStdString(title));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(QString::fromStdString(text));
-    const QAbstractButton* const yes = box.addButton(buttons == box_buttons::ok ? "OK" : "Ja", QMessageBox::YesRole);
-    if (buttons == box_buttons::yes_no) {
-        QPushButton* const no = box.addButton("Nee", QMessageBox::NoRole);
-        box.setEscapeButton(no);
-        box.setDefaultButton(no); // a stray Enter ends nothing
-    }
-
-    // As large as the screens are.
-    const double unit = pages_.empty() ? 1.0 / 15 : pages_.back()->unit();
-    const auto pixels = [unit](double twips) { return static_cast<int>(std::lround(twips * unit)); };
-    QFont font = box.font();
-    font.setPixelSize(std::max(12, pixels(box_points * 20)));
-    box.setFont(font);
-    box.layout()->setContentsMargins(pixels(300), pixels(300), pixels(300), pixels(240));
-    for (QAbstractButton* button : box.buttons()) {
-        button->setFont(font);
-        button->setMinimumSize(pixels(1200), pixels(420));
-    }
-
-    box.exec();
-    over->activateWindow(); // where no window manager gives it back
-    return buttons == box_buttons::ok ? box_answer::ok : box.clickedButton() == yes ? box_answer::yes : box_answer::no;
+void desktop::ask(form& over, message_box box, std::function<void(box_answer)> then) {
+    gate_.ask({&over, std::move(box), std::move(then)});
 }
+
+void desktop::open_box() {
+    const event_gate::question& asked = *gate_.open_box();
+    std::vector<form_page*> seen = side_pages_;
+    if (!pages_.empty()) seen.push_back(pages_.back());
+    const auto asking = std::ranges::find(seen, page(*asked.over));
+    std::swap(seen.back(), asking == seen.end() ? seen.back() : *asking);
+    for (form_page* each : seen) shades_.push_back(new shade(*each));
+
+    box_.leg_voor(asked.box);
+    const auto handle = [this](const auto& handler) {
+        handler();
+        after_event();
+    };
+    box_page_ = new form_page(box_, handle, shades_.back());
+    shades_.back()->carry(*box_page_);
+    box_page_->update_widgets();
+    box_page_->window()->activateWindow();
+}
+
+void desktop::close_box() {
+    for (shade* each : std::exchange(shades_, {})) each->lift();
+    box_page_ = nullptr;
+}
+
+// ---- printer, clock ----
 
 print_result desktop::print(const report& printed) { return print_report(printed); }
 

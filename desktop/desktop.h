@@ -1,8 +1,9 @@
-// The desktop as the program's outside: windows, message boxes, the default printer, the clock and the timers.
+// The desktop as the program's outside: windows, the default printer, the clock and the timers.
 // It shows any form and holds no rule of the program.
 #pragma once
 
 #include "desktop/form_page.h"
+#include "forms/shell/berichtvenster.h"
 #include "runtime/event_gate.h"
 
 #include <QTimer>
@@ -21,10 +22,13 @@ public:
     void run(const std::function<void()>& handler);
     // The page of a form that is shown, or null.
     form_page* page(const form& of) const;
+    // The page of the message box that is open, or null.
+    form_page* box_page() const { return box_page_; }
+    const berichtvenster& box() const { return box_; }
 
     void show(form& shown) override;
     void unload(form& gone) override;
-    box_answer ask(const std::string& text, const std::string& title, box_buttons buttons) override;
+    void ask(form& over, message_box box, std::function<void(box_answer)> then) override;
     print_result print(const report& printed) override;
     float seconds_since_midnight() const override;
     local_time now() const override;
@@ -32,9 +36,12 @@ public:
 
 private:
     class main_window;
+    class shade;
 
     template<class Event>
     void guarded(Event event);
+    void open_box();
+    void close_box();
     void tick();
     void after_event();
     void stop(int status);
@@ -47,7 +54,9 @@ private:
     std::vector<form_page*> side_pages_;
     event_gate gate_;
     QTimer wake_up_;
-    int running_ = 0; // handlers under way; more than one only while a message box is up
+    berichtvenster box_; // shown for every message box in turn
+    form_page* box_page_ = nullptr;
+    std::vector<shade*> shades_; // over every page while a message box is open
     bool ended_ = false;
     bool failed_ = false;
 };

@@ -17,19 +17,27 @@ namespace cijferwerf {
 
 namespace {
 
-// The key as forms name it, or 0 where it is none of theirs (a blank is the focused button's).
+// The key as forms name it, or 0 where it is none of theirs.
 char form_key(const QKeyEvent& event) {
-    if ((event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) return 0;
+    if ((event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) != 0) return 0;
     switch (event.key()) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: return '\r';
-    case Qt::Key_Escape: return '\x1b';
-    case Qt::Key_Delete: return '\x7f';
+    case Qt::Key_Enter: return keys::enter;
+    case Qt::Key_Escape: return keys::escape;
+    case Qt::Key_Delete: return keys::erase;
+    case Qt::Key_Left: return keys::left;
+    case Qt::Key_Right: return keys::right;
+    case Qt::Key_Up: return keys::up;
+    case Qt::Key_Down: return keys::down;
+    case Qt::Key_Home: return keys::home;
+    case Qt::Key_End: return keys::end;
     default: break;
     }
+    if ((event.modifiers() & Qt::AltModifier) != 0 && event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z)
+        return static_cast<char>(event.key()); // whatever it may type with Alt
     const QString typed = event.text().toUpper();
     const char16_t character = typed.size() == 1 ? typed[0].unicode() : u'\0';
-    return character > ' ' && character < 0x7F ? static_cast<char>(character) : '\0';
+    return character >= ' ' && character < 0x7F ? static_cast<char>(character) : '\0';
 }
 
 } // namespace
@@ -77,7 +85,7 @@ struct form_page::placed_control {
 
 form_page::form_page(form& of, event_runner run, QWidget* window) : QWidget(window), form_(of), run_(std::move(run)) {
     setObjectName(QString::fromStdString(of.name()));
-    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_OpaquePaintEvent, !of.overlay);
     for (control* shown : of.controls())
         if (shown->kind != control_kind::timer) make_widget(*shown);
 }
@@ -140,8 +148,9 @@ void form_page::update_widgets() {
     for (placed_control& placed : placed_) copy(placed);
 
     // The focus goes first and what is disabled or hidden follows, or Qt would send the focus somewhere of its own.
-    if (QWidget* next = next_focus()) next->setFocus(Qt::OtherFocusReason);
-    form_.focus = nullptr;
+    const placed_control* had = placed(focusWidget());
+    if (QWidget* next = widget(form_.next_focus(had != nullptr ? &had->shown : nullptr)))
+        next->setFocus(Qt::OtherFocusReason);
     for (const placed_control& placed : placed_) {
         placed.widget->setEnabled(placed.shown.enabled);
         placed.widget->setVisible(placed.shown.visible);
@@ -168,7 +177,10 @@ void form_page::copy(placed_control& placed) {
     placed.widget->setAccessibleName(shown.accessible_name.empty() ? line_breaks(shown.caption)
                                                                    : QString::fromStdString(shown.accessible_name));
     if (auto* text = qobject_cast<QLabel*>(placed.widget)) text->setText(line_breaks(shown.caption));
-    if (auto* pressed = qobject_cast<QAbstractButton*>(placed.widget)) pressed->setText(with_mnemonic(shown));
+    if (auto* pressed = qobject_cast<QAbstractButton*>(placed.widget)) {
+        pressed->setText(with_mnemonic(shown));
+        pressed->setShortcut({}); // mnemonics are the form's
+    }
     if (auto* list = qobject_cast<QListWidget*>(placed.widget)) {
         const QSignalBlocker quiet(list);
         if (new_items) {
@@ -180,20 +192,14 @@ void form_page::copy(placed_control& placed) {
     placed.widget->update();
 }
 
-// Where the focus must go: where the form wants it; or, from a control that can no longer have it, to the next of its
-// control array; or, null, nowhere in particular.
-QWidget* form_page::next_focus() {
-    if (form_.focus != nullptr)
-        for (const placed_control& placed : placed_)
-            if (&placed.shown == form_.focus) return placed.widget;
-    const auto lost = std::ranges::find(placed_, focusWidget(), &placed_control::widget);
-    if (lost == placed_.end() || lost->shown.usable()) return nullptr;
-    const auto fits = [&](const placed_control& placed) {
-        return placed.shown.name == lost->shown.name && placed.shown.usable();
-    };
-    auto next = std::find_if(lost, placed_.end(), fits);
-    if (next == placed_.end()) next = std::find_if(placed_.begin(), lost, fits);
-    return next == placed_.end() || !fits(*next) ? nullptr : next->widget;
+const form_page::placed_control* form_page::placed(const QObject* widget) const {
+    const auto found = std::ranges::find(placed_, widget, &placed_control::widget);
+    return found == placed_.end() ? nullptr : &*found;
+}
+
+QWidget* form_page::widget(const control* shown) const {
+    const auto found = std::ranges::find(placed_, shown, [](const placed_control& each) { return &each.shown; });
+    return found == placed_.end() ? nullptr : found->widget;
 }
 
 void form_page::lay_out(placed_control& placed) {
@@ -213,7 +219,9 @@ void form_page::resizeEvent(QResizeEvent*) {
     for (placed_control& placed : placed_) lay_out(placed);
 }
 
-void form_page::paintEvent(QPaintEvent* event) { QPainter(this).fillRect(event->rect(), theme::ground); }
+void form_page::paintEvent(QPaintEvent* event) {
+    if (!form_.overlay) QPainter(this).fillRect(event->rect(), theme::ground);
+}
 
 // ---- from the widgets to the handlers ----
 
@@ -223,10 +231,11 @@ void form_page::clicked(control& on) {
 
 // True when the key is dealt with. The blank on a button is left to the widget.
 bool form_page::key_pressed(control* focused, const QKeyEvent& event) {
-    const bool blank = event.key() == Qt::Key_Space && focused != nullptr && !focused->is_button();
-    const char key = blank ? ' ' : form_key(event);
+    const bool with_alt = (event.modifiers() & Qt::AltModifier) != 0;
+    const char key = form_key(event);
     bool pressed = false;
-    if (key != 0) run_([&] { pressed = form_.key(key, focused); });
+    if (key != 0 && !(key == ' ' && focused != nullptr && focused->is_button()))
+        run_([&] { pressed = form_.key(key, focused, with_alt); });
     return pressed;
 }
 
@@ -238,9 +247,9 @@ bool form_page::stray_click(QObject* on, const QEvent& event) {
 
 bool form_page::eventFilter(QObject* watched, QEvent* event) {
     if (stray_click(watched, *event)) return true;
-    const auto placed = std::ranges::find(placed_, watched, &placed_control::widget);
-    if (placed == placed_.end() || updating_) return false;
-    control& on = placed->shown;
+    const placed_control* const found = placed(watched);
+    if (found == nullptr || updating_) return false;
+    control& on = found->shown;
     const auto hover = [this, &on] {
         if (on.hover && on.usable()) run_(on.hover);
     };
@@ -255,13 +264,20 @@ bool form_page::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonRelease: {
         const auto& mouse = static_cast<QMouseEvent&>(*event);
         if (!on.is_button() && pressed_ == watched && mouse.button() == Qt::LeftButton &&
-            placed->widget->rect().contains(mouse.pos()))
+            found->widget->rect().contains(mouse.pos()))
             clicked(on);
         break;
     }
     default: break;
     }
     return false;
+}
+
+bool form_page::focusNextPrevChild(bool next) {
+    const placed_control* had = placed(focusWidget());
+    QWidget* to = widget(form_.tab(had != nullptr ? &had->shown : nullptr, next ? 1 : -1));
+    if (to != nullptr) to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void form_page::keyPressEvent(QKeyEvent* event) {

@@ -32,13 +32,15 @@ protected:
     void keyPressEvent(QKeyEvent*) override;
     void closeEvent(QCloseEvent*) override;
     bool eventFilter(QObject*, QEvent*) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     struct placed_control; // a control, its widget, and what was copied to it last
 
     void make_widget(control& shown);
     void copy(placed_control& placed);
-    QWidget* next_focus();
+    const placed_control* placed(const QObject* widget) const;
+    QWidget* widget(const control* shown) const;
     void lay_out(placed_control& placed);
     void clicked(control& on);
     bool key_pressed(control* focused, const QKeyEvent& event);

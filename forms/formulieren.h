@@ -23,9 +23,11 @@ public:
         return static_cast<Form&>(*kept);
     }
 
-    // Asks whether the pupil really wants to stop; Yes ends the program.
-    void vraag_of_stoppen() {
-        if (buiten.ask("Wil je echt stoppen?", program_name, box_buttons::yes_no) == box_answer::yes) buiten.end();
+    // Asks, over this form, whether the pupil really wants to stop; Yes ends the program.
+    void vraag_of_stoppen(form& on) {
+        buiten.ask(on, {"Wil je echt stoppen?", program_name, box_buttons::yes_no}, [this](box_answer sure) {
+            if (sure == box_answer::yes) buiten.end();
+        });
     }
 
     outside& buiten;

@@ -22,10 +22,22 @@ void event_gate::look_at_timers() {
         }
 }
 
+void event_gate::answer(box_answer given) {
+    const auto then = std::move(questions_.front().then);
+    questions_.pop_front();
+    // A box that is next in line opens after what follows from this one.
+    const auto waiting = std::exchange(questions_, {});
+    handle([&] {
+        if (then) then(given);
+    });
+    questions_.insert(questions_.end(), waiting.begin(), waiting.end());
+}
+
 void event_gate::deliver_ticks() {
     if (busy_) return;
     look_at_timers();
-    for (auto next = next_timer(); next != due_.end() && next->second <= clock_(); next = next_timer()) {
+    for (auto next = next_timer(); open_box() == nullptr && next != due_.end() && next->second <= clock_();
+         next = next_timer()) {
         timer& ticking = *next->first;
         milliseconds& due = due_[&ticking];
         due += milliseconds(ticking.interval);
@@ -38,7 +50,7 @@ void event_gate::deliver_ticks() {
 
 std::optional<event_gate::milliseconds> event_gate::until_next_tick() const {
     const auto next = next_timer();
-    if (next == due_.end()) return std::nullopt;
+    if (next == due_.end() || open_box() != nullptr) return std::nullopt;
     return std::max(milliseconds(0), next->second - clock_());
 }
 

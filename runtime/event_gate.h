@@ -1,13 +1,14 @@
-// Lets events through to the forms one at a time, and keeps the timers: a tick that falls due while a handler runs
-// (or a message box that it opened is up) waits until the handler has returned. At most one tick of a timer waits, so
-// that no time goes by for a pupil who is asked something.
-// Where events come from, and when to wake up for the next tick, is left to the front end.
+// Lets events through to the forms one at a time, and keeps the timers and the message boxes: while a box is open,
+// nothing but its answer comes through. A tick that falls due meanwhile, or while a handler runs, waits; at most one
+// tick of a timer does, so that no time goes by for a pupil who is asked something.
+// Where events come from, what a box looks like and when to wake up for the next tick is left to the front end.
 #pragma once
 
 #include "runtime/form.h"
 
 #include <algorithm>
 #include <chrono>
+#include <deque>
 #include <optional>
 #include <unordered_map>
 #include <unordered_set>
@@ -21,10 +22,10 @@ public:
     // A steady clock; it never goes back.
     explicit event_gate(std::function<milliseconds()> clock) : clock_(std::move(clock)) {}
 
-    // Runs the handler of an event. False, and nothing is run, while another handler runs.
+    // Runs the handler of an event. False, and nothing is run, while another handler runs or a box is open.
     template<class Handler>
     bool handle(Handler&& handler) {
-        if (busy_) return false;
+        if (busy_ || open_box() != nullptr) return false;
         {
             const busy_guard guard(busy_);
             handler();
@@ -37,9 +38,24 @@ public:
     void watch(form& loaded) { forms_.insert(&loaded); }
     void forget(form& unloaded);
 
-    // Delivers the ticks that are due, in the order in which they fell due. Nothing while a handler runs.
+    // A message box and the form that asked.
+    struct question {
+        form* over;
+        message_box box;
+        std::function<void(box_answer)> then;
+    };
+    // Opens a box, or lines it up behind the one that is open.
+    void ask(question asked) { questions_.push_back(std::move(asked)); }
+    const question* open_box() const { return questions_.empty() ? nullptr : &questions_.front(); }
+    // Closes the open box; what follows from this answer runs as an event.
+    void answer(box_answer given);
+    // Closes all of them; nothing follows.
+    void drop_boxes() { questions_.clear(); }
+
+    // Delivers the ticks that are due, in the order in which they fell due. Nothing while a handler runs or a box is
+    // open.
     void deliver_ticks();
-    // How long until the next tick is due (0 when one is overdue); nothing when no timer runs.
+    // How long until the next tick is due (0 when one is overdue); nothing when no timer runs or a box is open.
     std::optional<milliseconds> until_next_tick() const;
 
 private:
@@ -59,6 +75,7 @@ private:
     std::function<milliseconds()> clock_;
     std::unordered_set<form*> forms_;
     std::unordered_map<timer*, milliseconds> due_; // the running timers, each with the time of its next tick
+    std::deque<question> questions_;
     bool busy_ = false;
 };
 

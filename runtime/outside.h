@@ -4,6 +4,7 @@
 
 #include "runtime/report.h"
 
+#include <functional>
 #include <string>
 
 namespace cijferwerf {
@@ -18,8 +19,17 @@ struct local_time {
     int minute = 0;
 };
 
+// The program's name: the title of windows and boxes that have no other.
+inline const std::string program_name = "Cijferwerf";
+
 enum class box_buttons { ok, yes_no };
 enum class box_answer { ok, yes, no };
+
+struct message_box {
+    std::string text;
+    std::string title = program_name;
+    box_buttons buttons = box_buttons::ok;
+};
 
 struct print_result {
     enum class outcome { printed, no_printer, failed } what = outcome::printed;
@@ -37,8 +47,9 @@ public:
     virtual void show(form& shown) = 0;
     // Takes a form off the screen; it lives on and may be shown again.
     virtual void unload(form& gone) = 0;
-    // Opens a message box and waits for its answer.
-    virtual box_answer ask(const std::string& text, const std::string& title, box_buttons buttons) = 0;
+    // Opens a message box over the form that asks, once the handler that runs has returned; one at a time. What follows
+    // from the answer, if anything, is an event of its own.
+    virtual void ask(form& over, message_box box, std::function<void(box_answer)> then) = 0;
     // Prints on the default printer, without a dialogue.
     virtual print_result print(const report& printed) = 0;
     // Single precision, local time.
@@ -47,8 +58,5 @@ public:
     // Ends the program once the handler that runs has returned.
     virtual void end() = 0;
 };
-
-// The program's name: the title of windows and boxes that have no other.
-inline const std::string program_name = "Cijferwerf";
 
 } // namespace cijferwerf

@@ -53,7 +53,7 @@ options read_options(arguments words) {
 class gallery_desktop : public desktop {
 public:
     float seconds_since_midnight() const override { return 0; }
-    box_answer ask(const std::string& text, const std::string&, box_buttons) override { throw failure{text}; }
+    void ask(form&, message_box box, std::function<void(box_answer)>) override { throw failure{box.text}; }
 };
 
 // A list of the catalogue that offers a generator, and its place in it.

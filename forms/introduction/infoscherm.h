@@ -15,7 +15,7 @@ public:
     // Puts the texts of booklet 1 to 12 on the screen; 7 and 8 share them. False, and nothing changes, for any other.
     bool kies(int boekje);
 
-    void close_requested() override { forms_.vraag_of_stoppen(); }
+    void close_requested() override { forms_.vraag_of_stoppen(*this); }
 
     void sommen_maken_click();
 

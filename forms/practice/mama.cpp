@@ -259,7 +259,7 @@ void mama::Timer1_tick() {
 
 // ---- leaving ----
 
-void mama::stopteken_click() { forms_.vraag_of_stoppen(); }
+void mama::stopteken_click() { forms_.vraag_of_stoppen(*this); }
 
 void mama::terug_hover() {
     taakkiezen_label.caption = globalen_.booklets() ? "boekje kiezen" : "taak kiezen";
@@ -274,11 +274,14 @@ void mama::Timer2_tick() {
 
 void mama::terug_click() {
     const int te_bekijken = 0; // nothing counts it up, so going back never asks
-    if (te_bekijken != 0 && score_bekeken != "ja" &&
-        buiten.ask("Resultaten bekijken...?", globalen_.gekozen_pakket, box_buttons::yes_no) == box_answer::yes) {
-        score_click();
-        return;
-    }
+    if (te_bekijken != 0 && score_bekeken != "ja")
+        ask({"Resultaten bekijken...?", globalen_.gekozen_pakket, box_buttons::yes_no},
+            [this](box_answer look) { look == box_answer::yes ? score_click() : ga_terug(); });
+    else
+        ga_terug();
+}
+
+void mama::ga_terug() {
     if (globalen_.booklets())
         forms_.get<menucl>().show();
     else
@@ -308,13 +311,11 @@ void mama::k_click(int key) {
     const calculator::message message = rekenmachine_.press(key);
     ververs_display();
     if (message == calculator::message::too_many_digits)
-        buiten.ask("te veel cijfers", globalen_.gekozen_pakket, box_buttons::ok);
+        ask({"te veel cijfers", globalen_.gekozen_pakket});
     else if (message == calculator::message::division_by_zero)
-        buiten.ask("delen door nul kan niet!", globalen_.gekozen_pakket, box_buttons::ok);
+        ask({"delen door nul kan niet!", globalen_.gekozen_pakket});
 }
 
-void mama::toon_aantalvragengedaan() {
-    buiten.ask(regel("aantalvragengedaan =", globalen_.aantalvragengedaan), program_name, box_buttons::ok);
-}
+void mama::toon_aantalvragengedaan() { ask({regel("aantalvragengedaan =", globalen_.aantalvragengedaan)}); }
 
 } // namespace cijferwerf

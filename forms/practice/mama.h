@@ -64,6 +64,7 @@ private:
     void wis_berichten(int first);
     void schrijf_berichten(const tekstregels& lines, kleur colour);
     void plaats_antwoorden();
+    void ga_terug();
     void toon_rekenmachine(bool shown);
     void ververs_display();
     void sluit_opgave();

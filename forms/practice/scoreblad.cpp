@@ -71,11 +71,9 @@ void scoreblad::afdrukken_click() {
         default: return "Het rapport is naar de printer gestuurd.";
         }
     };
-    buiten.ask(told(), caption, box_buttons::ok);
+    ask({told(), caption});
 }
 
-void scoreblad::Command1_click() {
-    buiten.ask(regel("aantalvragengedaan =", forms_.globalen.aantalvragengedaan), program_name, box_buttons::ok);
-}
+void scoreblad::Command1_click() { ask({regel("aantalvragengedaan =", forms_.globalen.aantalvragengedaan)}); }
 
 } // namespace cijferwerf

@@ -50,7 +50,7 @@ void codering::verder_click() {
         forms_.globalen.gekozen_pakket = task_set;
         forms_.get<colofonsw>().show();
     } else {
-        buiten.ask("Maak een keuze...", program_name, box_buttons::ok);
+        ask({"Maak een keuze..."});
         return;
     }
     unload();

@@ -10,10 +10,10 @@ class codering : public form {
 public:
     codering(outside& with, formulieren& forms);
 
-    void close_requested() override { forms_.vraag_of_stoppen(); }
+    void close_requested() override { forms_.vraag_of_stoppen(*this); }
 
     void verder_click();
-    void stoppen_click() { forms_.vraag_of_stoppen(); }
+    void stoppen_click() { forms_.vraag_of_stoppen(*this); }
 
     frame kopbalk;
     label opschriftbalk, welkom, kies_label, CL_label, SW_label;

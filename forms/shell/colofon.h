@@ -13,7 +13,7 @@ public:
     static constexpr int lines = 4;
     using credit_lines = std::array<std::string_view, lines>;
 
-    void close_requested() override { forms_.vraag_of_stoppen(); }
+    void close_requested() override { forms_.vraag_of_stoppen(*this); }
 
     virtual void klik_click() = 0;
 

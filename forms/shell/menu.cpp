@@ -69,7 +69,7 @@ menucl::menucl(outside& with, formulieren& forms) : menu(with, forms, "menucl", 
     }
 }
 
-void menucl::bevestig_stoppen() { buiten.ask("Wil je echt stoppen?", program_name, box_buttons::yes_no); }
+void menucl::bevestig_stoppen() { ask({"Wil je echt stoppen?", program_name, box_buttons::yes_no}); }
 
 // ---- the tasks ----
 

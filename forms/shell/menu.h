@@ -10,10 +10,10 @@ namespace cijferwerf {
 // What both menus have: the bar across the top and the steps from an entry to the practice screen.
 class menu : public form {
 public:
-    void close_requested() override { forms_.vraag_of_stoppen(); }
+    void close_requested() override { forms_.vraag_of_stoppen(*this); }
 
     void terug_click();
-    void stoppen_click() { forms_.vraag_of_stoppen(); }
+    void stoppen_click() { forms_.vraag_of_stoppen(*this); }
 
     frame kopbalk;
     label opschriftbalk;

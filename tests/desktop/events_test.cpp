@@ -78,22 +78,39 @@ TEST_F(events, captions_arrive_whole) {
     EXPECT_EQ(widget<QPushButton>("knop").text(), "R && &B");
 }
 
-TEST_F(events, a_tick_waits_until_the_handler_and_its_message_box_are_done) {
-    QString seen;
-    outside.run([this] { screen.klok.start(); });
+TEST_F(events, a_message_box_lets_nothing_through_but_its_answer) {
     screen.on_knop = [this] {
-        screen.busy = true;
-        screen.with().ask("even wachten", "", box_buttons::ok);
-        QTest::qSleep(50);
-        screen.busy = false;
+        screen.with().ask(screen, {"even wachten", "", box_buttons::yes_no},
+                          [this](box_answer given) { screen.log += given == box_answer::no ? "nee " : "ja "; });
     };
-    answer_box("OK", seen, [] { QTest::qWait(100); });
-    click(widget("knop"));
-    EXPECT_EQ(screen.log, "knop ");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return screen.log == "knop tik tik tik "; }));
-    QTest::qWait(30);
-    EXPECT_EQ(screen.log, "knop tik tik tik ") << "none is lost, and none comes after the timer was stopped";
-    EXPECT_EQ(seen, "even wachten");
+    const struct {
+        Qt::Key key;
+        Qt::KeyboardModifiers with;
+        const char* follows;
+    } rows[]{{Qt::Key_Escape, {}, "nee "}, {Qt::Key_Return, {}, "nee "},        {Qt::Key_N, {}, "nee "},
+             {Qt::Key_J, {}, "ja "},       {Qt::Key_J, Qt::AltModifier, "ja "}, {Qt::Key_Space, {}, "nee "}};
+    for (const auto& row : rows) {
+        screen.log.clear();
+        screen.ticks_left = 2;
+        outside.run([this] { screen.klok.start(); });
+        widget("knop").setFocus();
+        type(outside, screen, Qt::Key_Space);
+        ASSERT_NE(outside.box_page(), nullptr);
+        QTest::qWait(80);
+        form_page* page = outside.page(screen);
+        EXPECT_NE(page->childAt(widget("uitgang").geometry().center()), &widget("uitgang"));
+        widget<QPushButton>("uitgang").click();
+        type(outside, screen, Qt::Key_K); // the button's, while no box is open
+        for (int tabs = 0; tabs < 4; ++tabs) {
+            EXPECT_TRUE(outside.box_page()->isAncestorOf(page->focusWidget()));
+            type(outside, screen, Qt::Key_Tab);
+        }
+        type(outside, screen, row.key, row.with);
+        EXPECT_EQ(outside.box_page(), nullptr);
+        const std::string expected = std::string("knop ") + row.follows + "tik tik ";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return screen.log == expected; })) << row.key << ": " << screen.log;
+        EXPECT_EQ(page->focusWidget(), &widget("knop"));
+    }
 }
 
 TEST_F(events, clicks_while_a_handler_runs_are_not_let_in) {
@@ -227,12 +244,11 @@ TEST_F(events, the_screen_scales_as_a_whole) {
 }
 
 TEST_F(events, an_exception_ends_the_program_with_a_message_and_status_1) {
-    QString seen;
     screen.on_knop = [] { throw checked_error("index 9 outside 1 to 4"); };
-    answer_box("OK", seen);
-    QTimer::singleShot(0, &widget<QPushButton>("knop"), &QPushButton::click);
+    click(widget("knop"));
+    const std::string told = answer_box(outside, "OK");
+    EXPECT_NE(told.find("index 9 outside 1 to 4"), std::string::npos) << told;
     EXPECT_EQ(run_program(), 1);
-    EXPECT_TRUE(seen.contains("index 9 outside 1 to 4")) << seen.toStdString();
 }
 
 TEST_F(events, unloading_the_last_form_ends_the_program) {

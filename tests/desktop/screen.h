@@ -6,7 +6,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
-#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -31,23 +30,13 @@ inline void type(const desktop& outside, const form& on, Qt::Key key, Qt::Keyboa
     QTest::keyClick(focused != nullptr ? focused : outside.page(on), key, with);
 }
 
-// Presses the button with this caption of the message box that will come up; meanwhile() runs before that, with the
-// box up. The text of the box is written to seen.
-inline void answer_box(
-    const QString& caption, QString& seen, std::function<void()> meanwhile = [] {}) {
-    auto* look = new QTimer(qApp);
-    QObject::connect(look, &QTimer::timeout, [=, &seen] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (box == nullptr) return;
-        look->stop();
-        look->deleteLater();
-        seen = box->text();
-        meanwhile();
-        for (QAbstractButton* button : box->buttons())
-            if (button->text() == caption) return button->click();
-        box->reject();
-    });
-    look->start(1);
+// Presses the button with this caption of the message box that is open; the text of the box.
+inline std::string answer_box(const desktop& outside, const std::string& caption) {
+    if (outside.box_page() == nullptr) throw std::runtime_error("no message box is open");
+    const std::string text = outside.box().tekst.caption;
+    QString name = QString::fromStdString(caption).toLower();
+    click(*outside.box_page()->findChild<QWidget*>(name));
+    return text;
 }
 
 // Runs the program until it ends; its exit status, or 9 when it does not end within five seconds.

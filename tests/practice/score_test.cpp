@@ -163,7 +163,7 @@ TEST_F(score, the_diagnostics_of_sheet_and_screen_tell_the_count) {
     explain();
     pupil.click(screen.score);
     pupil.click(sheet.Command1);
-    screen.toon_aantalvragengedaan();
+    pupil.run([this] { screen.toon_aantalvragengedaan(); });
     EXPECT_EQ(pupil.boxes.at(0).text, "aantalvragengedaan = 2");
     EXPECT_EQ(pupil.boxes.at(1).text, "aantalvragengedaan = 2");
 }

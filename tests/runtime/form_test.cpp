@@ -76,6 +76,12 @@ TEST(form, a_key_goes_to_the_list_the_button_that_keeps_it_or_the_control_that_l
     }
 
     screen.events.clear();
+    screen.second.mnemonic = 'b';
+    EXPECT_TRUE(screen.key('B', &screen.first, true));
+    EXPECT_FALSE(screen.key('A', nullptr, true)) << "with Alt only a mnemonic presses";
+    EXPECT_EQ(screen.events, "second ");
+
+    screen.events.clear();
     screen.first.enabled = screen.second.visible = false;
     EXPECT_FALSE(outside.press(screen, 'A'));
     EXPECT_FALSE(screen.key('\r', &screen.first));
@@ -92,6 +98,34 @@ TEST(form, an_option_is_chosen_alone_and_takes_the_focus) {
         EXPECT_NE(screen.chosen.selected, screen.other.selected);
         EXPECT_EQ(screen.focus, each);
     }
+}
+
+TEST(form, arrows_go_to_the_nearest_button_there_and_choose_among_options_and_tab_goes_round) {
+    fake_outside outside;
+    test_form screen(outside);
+    screen.first.keys = screen.second.keys = "";
+    const struct {
+        char key;
+        control &from, *to;
+    } rows[]{{keys::down, screen.first, &screen.second},
+             {keys::right, screen.first, &screen.chosen},
+             {keys::left, screen.first, nullptr},
+             {keys::up, screen.other, &screen.chosen},
+             {keys::left, screen.other, nullptr}};
+    for (const auto& row : rows) {
+        screen.focus = nullptr;
+        EXPECT_TRUE(screen.key(row.key, &row.from));
+        EXPECT_EQ(screen.focus, row.to) << row.from.name;
+    }
+    EXPECT_TRUE(screen.chosen.selected);
+    EXPECT_FALSE(screen.key(keys::down, &screen.list)) << "a list moves by itself";
+
+    screen.second.enabled = false;
+    EXPECT_EQ(screen.tab(&screen.first, 1), &screen.list);
+    EXPECT_EQ(screen.tab(&screen.words, -1), &screen.first);
+    EXPECT_EQ(screen.tab(&screen.other, 1), &screen.first);
+    EXPECT_EQ(screen.tab(nullptr, 1), &screen.first);
+    EXPECT_EQ(screen.tab(nullptr, -1), &screen.other);
 }
 
 TEST(form, a_control_array_ends_the_run_at_an_index_it_does_not_have) {
@@ -131,20 +165,29 @@ TEST_F(timers, tick_every_interval_until_stopped) {
 
 TEST_F(timers, wait_for_the_message_box_one_at_most) {
     outside.click(screen.first);
-    screen.second.click = [this] {
-        screen.events += "[";
-        outside.ask("?", "", box_buttons::ok);
-        screen.events += "] ";
-    };
+    screen.second.click = [this] { outside.ask(screen, {"?"}, [this](box_answer) { screen.events += "read "; }); };
     outside.while_box_is_open = [this] {
         outside.wait(3500);
         EXPECT_FALSE(outside.click(screen.first)) << "a click came through an open message box";
     };
     outside.click(screen.second);
     outside.wait(950);
-    EXPECT_EQ(screen.events, "[] tick ");
+    EXPECT_EQ(screen.events, "read tick ");
     outside.wait(100);
-    EXPECT_EQ(screen.events, "[] tick tick ");
+    EXPECT_EQ(screen.events, "read tick tick ");
+}
+
+TEST_F(timers, a_box_that_an_answer_opens_comes_before_those_in_line) {
+    const auto box = [this](const char* text, std::function<void(box_answer)> then) {
+        outside.ask(screen, {text}, std::move(then));
+    };
+    outside.run([&] {
+        box("first", [&](box_answer) { box("follows from first", {}); });
+        box("second", {});
+    });
+    std::string order;
+    for (const message_box& each : outside.boxes) order += each.text + ", ";
+    EXPECT_EQ(order, "first, follows from first, second, ");
 }
 
 TEST_F(timers, start_over_when_started_while_they_run) {

@@ -156,7 +156,7 @@ TEST_F(shell, closing_a_window_or_stopping_asks_first) {
 
 TEST_F(shell, the_background_form_ends_without_asking_and_the_booklet_menus_own_question_ends_nothing) {
     pupil.answers = {box_answer::yes};
-    cl.bevestig_stoppen();
+    pupil.run([this] { cl.bevestig_stoppen(); });
     EXPECT_EQ(pupil.boxes.at(0).text, "Wil je echt stoppen?");
     EXPECT_FALSE(pupil.ended);
     pupil.close(forms.get<achtergrond>());
@@ -165,6 +165,29 @@ TEST_F(shell, the_background_form_ends_without_asking_and_the_booklet_menus_own_
 }
 
 // ---- what the menus look like ----
+
+TEST_F(shell, arrow_keys_follow_the_grid_and_stop_at_its_edge) {
+    constexpr int nowhere = 0;
+    const struct {
+        menu& on;
+        int from;
+        char key;
+        int to;
+    } rows[]{
+        {cl, 1, keys::right, 2},       {cl, 3, keys::right, nowhere}, {cl, 1, keys::down, 4},
+        {cl, 10, keys::down, nowhere}, {cl, 5, keys::up, 2},          {cl, 4, keys::left, nowhere},
+        {cl, 5, keys::left, 4},        {cl, 7, keys::home, 1},        {cl, 7, keys::end, 12},
+    };
+    for (const auto& row : rows) {
+        const auto entry = [&](int i) -> control* {
+            if (i == nowhere) return nullptr;
+            return &row.on == &cl ? &cl.boekje[i] : &sw.plaatje[i];
+        };
+        row.on.focus = nullptr;
+        EXPECT_TRUE(row.on.key(row.key, entry(row.from)));
+        EXPECT_EQ(row.on.focus, entry(row.to)) << row.on.name() << " from " << row.from << " to " << row.to;
+    }
+}
 
 TEST_F(shell, the_buttons_of_a_menu_have_room_for_their_lines_and_overlap_nowhere) {
     constexpr int margin = 105;

@@ -10,11 +10,6 @@ namespace cijferwerf {
 
 class fake_outside : public outside {
 public:
-    struct message_box {
-        std::string text, title;
-        box_buttons buttons;
-    };
-
     // ---- what a test looks at ----
     std::vector<form*> shown; // every showing, in order
     std::vector<form*> unloaded;
@@ -31,14 +26,14 @@ public:
 
     // ---- what a pupil does; false when the screen does not let it happen ----
     bool click(control& clicked) {
-        return clicked.usable() && clicked.takes_clicks() && gate_.handle([&] { press(clicked); });
+        return clicked.usable() && clicked.takes_clicks() && run([&] { press(clicked); });
     }
     bool hover(control& under_pointer) {
-        return under_pointer.usable() && under_pointer.hover && gate_.handle([&] { under_pointer.hover(); });
+        return under_pointer.usable() && under_pointer.hover && run([&] { under_pointer.hover(); });
     }
     bool press(form& in, char key) {
         bool pressed = false;
-        return gate_.handle([&] { pressed = in.key(key, nullptr); }) && pressed;
+        return run([&] { pressed = in.key(key, nullptr); }) && pressed;
     }
     bool pick(list_box& list, int item) {
         if (!list.usable()) return false;
@@ -48,10 +43,26 @@ public:
     bool pick_by_enter(list_box& list, int item) {
         if (!list.usable()) return false;
         list.selected = item;
-        return gate_.handle([&] { list.keypress(list_box::enter_key); });
+        return run([&] { list.keypress(list_box::enter_key); });
     }
     void close(form& window) {
-        gate_.handle([&] { window.close_requested(); });
+        run([&] { window.close_requested(); });
+    }
+    // Any event; the boxes that it opens are answered.
+    bool run(const std::function<void()>& handler) {
+        if (!gate_.handle(handler)) return false;
+        while (gate_.open_box() != nullptr) {
+            boxes.push_back(gate_.open_box()->box);
+            if (while_box_is_open) while_box_is_open();
+            const bool ok = boxes.back().buttons == box_buttons::ok;
+            box_answer given = ok ? box_answer::ok : box_answer::no;
+            if (!answers.empty()) {
+                given = answers.front();
+                answers.pop_front();
+            }
+            gate_.answer(given);
+        }
+        return true;
     }
     // Time goes by, a little at a time, with every tick as it falls due.
     void wait(int milliseconds) {
@@ -70,13 +81,8 @@ public:
         unloaded.push_back(&f);
         gate_.forget(f);
     }
-    box_answer ask(const std::string& text, const std::string& title, box_buttons buttons) override {
-        boxes.push_back({text, title, buttons});
-        if (while_box_is_open) while_box_is_open();
-        if (answers.empty()) return buttons == box_buttons::ok ? box_answer::ok : box_answer::no;
-        const box_answer answer = answers.front();
-        answers.pop_front();
-        return answer;
+    void ask(form& over, message_box box, std::function<void(box_answer)> then) override {
+        gate_.ask({&over, std::move(box), std::move(then)});
     }
     print_result print(const report& page) override {
         printed.push_back(page);

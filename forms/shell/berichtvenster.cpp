@@ -1,0 +1,86 @@
+#include "forms/shell/berichtvenster.h"
+
+#include "forms/marks.h"
+
+#include <algorithm>
+
+namespace cijferwerf {
+
+namespace {
+
+constexpr int band = 570, text_left = 300, text_top = 855, button_height = 510, gap = 300;
+constexpr double text_points = 15;
+
+// The text in lines of at most this width, broken at blanks; a carriage return breaks it too.
+std::string in_lines(std::string_view text, int width) {
+    std::string lines, line;
+    while (!text.empty()) {
+        const auto end = std::min(text.find_first_of(" \r\n"), text.size());
+        const std::string with_word =
+            line.empty() ? std::string(text.substr(0, end)) : line + ' ' + std::string(text.substr(0, end));
+        if (!line.empty() && bold_text_width(with_word, text_points) > width) {
+            lines += line + '\r';
+            line = text.substr(0, end);
+        } else
+            line = with_word;
+        if (end < text.size() && text[end] != ' ') {
+            lines += line + '\r';
+            line.clear();
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines + line;
+}
+
+} // namespace
+
+berichtvenster::berichtvenster(outside& with, std::function<void(box_answer)> answered) : form(with, "berichtvenster") {
+    using enum theme_role;
+    overlay = true;
+    width = 5400;
+    add(vlak, "vlak", {0, 0, width, 2460}, panel);
+    add(kopbalk, "kopbalk", {0, 0, width, band}, heading_bar);
+    add(opschrift, "opschrift", {180, 75, 5040, 420}, heading);
+    opschrift.mark = programmateken();
+    opschrift.font_size = 11.25;
+    add(tekst, "tekst", {text_left, text_top, width - 2 * text_left, 0}, prompt);
+    tekst.font_size = text_points;
+
+    const struct {
+        button& made;
+        const char* name;
+        const char* caption;
+        box_answer given;
+    } rows[]{{ja, "ja", "Ja", box_answer::yes}, {nee, "nee", "Nee", box_answer::no}, {ok, "ok", "OK", box_answer::ok}};
+    for (const auto& row : rows) {
+        add(row.made, row.name, {}, action, row.caption);
+        row.made.font_size = 11.25;
+        row.made.mnemonic = row.caption[0];
+        row.made.click = [answered, given = row.given] { answered(given); };
+    }
+}
+
+void berichtvenster::leg_voor(const message_box& box) {
+    caption = opschrift.caption = box.title;
+    tekst.caption = in_lines(box.text, tekst.width);
+    const auto lines = 1 + std::ranges::count(tekst.caption, '\r');
+    tekst.height = static_cast<int>(lines) * text_height(text_points);
+    const int buttons_top = tekst.top + std::max(tekst.height, 405) + 405;
+    height = vlak.height = buttons_top + button_height + 285;
+
+    const bool asks = box.buttons == box_buttons::yes_no;
+    ja.visible = nee.visible = asks;
+    ok.visible = !asks;
+    put(ja, {2100, buttons_top, 1440, button_height});
+    for (button* each : {&nee, &ok}) put(*each, {3660, buttons_top, 1440, button_height});
+    for (button* each : {&ja, &nee, &ok}) {
+        each->keys = each->mnemonic;
+        each->role = theme_role::action;
+        each->description = box.text;
+    }
+    standaard().keys += "\x1b\r";
+    standaard().role = theme_role::main_action;
+    focus = &standaard();
+}
+
+} // namespace cijferwerf
