@@ -209,13 +209,41 @@ formula rounded(const formula& a, int decimals) {
     return [=](const reading& of) { return rounded(std::get<double>(a(of)), decimals); };
 }
 
-exercise_rows::exercise_rows(std::initializer_list<exercise_row> rows) {
-    for (const exercise_row& row : rows) {
-        std::string name(naam(row.id));
-        for (const int each : row.of) name += regel("_", kaal(each));
-        testing::RegisterTest("exercise", name.c_str(), nullptr, nullptr, __FILE__, __LINE__,
-                              [row]() -> testing::Test* { return new row_test(row); });
-    }
+row_part wrong(const char* piece, std::vector<formula> values) {
+    return [=](exercise_row& row) {
+        for (const formula& value : values) row.wrong.push_back({piece, value});
+    };
+}
+row_part explains(const char* pattern, std::vector<formula> numbers) {
+    return [=](exercise_row& row) { row.explains.push_back({pattern, numbers}); };
+}
+row_part counts(std::vector<formula> values) {
+    return [=](exercise_row& row) { row.counts = values; };
+}
+row_part right(const formula& value) {
+    return [=](exercise_row& row) { row.right = value; };
+}
+row_part range(std::vector<span> spans) {
+    return [=](exercise_row& row) { row.ranges.push_back(spans); };
+}
+row_part of(std::vector<int> variants) {
+    return [=](exercise_row& row) { row.of = variants; };
+}
+row_part words(std::vector<std::size_t> different) {
+    return [=](exercise_row& row) { row.words = different; };
+}
+row_part tips(const char* first, const char* second) {
+    return [=](exercise_row& row) { row.tips = {first, second}; };
+}
+row_part ticks(std::vector<int> limits) {
+    return [=](exercise_row& row) { row.ticks = limits; };
+}
+
+void add_test(const exercise_row& row) {
+    std::string name(naam(row.id));
+    for (const int each : row.of) name += regel("_", kaal(each));
+    testing::RegisterTest("exercise", name.c_str(), nullptr, nullptr, __FILE__, __LINE__,
+                          [row]() -> testing::Test* { return new row_test(row); });
 }
 
 } // namespace cijferwerf

@@ -4,19 +4,14 @@
 // files as the family has, and what the properties of every exercise are not to ask of an exercise in exceptions.cpp
 // beside them (exceptions.h).
 //
-//     const exercise_rows percentages{
-//         {.id = L_voetbal_01_08_click,
-//          .variants = 5,
-//          .reads = "zitten # mensen. Hiervan is # % supporter",
-//          .ranges = {{{3000, 12000}, {55, 94}}},
-//          .right = v[0] * (100 - v[1]) / 100,
-//          .wrong = {{"AANTAL berekenen", 100 - v[1]},
-//                    {"THUIS", v[0] * v[1] / 100},
-//                    {"groter dan het totale aantal", v[0] + v[0] * (100 - v[1]) / 100}},
-//          .explains = {{"1 % van alle toeschouwers gelijk aan #", {v[0] / 100}}},
-//          .tips = {"Reken eerst het percentage", "Neem dan 1 %"}},
-//     };
+//     const exercise_rows percentages([] {
+//         row(L_voetbal_01_08_click, 5, "zitten # mensen. Hiervan is # % supporter", range({3000, 12000}, {55, 94}),
+//             right(v[0] * (100 - v[1]) / 100), wrong("AANTAL berekenen", 100 - v[1]),
+//             wrong("THUIS", v[0] * v[1] / 100), explains("1 % van alle toeschouwers gelijk aan #", v[0] / 100),
+//             tips("Reken eerst het percentage", "Neem dan 1 %"));
+//     });
 //
+// that is: the exercise, its number of sub-variants, what is read, and parts in any order, which exercise_row explains.
 // Patterns are those of pattern.h: "#" reads a number, "(een|twee)" a choice as 0 or 1, "@" a word, "$0" stands for a
 // number that was read before. v[0], v[1], ... are the numbers that `reads` finds, in order, then those of `counts`. A
 // formula is an expression in them, or a lambda [](const reading& n) { return n[0] ...; } that returns a number or a
@@ -118,17 +113,10 @@ struct mistake {
     formula value;
 };
 
-// Mistakes of which nothing is told.
-inline std::vector<mistake> untold(std::initializer_list<formula> values) {
-    std::vector<mistake> all;
-    for (const formula& value : values) all.push_back({"", value});
-    return all;
-}
-
 // A pattern that the explanation, in words or as drawn, must show, and its numbers in order.
 struct statement {
     const char* pattern;
-    std::vector<formula> numbers = {};
+    std::vector<formula> numbers;
 };
 
 struct exercise_row {
@@ -157,9 +145,57 @@ struct exercise_row {
     std::function<void(const reading&)> check = nullptr;
 };
 
-// Adds a test for each row to the program.
+// The parts of a row, as exercise_row explains them; a function of the reading is its check.
+using row_part = std::function<void(exercise_row&)>;
+
+row_part wrong(const char* piece, std::vector<formula> values);
+row_part explains(const char* pattern, std::vector<formula> numbers);
+row_part counts(std::vector<formula> values);
+template<class... Formulas>
+row_part wrong(const char* piece, const Formulas&... values) {
+    return wrong(piece, std::vector<formula>{values...});
+}
+template<class... Formulas>
+row_part explains(const char* pattern, const Formulas&... numbers) {
+    return explains(pattern, std::vector<formula>{numbers...});
+}
+template<class... Formulas>
+row_part counts(const Formulas&... values) {
+    return counts(std::vector<formula>{values...});
+}
+row_part right(const formula& value);
+// For all the row's sub-variants together, or one of these for each.
+row_part range(std::vector<span> spans);
+row_part of(std::vector<int> variants);
+row_part words(std::vector<std::size_t> different);
+row_part tips(const char* first, const char* second);
+row_part ticks(std::vector<int> limits);
+inline const row_part with_calculator = [](exercise_row& row) { row.calculator = true; };
+inline row_part wrong(std::vector<mistake> all) {
+    return [=](exercise_row& row) { row.wrong.insert(row.wrong.end(), all.begin(), all.end()); };
+}
+
+void add_test(const exercise_row& row);
+// Adds the test of a row to the program.
+template<class... Parts>
+void row(oefening_id id, int variants, const char* reads, const Parts&... parts) {
+    exercise_row made{.id = id, .variants = variants, .reads = reads};
+    const auto add = [&made](const auto& part) {
+        if constexpr (std::is_invocable_v<decltype(part), exercise_row&>)
+            part(made);
+        else
+            made.check = part;
+    };
+    (add(parts), ...);
+    add_test(made);
+}
+
+// Adds its rows before the program starts.
 struct exercise_rows {
-    exercise_rows(std::initializer_list<exercise_row> rows);
+    template<class Function>
+    explicit exercise_rows(Function add) {
+        add();
+    }
 };
 
 } // namespace cijferwerf

@@ -13,13 +13,6 @@ namespace {
 
 using enum oefening_id;
 
-// The wrong answers of an exercise that has hints only.
-std::vector<mistake> told_nothing(std::initializer_list<formula> values) {
-    std::vector<mistake> all;
-    for (const formula& value : values) all.push_back({"", value});
-    return all;
-}
-
 int divisor(const reading& n, std::size_t a, std::size_t b) {
     return std::gcd(static_cast<int>(n[a]), static_cast<int>(n[b]));
 }
@@ -133,7 +126,7 @@ formula cancelled(bool first, bool dividing) {
         return first ? std::gcd(left.teller, right.noemer) : std::gcd(left.noemer, right.teller);
     };
 }
-std::vector<mistake> slips(bool dividing, std::initializer_list<mistake> more) {
+std::vector<mistake> slips(bool dividing) {
     const formula outcome = dividing ? a / b : a * b;
     const formula under = dividing ? v[3] * v[5] + v[4] : v[5];
     std::vector<mistake> all{{"alleen de eerste opgeschreven", outcome * under},
@@ -144,7 +137,6 @@ std::vector<mistake> slips(bool dividing, std::initializer_list<mistake> more) {
         all.push_back({"alleen een noemer gedeeld", outcome * cancelled(first, dividing)});
         all.push_back({"alleen een teller gedeeld", outcome / cancelled(first, dividing)});
     }
-    all.insert(all.end(), more);
     return all;
 }
 
@@ -192,275 +184,160 @@ formula children(std::size_t word) {
     return [=](const reading& n) { return std::array{2, 3, 4, 5, 7, 9, 11}.at(static_cast<std::size_t>(n[word])); };
 }
 
-exercise_row completing(oefening_id id) {
-    return {.id = id,
-            .variants = 9,
-            .reads = "| # | # | # | - | = | # | # | ..",
-            .ranges = {{{1, 5}, {1, 11}, {2, 12}, {1, 23}, {2, 12}}},
-            .right = all_of_it - over,
-            .wrong = told_nothing({v[0] - over, all_of_it + over, all_of_it - over - 1, all_of_it - over + 1,
-                                   v[0] - floor(over) + absolute(v[1] / v[2] - over + floor(over)),
-                                   absolute(v[1] / v[2] - over + floor(over))}),
-            .explains = {{"getal # de breuk &. Tel daar", {v[0], v[0]}},
-                         {"Dan krijg je &. Om", {all_of_it}},
-                         {"moet je er & van aftrekken", {all_of_it - over}},
-                         {"& - & = &", {all_of_it, all_of_it - over, over}}},
-            .tips = {"Eerste stap: maak van die # een breuk", "Derde stap"}};
+void completing(oefening_id id) {
+    row(id, 9, "| # | # | # | - | = | # | # | ..", range({{1, 5}, {1, 11}, {2, 12}, {1, 23}, {2, 12}}),
+        right(all_of_it - over),
+        wrong("", v[0] - over, all_of_it + over, all_of_it - over - 1, all_of_it - over + 1,
+              v[0] - floor(over) + absolute(v[1] / v[2] - over + floor(over)),
+              absolute(v[1] / v[2] - over + floor(over))),
+        explains("getal # de breuk &. Tel daar", v[0], v[0]), explains("Dan krijg je &. Om", all_of_it),
+        explains("moet je er & van aftrekken", all_of_it - over),
+        explains("& - & = &", all_of_it, all_of_it - over, over),
+        tips("Eerste stap: maak van die # een breuk", "Derde stap"));
 }
 
-const exercise_rows fractions{
-    {.id = B_chocolade_03_03_click,
-     .variants = 14,
-     .of = {1, 3, 5, 7, 9, 11, 13},
-     .reads = "Er moeten # repen over (twee|drie|vier|vijf|zeven|negen|elf) kinderen",
-     .counts = {children(1), blocks(donkerrood) - v[0]},
-     .ranges = {{{2, 12}, {0, 6}, {2, 11}, {0, 0}}},
-     .right = v[0] / v[2],
-     .wrong = {{"slechts één reep", 1 / v[2]}, {"verwisseld", v[2] / v[0]}, {"opgeteld", v[0] / (v[0] + v[2])}},
-     .explains = {{"moet # repen over # kinderen", {v[0], v[2]}}, {"stukje, & deel dus", {1 / v[2]}}}},
-    {.id = B_chocolade_03_03_click,
-     .variants = 14,
-     .of = {2, 4, 6, 8, 10, 12, 14},
-     .reads = "(Twee|Drie|Vier|Vijf|Zeven|Negen|Elf) kinderen verdelen # repen,",
-     .counts = {children(0), blocks(donkerrood) - v[1]},
-     .ranges = {{{0, 6}, {2, 12}, {2, 11}, {0, 0}}},
-     .right = v[1] / v[2],
-     .wrong = {{"slechts één reep", 1 / v[2]}, {"verwisseld", v[2] / v[1]}, {"opgeteld", v[1] / (v[1] + v[2])}}},
-    {.id = B_helen_03_03_click,
-     .variants = 2,
-     .reads = "| # | (+|-) | # | # | = | . | $3",
-     .ranges = {{{2, 9}, {0, 0}, {1, 11}, {3, 12}}, {{2, 9}, {1, 1}, {1, 11}, {3, 12}}},
-     .right = v[0] * v[3] + (1 - 2 * v[1]) * v[2],
-     .wrong = {{"De helen heb je wel", v[0] * v[3]},
-               {"maar het is een", v[0] * v[3] - (1 - 2 * v[1]) * v[2]},
-               {"één hele ingewisseld", v[3] + (1 - 2 * v[1]) * v[2]}},
-     .explains = {{"schrijven als &", {1}}, {"# x # = # stukken van &", {v[0], v[3], v[0] * v[3], 1 / v[3]}}},
-     .tips = {"", "Doe daarna een (optelling|aftrekking)"}},
-    {.id = B_vlakjes_03_03_click,
-     .variants = 4,
-     .reads = "rood is gekleurd.",
-     .counts = {blocks(rood) - 1, blocks(geel) - 1 + blocks(rood) - 1},
-     .ranges = {{{8, 28}, {36, 36}}, {{7, 29}, {36, 36}}, {{8, 28}, {36, 36}}, {{7, 29}, {36, 36}}},
-     .right = v[0] / 36,
-     .wrong = {{"gele vlakjes", 1 - v[0] / 36},
-               {"een vlakje verteld", (v[0] - 1) / 36},
-               {"een vlakje verteld", (v[0] + 1) / 36},
-               {"paar rode", (v[0] - 3) / 36},
-               {"paar rode", (v[0] + 3) / 36}},
-     .explains = {{"Er zijn # van de 36 * Dat is & deel", {v[0], v[0] / 36}}},
-     .check =
-         [](const reading& n) {
-             all_in_simplest_form(n);
-             const auto told = find_pattern(n.exercise.explanation, "te delen door #.");
-             EXPECT_EQ(told ? told->numbers[0] : 1, divisor(n, 0, 1));
-         }},
-    {.id = L_helen_maken_03_03_click,
-     .variants = 2,
-     .reads = "| # | # | # | + | = | # | ..",
-     .counts = {v[3] - v[0]},
-     .ranges = {{{1, 9}, {1, 9}, {4, 10}, {2, 10}, {1, 1}}, {{1, 9}, {1, 19}, {11, 20}, {2, 10}, {1, 1}}},
-     .right = 1 - v[1] / v[2],
-     .wrong = {{"zelf gekozen", v[1] / v[2]},
-               {"hele te veel", 2 - v[1] / v[2]},
-               {"Tel eens na", 1 - (v[1] - 1) / v[2]},
-               {"Tel eens na", 1 - (v[1] + 1) / v[2]}},
-     .explains = {{"Je moet dus & aanvullen", {v[1] / v[2]}}, {"| .. | .. | &", {1 - v[1] / v[2]}}}},
-    {.id = L_marathon_03_03_click,
-     .variants = 4,
-     .reads = "van @ zijn op een zeker moment # deelnemers door de finish. Dat is #/# van * | 2:#:#",
-     .ranges = {{{300, 5100}, {2, 3}, {3, 5}, {30, 51}, {0, 59}},
-                {{1000, 13600}, {3, 5}, {5, 8}, {28, 55}, {0, 59}},
-                {{1500, 30600}, {3, 9}, {8, 10}, {25, 59}, {0, 59}},
-                {{700, 15300}, {2, 5}, {7, 9}, {24, 49}, {0, 59}}},
-     .words = {8},
-     .right = finished_part * v[2],
-     .wrong = {{"over de finish", v[0] / v[2] * v[1]},
-               {"foutje gemaakt", finished_part*(v[2] - 1)},
-               {"foutje gemaakt", finished_part*(v[2] + 1)},
-               {"nog een vermenigvuldiging", finished_part}},
-     .explains = {{"het & deel uit door # te delen door #. Dat zijn #", {1 / v[2], v[0], v[1], finished_part}},
-                  {"uit door # x # = #", {v[2], finished_part, finished_part* v[2]}}}},
-    {.id = L_optellen_03_14_click,
-     .variants = 3,
-     .of = {1, 2},
-     .reads = "| # | # | + | # | # | = | ......",
-     .counts = {common(1, 3)},
-     .ranges = {{{1, 14}, {2, 15}, {1, 14}, {2, 15}, {6, 15}}, {{1, 23}, {2, 24}, {1, 23}, {2, 24}, {12, 30}}},
-     .right = v[0] / v[1] + v[2] / v[3],
-     .wrong = {{"Je hebt niet vereenvoudigd.", v[0] / v[1] + v[2] / v[3]},
-               {"uitgehaald. ", v[0] / v[1] + v[2] / v[3]},
-               {"uitgehaald en je", v[0] / v[1] + v[2] / v[3]}},
-     .explains = {{"noemers eerst #,", {v[4]}}},
-     .check = check_worked_line},
-    {.id = L_optellen_03_14_click,
-     .variants = 3,
-     .of = {3},
-     .reads = "| # | # | # | + | # | # | # | = | ......",
-     .ranges = {{{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}},
-     .right = a + b,
-     .wrong = {{"Je hebt niet vereenvoudigd.", a + b}, {"uitgehaald. ", a + b}, {"uitgehaald en je", a + b}},
-     .explains = {{"noemers eerst #,", {common(2, 5)}}},
-     .check = check_worked_line},
-    {.id = M_aftrekken_03_14_click,
-     .variants = 2,
-     .reads = "| # | # | # | - | # | # | # | = | ......",
-     .counts = {common(2, 5)},
-     .ranges = {{{2, 6}, {2, 14}, {3, 15}, {1, 5}, {1, 5}, {2, 15}, {6, 15}},
-                {{2, 6}, {2, 14}, {6, 15}, {1, 5}, {1, 7}, {6, 15}, {30, 60}}},
-     .right = a - b,
-     .wrong = {{"niet vereenvoudigd.", a - b},
-               {"niet gelijknamig", v[0] - v[3] + (v[1] - v[4]) / v[6]},
-               {"alleen de streepbreuken", a - v[4] / v[5]}},
-     .explains = {{"noemers eerst #,", {v[6]}}},
-     .check = check_worked_line},
-    {.id = L_prijzen_03_03_click,
-     .variants = 2,
-     .reads = "In @ wordt * jaar #/# deel van * het #/# deel. * | # euro",
-     .ranges = {{{2, 5}, {7, 12}, {1, 2}, {7, 12}}, {{1, 5}, {3, 12}, {1, 2}, {4, 12}}},
-     .words = {8},
-     .right = part_left,
-     .wrong = {{"eerste en de tweede prijs samen", 1 - part_left},
-               {"alleen de eerste prijs", 1 - first_prize},
-               {"alleen de tweede prijs", 1 - second_prize},
-               {"van elkaar afgetrokken", first_prize - second_prize},
-               {"je & deel vergist", part_left - 1 / common(1, 3)},
-               {"je & deel vergist", part_left + 1 / common(1, 3)},
-               {"ook de noemers", 1 - (v[0] + v[2]) / (v[1] + v[3])}},
-     .explains = {{"(hoeven|moeten)", {[](const reading& n) { return n[1] == n[3] ? 0 : 1; }}},
-                  {"Over is dus 1 - & = &", {1 - part_left, part_left}}},
-     .check =
-         [](const reading& n) {
-             all_in_simplest_form(n);
-             const double second = n[4] / n[0] * n[1] * n[2] / n[3];
-             EXPECT_TRUE(same(std::fmod(second + 1e-6, 1000), 1e-6)) << "the second prize is " << second;
-         }},
-    {.id = M_getallenlijn_03_03_click,
-     .variants = 2,
-     .reads = "| Gegeven breuk: | # | # |",
-     .ranges = {{{1, 19}, {3, 20}}, {{1, 14}, {7, 15}}},
-     .explains = {{"schrijven als &. Dat", {v[0] / v[1]}},
-                  {"\\(#/10) en", {floor(v[0] * 10 / v[1])}},
-                  {"\\(#/10). De", {floor(v[0] * 10 / v[1]) + 1}}},
-     .tips = {"(Ga eerst gelijknamig maken...|gelijknamig met de tienden)", "noemer #"},
-     .check = check_arrows},
-    {.id = M_grootste_kleinste_03_03_click,
-     .variants = 4,
-     .reads = "| Welke breuk is (GROTER|KLEINER) dan * | # | # | groen | # | # | wit | # | # | geel | # | # | rood",
-     .ranges = {{{0, 1}, {1, 15}, {3, 20}, {1, 15}, {3, 20}, {1, 11}, {3, 12}, {2, 24}, {6, 27}}},
-     .right = colour_asked,
-     .tips = {"vereenvoudigen. ", "en daarna"}},
-    {.id = M_olievat_03_06_click,
-     .variants = 5,
-     .reads = "eerst # liter olie. Een automonteur liet daar & liter * | $0 liter * | # | # | # | liter",
-     .ranges = {{{12.25, 88.75}, {2.25, 19.75}}},
-     .right = v[0] - v[1],
-     .wrong = told_nothing({v[0] - v[2], v[0] - v[2] - glued / 100, v[0] - v[2] - glued / 10, v[0] - v[2] - 1,
-                            v[0] - 2 * v[2] + v[1], v[0] + v[1], v[0] - v[1] + 1, v[0] - v[1] - 1}),
-     .explains = {{"van & een breuk met een komma. Dat wordt dus # liter", {v[1], v[1]}},
-                  {"aftrekken van # liter. Dan krijg je # - # liter", {v[0], v[0], v[1]}}},
-     .tips = {"streepbreuk", "Bedenk dat & liter hetzelfde is als #"}},
-    {.id = M_snel_03_03_click,
-     .variants = 2,
-     .reads = "| Vereenvoudig: #/#",
-     .ranges = {{{4, 60}, {12, 70}}, {{9, 90}, {27, 99}}},
-     .right = v[0] / v[1],
-     .wrong = {{"nog niet klaar", v[0] / v[1]},
-               {"delen van de teller", shortened(-1, 0)},
-               {"delen van de teller", shortened(1, 0)},
-               {"delen van de noemer", shortened(0, -1)},
-               {"delen van de noemer", shortened(0, 1)},
-               {"hetzelfde getal", shortened(0, 0, false, true)},
-               {"hetzelfde getal", shortened(0, 0, true, false)}},
-     .explains = {{"delen door # en de", {divisor(0, 1)}}, {"getal # is het grootste", {divisor(0, 1)}}},
-     .ticks = {8, 15},
-     .check = check_shortened},
-    {.id = L_procenten_03_14_click,
-     .variants = 2,
-     .reads = "| # % =  .. deel",
-     .counts = {100, divisor(0, 1)},
-     .ranges = {{{5, 95}}, {{2, 98}}},
-     .right = v[0] / 100,
-     .wrong = told_nothing({1 / v[0], 1 - v[0] / 100, v[0] / (100 - v[0]), numerator / 100, v[0] / denominator,
-                            v[0] / 1000, v[0] / 200, (numerator - 1) / denominator, (numerator + 1) / denominator,
-                            numerator / (denominator - 1)}),
-     .explains = {{"kun je schrijven als &", {v[0] / 100}},
-                  {"vereenvoudigen tot & door de teller en de noemer door # te", {v[0] / 100, v[2]}},
-                  {"# % =  & deel", {v[0], v[0] / 100}}},
-     .tips = {"(Eerst: bedenk|Bedenk eerst)", "(Dan: schrijf|Maak van)"},
-     .check =
-         [](const reading& n) {
-             all_in_simplest_form(n);
-             int yellow = 0;
-             for (const box_op& box : n.exercise.blocks)
-                 if (box.pen.colour == geel) yellow += box.width * box.height;
-             EXPECT_EQ(yellow * 100, n[0] * n.exercise.blocks[0].width * n.exercise.blocks[0].height);
-         }},
-    {.id = L_stukken_03_14_click,
-     .variants = 14,
-     .of = {1, 3, 5, 7, 9, 11, 13},
-     .reads = "stuk AC een lengte heeft van &. Hoe lang is het stuk AB? | A | B | C | ? | &",
-     .counts = {marks(false), marks(true), v[1] - v[0]},
-     .ranges = {{{2.0 / 3, 50}, {2.0 / 3, 50}, {4, 10}, {1, 9}, {0, 0}}},
-     .right = v[0] * v[3] / v[2],
-     .wrong = {{"", lies::below}, {"", lies::above}},
-     .explains = {{"is het & deel van AC", {v[3] / v[2]}}, {"& : # = &", {v[0], v[2], v[0] / v[2]}}},
-     .tips = {"Eerste stap", "Tweede stap"},
-     .check = check_lengths},
-    {.id = L_stukken_03_14_click,
-     .variants = 14,
-     .of = {2, 4, 6, 8, 10, 12, 14},
-     .reads = "stuk AB een lengte heeft van &. Hoe lang is het stuk AC? | A | B | C | & | ?",
-     .counts = {marks(true), marks(false), v[1] - v[0]},
-     .ranges = {{{1.0 / 6, 45}, {1.0 / 6, 45}, {1, 9}, {4, 10}, {0, 0}}},
-     .right = v[0] * v[3] / v[2],
-     .wrong = {{"", lies::below}, {"", lies::above}},
-     .explains = {{"is het & deel van AC", {v[2] / v[3]}}, {"bestaat uit # van", {v[3]}}},
-     .tips = {"Eerste stap", "Tweede stap"},
-     .check = check_lengths},
-    {.id = M_tussen_in_03_14_click,
-     .variants = 2,
-     .reads = "| # | # | geel |",
-     .ranges = {{{1, 11}, {3, 12}}},
-     .right = interval(0),
-     .wrong = told_nothing({interval(-10), interval(-3), interval(-2), interval(-1), interval(1), interval(2),
-                            interval(3), interval(10)}),
-     .explains = {{"omzetten: # delen door # geeft #", {v[0], v[1], floor(v[0] * 1000 / v[1]) / 1000}}},
-     .tips = {"(Eerste stap: zet|Maak eerst)", "(Tweede stap: verg|Kijk daarna)"}},
-    {.id = M_vereenvoudigen_03_14_click,
-     .variants = 2,
-     .reads = "| # | # | = | # | .... | $1 | = | $2 | # | ....",
-     .counts = {[](const reading& n) { return n.variant() == 1 ? 1 : n[2] - whole(n.exercise.words[0]); }},
-     .ranges = {{{8, 76}, {6, 40}, {1, 1}, {1, 11}, {1, 1}}, {{8, 76}, {6, 40}, {2, 5}, {1, 11}, {1, 1}}},
-     .right = says("# en #", v[0] - v[1], v[1] * v[3] / (v[0] - v[1])),
-     .wrong = {{"de volgorde niet", says("# en #", v[1] * v[3] / (v[0] - v[1]), v[0] - v[1])},
-               {"geen hele", says("# en #", v[0], v[1] * v[3] / (v[0] - v[1]))},
-               {"door hetzelfde getal", says("# en #", v[0] - v[1], v[1])}},
-     .explains = {{"nog # - # = # over", {v[0], v[1], v[0] - v[1]}}, {"nog door # delen", {(v[0] - v[1]) / v[3]}}},
-     .tips = {"Eerste stap", "Tweede stap"}},
-    {.id = Z_delen_03_14_click,
-     .variants = 4,
-     .reads = "| # | # | # | : | # | # | # | = | ... | geel |",
-     .ranges = {{{2, 5}, {1, 6}, {2, 8}, {1, 2}, {1, 7}, {2, 8}}},
-     .right = a / b,
-     .wrong = slips(true, {{"zonder de tweede breuk", a* b},
-                           {"apart gedeeld", v[0] / v[3] + v[1] / v[2] / (v[4] / v[5])},
-                           {"een hele te weinig", a / b - 1}}),
-     .explains = {{"Je krijgt & = &:", {a / b, a / b}}},
-     .tips = {"Eerste stap", "Tweede stap"},
-     .check = check_strokes},
-    {.id = Z_vermenigvuldigen_03_14_click,
-     .variants = 3,
-     .reads = "| # | # | # | x | # | # | # | = | ... | geel |",
-     .ranges = {{{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}},
-     .right = a * b,
-     .wrong = slips(false, {{"opgeteld", a + b},
-                            {"apart vermenigvuldigd", v[0] * v[3] + v[1] / v[2] * (v[4] / v[5])},
-                            {"een hele te veel", a* b + 1}}),
-     .explains = {{"Je krijgt & = &:", {a * b, a* b}}},
-     .check = check_strokes},
-    completing(M_aanvullen_1_03_14_click),
-    completing(M_aanvullen_2_03_14_click),
-};
+const exercise_rows fractions([] {
+    row(B_chocolade_03_03_click, 14, "Er moeten # repen over (twee|drie|vier|vijf|zeven|negen|elf) kinderen",
+        of({1, 3, 5, 7, 9, 11, 13}), counts(children(1), blocks(donkerrood) - v[0]),
+        range({{2, 12}, {0, 6}, {2, 11}, {0, 0}}), right(v[0] / v[2]), wrong("slechts één reep", 1 / v[2]),
+        wrong("verwisseld", v[2] / v[0]), wrong("opgeteld", v[0] / (v[0] + v[2])),
+        explains("moet # repen over # kinderen", v[0], v[2]), explains("stukje, & deel dus", 1 / v[2]));
+    row(B_chocolade_03_03_click, 14, "(Twee|Drie|Vier|Vijf|Zeven|Negen|Elf) kinderen verdelen # repen,",
+        of({2, 4, 6, 8, 10, 12, 14}), counts(children(0), blocks(donkerrood) - v[1]),
+        range({{0, 6}, {2, 12}, {2, 11}, {0, 0}}), right(v[1] / v[2]), wrong("slechts één reep", 1 / v[2]),
+        wrong("verwisseld", v[2] / v[1]), wrong("opgeteld", v[1] / (v[1] + v[2])));
+    row(B_helen_03_03_click, 2, "| # | (+|-) | # | # | = | . | $3", range({{2, 9}, {0, 0}, {1, 11}, {3, 12}}),
+        range({{2, 9}, {1, 1}, {1, 11}, {3, 12}}), right(v[0] * v[3] + (1 - 2 * v[1]) * v[2]),
+        wrong("De helen heb je wel", v[0] * v[3]), wrong("maar het is een", v[0] * v[3] - (1 - 2 * v[1]) * v[2]),
+        wrong("één hele ingewisseld", v[3] + (1 - 2 * v[1]) * v[2]), explains("schrijven als &", 1),
+        explains("# x # = # stukken van &", v[0], v[3], v[0] * v[3], 1 / v[3]),
+        tips("", "Doe daarna een (optelling|aftrekking)"));
+    row(B_vlakjes_03_03_click, 4, "rood is gekleurd.", counts(blocks(rood) - 1, blocks(geel) - 1 + blocks(rood) - 1),
+        range({{8, 28}, {36, 36}}), range({{7, 29}, {36, 36}}), range({{8, 28}, {36, 36}}), range({{7, 29}, {36, 36}}),
+        right(v[0] / 36), wrong("gele vlakjes", 1 - v[0] / 36),
+        wrong("een vlakje verteld", (v[0] - 1) / 36, (v[0] + 1) / 36),
+        wrong("paar rode", (v[0] - 3) / 36, (v[0] + 3) / 36),
+        explains("Er zijn # van de 36 * Dat is & deel", v[0], v[0] / 36), [](const reading& n) {
+            all_in_simplest_form(n);
+            const auto told = find_pattern(n.exercise.explanation, "te delen door #.");
+            EXPECT_EQ(told ? told->numbers[0] : 1, divisor(n, 0, 1));
+        });
+    row(L_helen_maken_03_03_click, 2, "| # | # | # | + | = | # | ..", counts(v[3] - v[0]),
+        range({{1, 9}, {1, 9}, {4, 10}, {2, 10}, {1, 1}}), range({{1, 9}, {1, 19}, {11, 20}, {2, 10}, {1, 1}}),
+        right(1 - v[1] / v[2]), wrong("zelf gekozen", v[1] / v[2]), wrong("hele te veel", 2 - v[1] / v[2]),
+        wrong("Tel eens na", 1 - (v[1] - 1) / v[2], 1 - (v[1] + 1) / v[2]),
+        explains("Je moet dus & aanvullen", v[1] / v[2]), explains("| .. | .. | &", 1 - v[1] / v[2]));
+    row(L_marathon_03_03_click, 4,
+        "van @ zijn op een zeker moment # deelnemers door de finish. Dat is #/# van * | 2:#:#",
+        range({{300, 5100}, {2, 3}, {3, 5}, {30, 51}, {0, 59}}),
+        range({{1000, 13600}, {3, 5}, {5, 8}, {28, 55}, {0, 59}}),
+        range({{1500, 30600}, {3, 9}, {8, 10}, {25, 59}, {0, 59}}),
+        range({{700, 15300}, {2, 5}, {7, 9}, {24, 49}, {0, 59}}), words({8}), right(finished_part * v[2]),
+        wrong("over de finish", v[0] / v[2] * v[1]),
+        wrong("foutje gemaakt", finished_part * (v[2] - 1), finished_part * (v[2] + 1)),
+        wrong("nog een vermenigvuldiging", finished_part),
+        explains("het & deel uit door # te delen door #. Dat zijn #", 1 / v[2], v[0], v[1], finished_part),
+        explains("uit door # x # = #", v[2], finished_part, finished_part * v[2]));
+    row(L_optellen_03_14_click, 3, "| # | # | + | # | # | = | ......", of({1, 2}), counts(common(1, 3)),
+        range({{1, 14}, {2, 15}, {1, 14}, {2, 15}, {6, 15}}), range({{1, 23}, {2, 24}, {1, 23}, {2, 24}, {12, 30}}),
+        right(v[0] / v[1] + v[2] / v[3]), wrong("Je hebt niet vereenvoudigd.", v[0] / v[1] + v[2] / v[3]),
+        wrong("uitgehaald. ", v[0] / v[1] + v[2] / v[3]), wrong("uitgehaald en je", v[0] / v[1] + v[2] / v[3]),
+        explains("noemers eerst #,", v[4]), check_worked_line);
+    row(L_optellen_03_14_click, 3, "| # | # | # | + | # | # | # | = | ......", of({3}),
+        range({{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}), right(a + b),
+        wrong("Je hebt niet vereenvoudigd.", a + b), wrong("uitgehaald. ", a + b), wrong("uitgehaald en je", a + b),
+        explains("noemers eerst #,", common(2, 5)), check_worked_line);
+    row(M_aftrekken_03_14_click, 2, "| # | # | # | - | # | # | # | = | ......", counts(common(2, 5)),
+        range({{2, 6}, {2, 14}, {3, 15}, {1, 5}, {1, 5}, {2, 15}, {6, 15}}),
+        range({{2, 6}, {2, 14}, {6, 15}, {1, 5}, {1, 7}, {6, 15}, {30, 60}}), right(a - b),
+        wrong("niet vereenvoudigd.", a - b), wrong("niet gelijknamig", v[0] - v[3] + (v[1] - v[4]) / v[6]),
+        wrong("alleen de streepbreuken", a - v[4] / v[5]), explains("noemers eerst #,", v[6]), check_worked_line);
+    row(L_prijzen_03_03_click, 2, "In @ wordt * jaar #/# deel van * het #/# deel. * | # euro",
+        range({{2, 5}, {7, 12}, {1, 2}, {7, 12}}), range({{1, 5}, {3, 12}, {1, 2}, {4, 12}}), words({8}),
+        right(part_left), wrong("eerste en de tweede prijs samen", 1 - part_left),
+        wrong("alleen de eerste prijs", 1 - first_prize), wrong("alleen de tweede prijs", 1 - second_prize),
+        wrong("van elkaar afgetrokken", first_prize - second_prize),
+        wrong("je & deel vergist", part_left - 1 / common(1, 3), part_left + 1 / common(1, 3)),
+        wrong("ook de noemers", 1 - (v[0] + v[2]) / (v[1] + v[3])),
+        explains("(hoeven|moeten)", [](const reading& n) { return n[1] == n[3] ? 0 : 1; }),
+        explains("Over is dus 1 - & = &", 1 - part_left, part_left), [](const reading& n) {
+            all_in_simplest_form(n);
+            const double second = n[4] / n[0] * n[1] * n[2] / n[3];
+            EXPECT_TRUE(same(std::fmod(second + 1e-6, 1000), 1e-6)) << "the second prize is " << second;
+        });
+    row(M_getallenlijn_03_03_click, 2, "| Gegeven breuk: | # | # |", range({{1, 19}, {3, 20}}),
+        range({{1, 14}, {7, 15}}), explains("schrijven als &. Dat", v[0] / v[1]),
+        explains("\\(#/10) en", floor(v[0] * 10 / v[1])), explains("\\(#/10). De", floor(v[0] * 10 / v[1]) + 1),
+        tips("(Ga eerst gelijknamig maken...|gelijknamig met de tienden)", "noemer #"), check_arrows);
+    row(M_grootste_kleinste_03_03_click, 4,
+        "| Welke breuk is (GROTER|KLEINER) dan * | # | # | groen | # | # | wit | # | # | geel | # | # | rood",
+        range({{0, 1}, {1, 15}, {3, 20}, {1, 15}, {3, 20}, {1, 11}, {3, 12}, {2, 24}, {6, 27}}), right(colour_asked),
+        tips("vereenvoudigen. ", "en daarna"));
+    row(M_olievat_03_06_click, 5,
+        "eerst # liter olie. Een automonteur liet daar & liter * | $0 liter * | # | # | # | liter",
+        range({{12.25, 88.75}, {2.25, 19.75}}), right(v[0] - v[1]),
+        wrong("", v[0] - v[2], v[0] - v[2] - glued / 100, v[0] - v[2] - glued / 10, v[0] - v[2] - 1,
+              v[0] - 2 * v[2] + v[1], v[0] + v[1], v[0] - v[1] + 1, v[0] - v[1] - 1),
+        explains("van & een breuk met een komma. Dat wordt dus # liter", v[1], v[1]),
+        explains("aftrekken van # liter. Dan krijg je # - # liter", v[0], v[0], v[1]),
+        tips("streepbreuk", "Bedenk dat & liter hetzelfde is als #"));
+    row(M_snel_03_03_click, 2, "| Vereenvoudig: #/#", range({{4, 60}, {12, 70}}), range({{9, 90}, {27, 99}}),
+        right(v[0] / v[1]), wrong("nog niet klaar", v[0] / v[1]),
+        wrong("delen van de teller", shortened(-1, 0), shortened(1, 0)),
+        wrong("delen van de noemer", shortened(0, -1), shortened(0, 1)),
+        wrong("hetzelfde getal", shortened(0, 0, false, true), shortened(0, 0, true, false)),
+        explains("delen door # en de", divisor(0, 1)), explains("getal # is het grootste", divisor(0, 1)),
+        ticks({8, 15}), check_shortened);
+    row(L_procenten_03_14_click, 2, "| # % =  .. deel", counts(100, divisor(0, 1)), range({{5, 95}}), range({{2, 98}}),
+        right(v[0] / 100),
+        wrong("", 1 / v[0], 1 - v[0] / 100, v[0] / (100 - v[0]), numerator / 100, v[0] / denominator, v[0] / 1000,
+              v[0] / 200, (numerator - 1) / denominator, (numerator + 1) / denominator, numerator / (denominator - 1)),
+        explains("kun je schrijven als &", v[0] / 100),
+        explains("vereenvoudigen tot & door de teller en de noemer door # te", v[0] / 100, v[2]),
+        explains("# % =  & deel", v[0], v[0] / 100), tips("(Eerst: bedenk|Bedenk eerst)", "(Dan: schrijf|Maak van)"),
+        [](const reading& n) {
+            all_in_simplest_form(n);
+            int yellow = 0;
+            for (const box_op& box : n.exercise.blocks)
+                if (box.pen.colour == geel) yellow += box.width * box.height;
+            EXPECT_EQ(yellow * 100, n[0] * n.exercise.blocks[0].width * n.exercise.blocks[0].height);
+        });
+    row(L_stukken_03_14_click, 14, "stuk AC een lengte heeft van &. Hoe lang is het stuk AB? | A | B | C | ? | &",
+        of({1, 3, 5, 7, 9, 11, 13}), counts(marks(false), marks(true), v[1] - v[0]),
+        range({{2.0 / 3, 50}, {2.0 / 3, 50}, {4, 10}, {1, 9}, {0, 0}}), right(v[0] * v[3] / v[2]),
+        wrong("", lies::below, lies::above), explains("is het & deel van AC", v[3] / v[2]),
+        explains("& : # = &", v[0], v[2], v[0] / v[2]), tips("Eerste stap", "Tweede stap"), check_lengths);
+    row(L_stukken_03_14_click, 14, "stuk AB een lengte heeft van &. Hoe lang is het stuk AC? | A | B | C | & | ?",
+        of({2, 4, 6, 8, 10, 12, 14}), counts(marks(true), marks(false), v[1] - v[0]),
+        range({{1.0 / 6, 45}, {1.0 / 6, 45}, {1, 9}, {4, 10}, {0, 0}}), right(v[0] * v[3] / v[2]),
+        wrong("", lies::below, lies::above), explains("is het & deel van AC", v[2] / v[3]),
+        explains("bestaat uit # van", v[3]), tips("Eerste stap", "Tweede stap"), check_lengths);
+    row(M_tussen_in_03_14_click, 2, "| # | # | geel |", range({{1, 11}, {3, 12}}), right(interval(0)),
+        wrong("", interval(-10), interval(-3), interval(-2), interval(-1), interval(1), interval(2), interval(3),
+              interval(10)),
+        explains("omzetten: # delen door # geeft #", v[0], v[1], floor(v[0] * 1000 / v[1]) / 1000),
+        tips("(Eerste stap: zet|Maak eerst)", "(Tweede stap: verg|Kijk daarna)"));
+    row(M_vereenvoudigen_03_14_click, 2, "| # | # | = | # | .... | $1 | = | $2 | # | ....",
+        counts([](const reading& n) { return n.variant() == 1 ? 1 : n[2] - whole(n.exercise.words[0]); }),
+        range({{8, 76}, {6, 40}, {1, 1}, {1, 11}, {1, 1}}), range({{8, 76}, {6, 40}, {2, 5}, {1, 11}, {1, 1}}),
+        right(says("# en #", v[0] - v[1], v[1] * v[3] / (v[0] - v[1]))),
+        wrong("de volgorde niet", says("# en #", v[1] * v[3] / (v[0] - v[1]), v[0] - v[1])),
+        wrong("geen hele", says("# en #", v[0], v[1] * v[3] / (v[0] - v[1]))),
+        wrong("door hetzelfde getal", says("# en #", v[0] - v[1], v[1])),
+        explains("nog # - # = # over", v[0], v[1], v[0] - v[1]), explains("nog door # delen", (v[0] - v[1]) / v[3]),
+        tips("Eerste stap", "Tweede stap"));
+    row(Z_delen_03_14_click, 4, "| # | # | # | : | # | # | # | = | ... | geel |",
+        range({{2, 5}, {1, 6}, {2, 8}, {1, 2}, {1, 7}, {2, 8}}), right(a / b), wrong(slips(true)),
+        wrong("zonder de tweede breuk", a * b), wrong("apart gedeeld", v[0] / v[3] + v[1] / v[2] / (v[4] / v[5])),
+        wrong("een hele te weinig", a / b - 1), explains("Je krijgt & = &:", a / b, a / b),
+        tips("Eerste stap", "Tweede stap"), check_strokes);
+    row(Z_vermenigvuldigen_03_14_click, 3, "| # | # | # | x | # | # | # | = | ... | geel |",
+        range({{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}), right(a * b), wrong(slips(false)),
+        wrong("opgeteld", a + b), wrong("apart vermenigvuldigd", v[0] * v[3] + v[1] / v[2] * (v[4] / v[5])),
+        wrong("een hele te veel", a * b + 1), explains("Je krijgt & = &:", a * b, a * b), check_strokes);
+    completing(M_aanvullen_1_03_14_click);
+    completing(M_aanvullen_2_03_14_click);
+});
 
 } // namespace
 } // namespace cijferwerf

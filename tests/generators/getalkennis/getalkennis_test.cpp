@@ -48,19 +48,13 @@ constexpr const char* ordinals = "(nulde|eerste|tweede|derde|vierde|vijfde|zesde
 const std::string marked = regel("lijnstuk *# *#. *", ordinals, " streepje. * | # | # |  | #");
 
 // A line in ten pieces, and an arrow of this colour.
-exercise_row line_of_ten(oefening_id id, kleur colour, const char* reads, std::vector<std::vector<span>> ranges,
-                         std::vector<const char*> tips) {
+template<class... Parts>
+void line_of_ten(oefening_id id, kleur colour, const char* reads, const Parts&... parts) {
     const formula tenth = (v[1] - v[0]) / 10, right = v[0] + v[2] * tenth;
-    return {.id = id,
-            .variants = 3,
-            .reads = reads,
-            .counts = {arrow(colour)},
-            .ranges = std::move(ranges),
-            .right = right,
-            .wrong = untold({v[1] - v[2] * tenth, v[0] + v[2] * tenth / 10, right - tenth, right - tenth * 2,
-                             right + tenth, right + tenth * 2}),
-            .explains = {{marked.c_str(), {v[0], v[1], v[2], v[0], v[1], right}}},
-            .tips = std::move(tips)};
+    row(id, 3, reads, counts(arrow(colour)), cijferwerf::right(right),
+        wrong("", v[1] - v[2] * tenth, v[0] + v[2] * tenth / 10, right - tenth, right - tenth * 2, right + tenth,
+              right + tenth * 2),
+        explains(marked.c_str(), v[0], v[1], v[2], v[0], v[1], right), parts...);
 }
 
 void check_arrows(const reading& n) {
@@ -249,181 +243,122 @@ const formula growth = members(1) - members(0);
 
 const formula piece = (v[1] - v[0]) / v[3], at_arrow = v[0] + v[2] * piece;
 
-const exercise_rows number_knowledge{
-    {.id = B_getallenlijn_11_01_click,
-     .variants = 5,
-     .reads = "wijst die pijl? | # | #",
-     .counts = {arrow(rood), mark_above(1), mark_above(0)},
-     .ranges = {{{5, 905, 5}, {13, 1705, 200}, {1, 9}, {4, 8}, {0, 0}}},
-     .right = at_arrow,
-     .wrong = untold(
-         {at_arrow - piece, at_arrow + piece, v[0] + piece, v[0] + v[2], at_arrow + v[2] * piece, v[1] + v[2] * piece}),
-     .explains = {{"tussen # en # in # stukjes *waarde van # : # = #. De pijl staat # (stukje|stukjes) verder dan #. "
-                   "* | # | # |  | #",
-                   {v[0], v[1], v[3], v[1] - v[0], v[3], by_variant({2, 5, 10, 50, 100}), v[2],
-                    [](const reading& n) { return n[2] == 1 ? 0 : 1; }, v[0], v[0], v[1], at_arrow}}},
-     .tips = {"Bereken eerst hoeveel de", "Deel het verschil"},
-     .check =
-         [](const reading& n) {
-             for (const double each : n.exercise.numbers()) EXPECT_TRUE(each != n[0] && each != n[1]);
-         }},
-    line_of_ten(B_pijl_1_11_06_click, geel, "wijst de pijl? | # | #",
-                {{{0, 9}, {1, 10}, {1, 9}}, {{10, 99}, {11, 100}, {1, 9}}, {{100, 199}, {101, 200}, {1, 9}}},
-                {"In hoeveel stukjes", "één lang"}),
-    line_of_ten(B_pijl_2_11_06_click, blauw, "Welk getal is dat? | # | #",
-                {{{0.1, 0.9}, {0.2, 1}, {1, 9}}, {{1, 9.9}, {1.1, 10}, {1, 9}}, {{10, 19.9}, {10.1, 20}, {1, 9}}},
-                {"Hoe groot is het verschil", "een tiende lang"}),
-    {.id = L_pijlverwijzing_11_06_click,
-     .variants = 2,
-     .reads = "geeft het getal # aan? | # | #",
-     .counts = {[](const reading& n) { return std::round((n[0] - n[1]) * (n.variant() == 1 ? 5 : 10)); },
-                [](const reading& n) { return mark_at(n.exercise, 5090); }},
-     .ranges = {{{0.2, 99.8, 2}, {0, 99}, {1, 100}, {1, 4}, {5, 5}},
-                {{0.1, 99.9, 2}, {0, 99}, {1, 100}, {1, 9}, {10, 10}}},
-     .explains = {{"tussen # en # is in (vijf|tien) gelijke stukjes verdeeld. Elk stukje heeft dus een waarde van #. "
-                   "Van # tot # (is|zijn) het # (stukje|stukjes): * streepje *geel | groen | #",
-                   {v[1], v[2], by_variant({0, 1}), 1 / v[4], v[1], v[0], several, v[3], several, v[0]}}},
-     .check = check_arrows},
-    {.id = B_letters_11_01_click,
-     .variants = 3,
-     .reads = "Hoe schrijf je het in cijfers?",
-     .counts = {[](const reading& n) { return decimal(n.exercise.right); }},
-     .ranges = {{{12102, 98987, 1500}}, {{102102, 987987, 15000}}, {{1102102, 9987987, 150000}}},
-     .explains = {{"dus #. * | #", {v[0], v[0]}}},
-     .check = check_digits},
-    {.id = B_waarde_11_01_click,
-     .variants = 3,
-     .reads = "dat cijfer waard? | #",
-     .counts = {place},
-     .ranges = {{{1000, 99999, 400}, {1, 4}},
-                {{100000, 9999999, 40000}, {3, 6}},
-                {{10000000, 99999999, 400000}, {6, 7}}},
-     .right = pointed * place_worth,
-     .wrong = at_other_places(),
-     .explains = {{"naar het cijfer #. Dit cijfer geeft het aantal (tientallen|honderdtallen|duizendtallen|"
-                   "tienduizendtallen|honderdduizendtallen|miljoentallen|tienmiljoentallen) *met #. Uitkomst: # ",
-                   {pointed, v[1] - 1, place_worth, pointed}}}},
-    {.id = L_na_de_komma_11_06_click,
-     .variants = 3,
-     .reads = "Kies de juiste kleur. | # =",
-     .ranges = {{{0.26, 0.59}}, {{0.206, 0.509}}, {{0.026, 0.059}}},
-     .right = says("#/# + #/#", first_digit, first_part, second_digit, second_part),
-     .wrong = {{"De eerste helft van je antwoord is goed", says("#/# + #/*", first_digit, first_part, second_digit)},
-               {"De tweede helft van je antwoord is wel goed",
-                says("#/* + #/#", first_digit, second_digit, second_part)},
-               {"Beide helften", says("#/* + #/*", first_digit, second_digit)}}},
-    {.id = L_samenstellen_11_06_click,
-     .variants = 6,
-     .reads = "bestaat uit # @ en # @? | D | H | T | E | t | h | d",
-     .counts = {counted(0), counted(1)},
-     .ranges = {{{1, 5}, {2, 9}, {0.1, 100}, {0.001, 10}}},
-     .right = v[0] * v[2] + v[1] * v[3],
-     .wrong = {{"met elkaar verwisseld", v[0] * v[3] + v[1] * v[2]},
-               {"staat wel goed", lies::elsewhere},
-               {"allebei niet", lies::elsewhere}},
-     .check = check_composed},
-    {.id = B_onder_elkaar_11_01_click,
-     .variants = 3,
-     .reads =
-         "elkaar? | A             B              C              D | # | # | + | $0 | $1 | + | $0 | $1 | + | $0 | $1",
-     .ranges = {{{10, 99}, {10, 99}}, {{10, 999, 9}, {10, 999, 9}}, {{10, 9999, 90}, {10, 9999, 90}}},
-     .right = aligned,
-     .explains = {{"hier de # *bovenste getal) en de # *Alleen bij * | goed", {unit_of(v[0]), unit_of(v[1])}}},
-     .tips = {"in welke optelling", "laatste cijfers van de getallen: hier de # en de #."},
-     .check = check_columns},
-    {.id = B_schatten_11_01_click,
-     .variants = 3,
-     .reads = "Uit het hoofd! | # - #",
-     .ranges = {{{292, 908}, {92, 708}},
-                {{2920, 20080, 20}, {920, 18080, 60}},
-                {{29200, 200800, 200}, {9200, 180800, 600}}},
-     .right = estimate,
-     .wrong = untold({estimate - unit, estimate + unit, estimate - unit * 2, estimate + unit * 2,
-                      near_first + near_second, estimate * 10, estimate / 10}),
-     .explains = {{"gelijk aan #. Het tweede getal is ongeveer gelijk aan #. * # * | ongeveer # - #",
-                   {near_first, near_second, near_first, near_first, near_second}}},
-     .tips = {"ONGEVEER", "Rond beide getallen af op (honderdtallen|duizendtallen|tienduizendtallen)."},
-     .check =
-         [](const reading& n) {
-             const auto answers = n.exercise.numbers();
-             const auto away = [&](double answer) { return std::abs(answer - (n[0] - n[1])); };
-             EXPECT_EQ(away(answers[0]), away(*std::ranges::min_element(answers, {}, away)));
-         }},
-    {.id = L_optellen_11_01_click,
-     .variants = 3,
-     .reads = "som hiernaast... | # + # + # + # = ..",
-     .counts = {first_pair, total - first_pair},
-     .ranges = {{{10, 249}, {1, 249, 5}, {1, 249, 5}, {1, 240, 5}, {20, 250}, {20, 250}}},
-     .right = total,
-     .wrong = untold({total - 10, total - 20, total - 30, total + 10, total + 20, total + 30}),
-     .explains = {{"eerste en (tweede|derde|vierde) getal *samen #*maar ook het (derde|tweede) en (vierde|derde) getal "
-                   "\\(samen #). Uitkomst: # +",
-                   {by_variant({0, 1, 2}), v[4], by_variant({0, 1, 1}), by_variant({0, 0, 1}), v[5], v[4]}}},
-     .ticks = {15},
-     .check = [](const reading& n) { EXPECT_TRUE(std::fmod(n[4], 10) == 0 && std::fmod(n[5], 10) == 0); }},
-    {.id = L_schoolbord_11_06_click,
-     .variants = 4,
-     .reads = "Kies het goede antwoord. | deel  van # = | # | #",
-     .ranges = {{{0.04, 18, 0.3}, {1, 1}, {2, 6}},
-                {{0.06, 15, 0.3}, {2, 4}, {3, 5}},
-                {{0.12, 21, 0.4}, {2, 6}, {6, 7}},
-                {{0.16, 30, 0.6}, {3, 7}, {8, 10}}},
-     .right = part,
-     .wrong = untold({one_part, v[0] - part, v[0] * v[2], part + one_part, part - one_part, part * 10, part / 10}),
-     .explains = {{"lezen als # honderdste. Deel dit aantal eerst door #: # : *Dat is # honderdste, dus",
-                   {v[0] * 100, v[2], v[0] * 100, part * 100}}},
-     .tips = {"Maak eerst honderdsten", "Reken verder met # honderdsten: deel door #"},
-     .check = check_board},
-    {.id = M_dichtst_bij_11_06_click,
-     .variants = 3,
-     .reads = "met de streepbreuk? | # | # | #",
-     .counts = {least_distance},
-     .ranges = {{{1, 20}, {1, 1}, {2, 2}, {0.01, 0.04}},
-                {{1, 20}, {1, 3}, {4, 4}, {0.01, 0.04}},
-                {{1, 20}, {1, 7}, {8, 8}, {0.005, 0.035}}},
-     .explains = {{"Het getal & is als kommagetal #. Dit verschilt # met het getal bij A, # met het getal bij B, # met "
-                   "het getal bij C en # met het getal bij D. Het kleinste verschil is #: * = #",
-                   {mixed, mixed, distance(0), distance(1), distance(2), distance(3), v[3], mixed}}},
-     .tips = {"Maak van die streepbreuk", "Bereken dan bij elk"}},
-    {.id = M_grootste_kleinste_11_01_click,
-     .variants = 2,
-     .reads = "getal is het (kleinste|grootste)? | # | # | # | #",
-     .counts = {ranked(0, 1'000), ranked(0, 100)},
-     .ranges = {{{0, 0}, {10000, 999999, 15000}}, {{1, 1}, {10000, 999999, 15000}}},
-     .right = ranked(0),
-     .wrong = {{"Vergelijk de honderdtallen...", ranked(1)},
-               {"Kijk naar de duizendtallen...", ranked(2)},
-               {"het grootste getal genomen, maar je moest het kleinste hebben!", largest},
-               {"het kleinste getal genomen, maar je moest het grootste hebben!", smallest}},
-     .explains = {{"Het cijfer # is daar het (kleinste|grootste). Dat staat in # en in #. Vergelijk daarvan de "
-                   "honderdtallen: # is (kleiner|groter) dan #. Het (kleinste|grootste) getal",
-                   {v[5], v[0], ranked(0), ranked(1), v[6], v[0], ranked(1, 100), v[0]}}},
-     .check =
-         [](const reading& n) {
-             const auto at = [&](std::size_t rank, int worth) { return std::get<double>(ranked(rank, worth)(n)); };
-             EXPECT_TRUE(n[5] == at(1, 1'000) && n[6] != at(1, 100) && n[5] != at(2, 1'000));
-             EXPECT_NE(at(2, 1'000), at(3, 1'000));
-             for (std::size_t i = 2; i <= 4; ++i) EXPECT_EQ(std::floor(n[i] / 1e4), std::floor(n[1] / 1e4));
-         }},
-    {.id = M_tabel_11_01_click,
-     .variants = 4,
-     .reads = "tussen # en # bijgekomen? | TABEL | aantal leden *x #* in het jaar |  | # | # | # | # | # | # | # | #",
-     .ranges = {{{1960, 2001, 4}, {1961, 2002, 4}, {100, 100000}, {1960, 1999, 10}, {10, 96, 30}}},
-     .right = growth * v[2],
-     .wrong = {{"vergeten te vermenigvuldigen", growth},
-               {"met het goede getal vermenigvuldigd", growth* v[2] / 10},
-               {"met het goede getal vermenigvuldigd", growth* v[2] * 10},
-               {"Zoveel leden waren er in # in totaal. Een deel daarvan was er in # al.", members(1) * v[2]},
-               {"Je hebt de aantallen opgeteld.", (members(0) + members(1)) * v[2]}},
-     .explains =
-         {{"In # staat in de tabel het getal # en in # het getal #. *Boven de tabel staat: x #. * | # x # = | #",
-           {v[0], members(0), v[1], members(1), v[2], growth, v[2], growth* v[2]}}},
-     .check =
-         [](const reading& n) {
-             for (std::size_t row = 3; row < 9; ++row) EXPECT_LT(n[row], n[row + 2]);
-             EXPECT_TRUE(n[9] <= 2002 && n[10] <= 99 && n[2] == std::pow(10, n.variant() + 1));
-         }},
-};
+const exercise_rows number_knowledge([] {
+    row(B_getallenlijn_11_01_click, 5, "wijst die pijl? | # | #", counts(arrow(rood), mark_above(1), mark_above(0)),
+        range({{5, 905, 5}, {13, 1705, 200}, {1, 9}, {4, 8}, {0, 0}}), right(at_arrow),
+        wrong("", at_arrow - piece, at_arrow + piece, v[0] + piece, v[0] + v[2], at_arrow + v[2] * piece,
+              v[1] + v[2] * piece),
+        explains(
+            "tussen # en # in # stukjes *waarde van # : # = #. De pijl staat # (stukje|stukjes) verder dan #. "
+            "* | # | # |  | #",
+            v[0], v[1], v[3], v[1] - v[0], v[3], by_variant({2, 5, 10, 50, 100}), v[2],
+            [](const reading& n) { return n[2] == 1 ? 0 : 1; }, v[0], v[0], v[1], at_arrow),
+        tips("Bereken eerst hoeveel de", "Deel het verschil"), [](const reading& n) {
+            for (const double each : n.exercise.numbers()) EXPECT_TRUE(each != n[0] && each != n[1]);
+        });
+    line_of_ten(B_pijl_1_11_06_click, geel, "wijst de pijl? | # | #", range({{0, 9}, {1, 10}, {1, 9}}),
+                range({{10, 99}, {11, 100}, {1, 9}}), range({{100, 199}, {101, 200}, {1, 9}}),
+                tips("In hoeveel stukjes", "één lang"));
+    line_of_ten(B_pijl_2_11_06_click, blauw, "Welk getal is dat? | # | #", range({{0.1, 0.9}, {0.2, 1}, {1, 9}}),
+                range({{1, 9.9}, {1.1, 10}, {1, 9}}), range({{10, 19.9}, {10.1, 20}, {1, 9}}),
+                tips("Hoe groot is het verschil", "een tiende lang"));
+    row(L_pijlverwijzing_11_06_click, 2, "geeft het getal # aan? | # | #",
+        counts([](const reading& n) { return std::round((n[0] - n[1]) * (n.variant() == 1 ? 5 : 10)); },
+               [](const reading& n) { return mark_at(n.exercise, 5090); }),
+        range({{0.2, 99.8, 2}, {0, 99}, {1, 100}, {1, 4}, {5, 5}}),
+        range({{0.1, 99.9, 2}, {0, 99}, {1, 100}, {1, 9}, {10, 10}}),
+        explains("tussen # en # is in (vijf|tien) gelijke stukjes verdeeld. Elk stukje heeft dus een waarde van #. "
+                 "Van # tot # (is|zijn) het # (stukje|stukjes): * streepje *geel | groen | #",
+                 v[1], v[2], by_variant({0, 1}), 1 / v[4], v[1], v[0], several, v[3], several, v[0]),
+        check_arrows);
+    row(B_letters_11_01_click, 3, "Hoe schrijf je het in cijfers?",
+        counts([](const reading& n) { return decimal(n.exercise.right); }), range({{12102, 98987, 1500}}),
+        range({{102102, 987987, 15000}}), range({{1102102, 9987987, 150000}}), explains("dus #. * | #", v[0], v[0]),
+        check_digits);
+    row(B_waarde_11_01_click, 3, "dat cijfer waard? | #", counts(place), range({{1000, 99999, 400}, {1, 4}}),
+        range({{100000, 9999999, 40000}, {3, 6}}), range({{10000000, 99999999, 400000}, {6, 7}}),
+        right(pointed * place_worth), wrong(at_other_places()),
+        explains("naar het cijfer #. Dit cijfer geeft het aantal (tientallen|honderdtallen|duizendtallen|"
+                 "tienduizendtallen|honderdduizendtallen|miljoentallen|tienmiljoentallen) *met #. Uitkomst: # ",
+                 pointed, v[1] - 1, place_worth, pointed));
+    row(L_na_de_komma_11_06_click, 3, "Kies de juiste kleur. | # =", range({{0.26, 0.59}}), range({{0.206, 0.509}}),
+        range({{0.026, 0.059}}), right(says("#/# + #/#", first_digit, first_part, second_digit, second_part)),
+        wrong("De eerste helft van je antwoord is goed", says("#/# + #/*", first_digit, first_part, second_digit)),
+        wrong("De tweede helft van je antwoord is wel goed", says("#/* + #/#", first_digit, second_digit, second_part)),
+        wrong("Beide helften", says("#/* + #/*", first_digit, second_digit)));
+    row(L_samenstellen_11_06_click, 6, "bestaat uit # @ en # @? | D | H | T | E | t | h | d",
+        counts(counted(0), counted(1)), range({{1, 5}, {2, 9}, {0.1, 100}, {0.001, 10}}),
+        right(v[0] * v[2] + v[1] * v[3]), wrong("met elkaar verwisseld", v[0] * v[3] + v[1] * v[2]),
+        wrong("staat wel goed", lies::elsewhere), wrong("allebei niet", lies::elsewhere), check_composed);
+    row(B_onder_elkaar_11_01_click, 3,
+        "elkaar? | A             B              C              D | # | # | + | $0 | $1 | + | $0 | $1 | + | $0 | $1",
+        range({{10, 99}, {10, 99}}), range({{10, 999, 9}, {10, 999, 9}}), range({{10, 9999, 90}, {10, 9999, 90}}),
+        right(aligned),
+        explains("hier de # *bovenste getal) en de # *Alleen bij * | goed", unit_of(v[0]), unit_of(v[1])),
+        tips("in welke optelling", "laatste cijfers van de getallen: hier de # en de #."), check_columns);
+    row(B_schatten_11_01_click, 3, "Uit het hoofd! | # - #", range({{292, 908}, {92, 708}}),
+        range({{2920, 20080, 20}, {920, 18080, 60}}), range({{29200, 200800, 200}, {9200, 180800, 600}}),
+        right(estimate),
+        wrong("", estimate - unit, estimate + unit, estimate - unit * 2, estimate + unit * 2, near_first + near_second,
+              estimate * 10, estimate / 10),
+        explains("gelijk aan #. Het tweede getal is ongeveer gelijk aan #. * # * | ongeveer # - #", near_first,
+                 near_second, near_first, near_first, near_second),
+        tips("ONGEVEER", "Rond beide getallen af op (honderdtallen|duizendtallen|tienduizendtallen)."),
+        [](const reading& n) {
+            const auto answers = n.exercise.numbers();
+            const auto away = [&](double answer) { return std::abs(answer - (n[0] - n[1])); };
+            EXPECT_EQ(away(answers[0]), away(*std::ranges::min_element(answers, {}, away)));
+        });
+    row(L_optellen_11_01_click, 3, "som hiernaast... | # + # + # + # = ..", counts(first_pair, total - first_pair),
+        range({{10, 249}, {1, 249, 5}, {1, 249, 5}, {1, 240, 5}, {20, 250}, {20, 250}}), right(total),
+        wrong("", total - 10, total - 20, total - 30, total + 10, total + 20, total + 30),
+        explains("eerste en (tweede|derde|vierde) getal *samen #*maar ook het (derde|tweede) en (vierde|derde) getal "
+                 "\\(samen #). Uitkomst: # +",
+                 by_variant({0, 1, 2}), v[4], by_variant({0, 1, 1}), by_variant({0, 0, 1}), v[5], v[4]),
+        ticks({15}), [](const reading& n) { EXPECT_TRUE(std::fmod(n[4], 10) == 0 && std::fmod(n[5], 10) == 0); });
+    row(L_schoolbord_11_06_click, 4, "Kies het goede antwoord. | deel  van # = | # | #",
+        range({{0.04, 18, 0.3}, {1, 1}, {2, 6}}), range({{0.06, 15, 0.3}, {2, 4}, {3, 5}}),
+        range({{0.12, 21, 0.4}, {2, 6}, {6, 7}}), range({{0.16, 30, 0.6}, {3, 7}, {8, 10}}), right(part),
+        wrong("", one_part, v[0] - part, v[0] * v[2], part + one_part, part - one_part, part * 10, part / 10),
+        explains("lezen als # honderdste. Deel dit aantal eerst door #: # : *Dat is # honderdste, dus", v[0] * 100,
+                 v[2], v[0] * 100, part * 100),
+        tips("Maak eerst honderdsten", "Reken verder met # honderdsten: deel door #"), check_board);
+    row(M_dichtst_bij_11_06_click, 3, "met de streepbreuk? | # | # | #", counts(least_distance),
+        range({{1, 20}, {1, 1}, {2, 2}, {0.01, 0.04}}), range({{1, 20}, {1, 3}, {4, 4}, {0.01, 0.04}}),
+        range({{1, 20}, {1, 7}, {8, 8}, {0.005, 0.035}}),
+        explains("Het getal & is als kommagetal #. Dit verschilt # met het getal bij A, # met het getal bij B, # met "
+                 "het getal bij C en # met het getal bij D. Het kleinste verschil is #: * = #",
+                 mixed, mixed, distance(0), distance(1), distance(2), distance(3), v[3], mixed),
+        tips("Maak van die streepbreuk", "Bereken dan bij elk"));
+    row(M_grootste_kleinste_11_01_click, 2, "getal is het (kleinste|grootste)? | # | # | # | #",
+        counts(ranked(0, 1'000), ranked(0, 100)), range({{0, 0}, {10000, 999999, 15000}}),
+        range({{1, 1}, {10000, 999999, 15000}}), right(ranked(0)), wrong("Vergelijk de honderdtallen...", ranked(1)),
+        wrong("Kijk naar de duizendtallen...", ranked(2)),
+        wrong("het grootste getal genomen, maar je moest het kleinste hebben!", largest),
+        wrong("het kleinste getal genomen, maar je moest het grootste hebben!", smallest),
+        explains("Het cijfer # is daar het (kleinste|grootste). Dat staat in # en in #. Vergelijk daarvan de "
+                 "honderdtallen: # is (kleiner|groter) dan #. Het (kleinste|grootste) getal",
+                 v[5], v[0], ranked(0), ranked(1), v[6], v[0], ranked(1, 100), v[0]),
+        [](const reading& n) {
+            const auto at = [&](std::size_t rank, int worth) { return std::get<double>(ranked(rank, worth)(n)); };
+            EXPECT_TRUE(n[5] == at(1, 1'000) && n[6] != at(1, 100) && n[5] != at(2, 1'000));
+            EXPECT_NE(at(2, 1'000), at(3, 1'000));
+            for (std::size_t i = 2; i <= 4; ++i) EXPECT_EQ(std::floor(n[i] / 1e4), std::floor(n[1] / 1e4));
+        });
+    row(M_tabel_11_01_click, 4,
+        "tussen # en # bijgekomen? | TABEL | aantal leden *x #* in het jaar |  | # | # | # | # | # | # | # | #",
+        range({{1960, 2001, 4}, {1961, 2002, 4}, {100, 100000}, {1960, 1999, 10}, {10, 96, 30}}), right(growth * v[2]),
+        wrong("vergeten te vermenigvuldigen", growth),
+        wrong("met het goede getal vermenigvuldigd", growth * v[2] / 10, growth * v[2] * 10),
+        wrong("Zoveel leden waren er in # in totaal. Een deel daarvan was er in # al.", members(1) * v[2]),
+        wrong("Je hebt de aantallen opgeteld.", (members(0) + members(1)) * v[2]),
+        explains("In # staat in de tabel het getal # en in # het getal #. *Boven de tabel staat: x #. * | # x # = | #",
+                 v[0], members(0), v[1], members(1), v[2], growth, v[2], growth * v[2]),
+        [](const reading& n) {
+            for (std::size_t row = 3; row < 9; ++row) EXPECT_LT(n[row], n[row + 2]);
+            EXPECT_TRUE(n[9] <= 2002 && n[10] <= 99 && n[2] == std::pow(10, n.variant() + 1));
+        });
+});
 
 } // namespace
 } // namespace cijferwerf

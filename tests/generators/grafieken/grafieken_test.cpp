@@ -257,151 +257,94 @@ const formula all_seats = [](const reading& n) {
 };
 const formula won = v[0] * (v[1] + v[2]) / 100;
 
-const exercise_rows graphs{
-    {.id = B_inwoners_04_18_click,
-     .variants = 3,
-     .reads = "Hoeveel inwoners had deze stad? | = # personen",
-     .counts = {whole_figures},
-     .ranges = {{{1000, 1000}, {3, 14}}, {{10'000, 10'000}, {3, 14}}, {{100'000, 100'000}, {3, 8}}},
-     .right = v[0] * v[1] + v[0] / 2,
-     .wrong = {{"aangezien", v[0] * v[1] + v[0]},
-               {"Je hebt de verkeerde schaal", v[1] * wrong_scale + wrong_scale / 2},
-               {"en je hebt ook nog", v[1] * wrong_scale + wrong_scale}},
-     .explains = {{"stelt # inwoners voor. Er zijn in totaal # van * stad # x # = # inwoners",
-                   {v[0], v[1] + 0.5, v[1] + 0.5, v[0], v[0] * v[1] + v[0] / 2}}}},
-    {.id = B_rusthuis_04_18_click,
-     .variants = 2,
-     .reads = "Een rusthuis heeft # bedden. * bezet aan het eind van @ van dat jaar?",
-     .counts = {[](const reading& n) {
-         return values(n.exercise, 5).at(static_cast<std::size_t>(month_of(n.words[0]) - 1));
-     }},
-     .ranges = {{{40, 200}, {10, 95}}},
-     .words = {12},
-     .right = v[0] * v[1] / 100,
-     .explains = {{"de #e maand van het jaar. Daar lees je het percentage af: # %. Daarna moet je nog # % van # nemen, "
-                   "dus je moet berekenen: # x # = #.",
-                   {[](const reading& n) { return month_of(n.words[0]); }, v[1], v[1], v[0], v[1] / 100, v[0],
-                    v[0] * v[1] / 100}}},
-     .tips = {"(Kijk eerst naar de juiste maand|Zoek eerst de kolom)", "(Zoek de stip boven|e van links)"},
-     .check =
-         [](const reading& n) {
-             n.exercise.told(("aflezen bij " + n.words[0] + ",").c_str());
-             const numbers percentages = values(n.exercise, 5);
-             for (const double answer : n.exercise.numbers())
-                 EXPECT_EQ(std::ranges::count(percentages, answer * 100 / n[0]), 1) << "read at no month, or at two";
-         }},
-    {.id = L_hardlopen_1_04_18_click,
-     .variants = 4,
-     .reads = "In welke seconde legt *(KLEINSTE|GROOTSTE) (aantal meters|afstand)* | m | s",
-     .counts = {[](const reading& n) { return whole(n.exercise.right); },
-                [](const reading& n) { return largest(metres(n.exercise)); }},
-     .ranges = {{{0, 0}, {0, 0}, {1, 6}, {9.3, 9.7}},
-                {{1, 1}, {1, 1}, {1, 6}, {11.1, 11.4}},
-                {{0, 0}, {0, 0}, {7, 13}, {9.3, 9.7}},
-                {{1, 1}, {1, 1}, {7, 12}, {11.1, 11.4}}},
-     .right = second(false),
-     .wrong = {{"niet naar de (kleinste, maar naar de grootste|grootste, maar naar de kleinste)", second(true)},
-               {"niet goed afgelezen", lies::elsewhere}},
-     .explains = {{"ussen # en # second", {v[2] - 1, v[2]}}},
-     .check = check_run},
-    {.id = L_hardlopen_2_04_18_click,
-     .variants = 4,
-     .reads = "ligt na # seconden op de (eerste|tweede|derde|vierde) plaats? * | m | s |",
-     .ranges = {{{60, 100}, {0, 0}}, {{60, 100}, {1, 1}}, {{60, 100}, {2, 2}}, {{60, 100}, {3, 3}}},
-     .right = runner,
-     .explains = {{"de (grootste|op één na grootste|op twee na grootste|kleinste) afstand", {v[1]}},
-                  {"de (hoogste|op één na hoogste|op twee na hoogste|laagste) grafiek", {v[1]}}},
-     .tips = {"Zoek op de onderste as", "tot je de @ grafiek tegenkomt"},
-     .check =
-         [](const reading& n) {
-             check_finish(n);
-             const char* from_below[]{"vierde", "derde", "tweede", "eerste"};
-             const std::string tip = joined(n.exercise.made.tipregels_2);
-             EXPECT_NE(tip.find(regel("de ", from_below[n.variant() - 1], " grafiek")), tip.npos) << tip;
-         }},
-    {.id = L_inkomen_04_18_click,
-     .variants = 2,
-     .reads =
-         "Welk gezin kan een (inkomensstijging|inkomensdaling) ver- wachten* | in euro | vorig jaar | eerste helft van dit jaar",
-     // How many have a green column that is higher, and a red one.
-     .counts = {higher_than_asked(1), higher_than_asked(0)},
-     .ranges = {{{0, 0}, {0, 3}, {0, 3}}, {{1, 1}, {0, 3}, {0, 3}}},
-     .explains = {{"er op (vooruit|achteruit)", {v[0]}}},
-     .tips = {"(Maak in gedachten|twee keer een half jaar)", "(boven rood uit|lager dan rood)"},
-     .check = check_incomes},
-    {.id = L_regenval_04_18_click,
-     .variants = 5,
-     .reads = "tussen de maand met de meeste en die met de minste regenval?",
-     .counts = {rain(largest, "natste maand van dat jaar is (\\w+)\\."), rain(smallest, "de maand (\\w+) viel")},
-     .ranges = {{{50, 60}, {5, 15}},
-                {{80, 100}, {10, 30}},
-                {{100, 120}, {10, 30}},
-                {{160, 200}, {20, 60}},
-                {{200, 250}, {25, 75}}},
-     .right = v[0] - v[1],
-     .wrong = {{"Je hebt de getallen opgeteld", v[0] + v[1]},
-               {"slechts één getal", v[0]},
-               {"slechts één getal", v[1]},
-               {"rekenfoutje", v[0] - v[1] - rain_step},
-               {"rekenfoutje", v[0] - v[1] + rain_step}},
-     .explains = {{"viel er # mm regen *de hoogste", {v[0]}},
-                  {"In de maand * viel er # mm", {v[1]}},
-                  {"aftrekken: # - # is # mm.", {v[0], v[1], v[0] - v[1]}}}},
-    {.id = L_vakanties_04_18_click,
-     .variants = 4,
-     .reads = "Van # mensen * waarvan er één door # mensen bezocht werd",
-     .ranges = {{{36, 192}, {18, 96}}, {{36, 480}, {3, 99}}, {{36, 288}, {12, 96}}, {{36, 480}, {3, 80}}},
-     .check = check_countries},
-    {.id = M_dollars_04_18_click,
-     .variants = 2,
-     .reads =
-         "op z'n (laagst|hoogst) was. Hij hield er # dollar van over, die hij weer tegen de {hoogste|laagste} koers "
-         "verkocht. Hoeveel euro {verdiende|verloor} hij op die $1 dollars? |* eurocent | KOERS VAN DE DOLLAR",
-     .counts = {[](const reading& n) { return smallest(values(n.exercise, 1)); },
-                [](const reading& n) { return largest(values(n.exercise, 1)); }},
-     .ranges = {{{0, 0}, {100, 900}, {61, 88}, {71, 99}}, {{1, 1}, {100, 900}, {61, 88}, {71, 99}}},
-     .right = v[1] * (v[3] - v[2]) / 100,
-     .wrong = {{"waarde bij de hoogste", v[1] * v[3] / 100},
-               {"waarde bij de laagste", v[1] * v[2] / 100},
-               {"het begin en het eind", v[1] * ends / 100},
-               {"niet goed afgelezen", v[1] * (v[3] - v[2] + 1) / 100},
-               {"niet goed afgelezen", v[1] * (v[3] - v[2] - 1) / 100},
-               {"De komma staat verkeerd", v[1] * (v[3] - v[2]) / 10},
-               {"De komma staat verkeerd", v[1] * (v[3] - v[2]) / 1000}},
-     .explains = {{"is # eurocent *# - #*.", {v[3] - v[2], v[3], v[2]}},
-                  {"een (winst|verlies) van # x # eurocent = € #.",
-                   {v[0], v[1], v[3] - v[2], v[1] * (v[3] - v[2]) / 100}}}},
-    {.id = Z_roken_04_18_click,
-     .variants = 2,
-     .reads = "Welke groep rookte het (MEEST|MINST)? | ROKERS PER LEEFTIJD, IN % VAN DE HELE GROEP",
-     .counts = {[](const reading& n) { return decimal(n.exercise.told("percentage (\\d+) %").at(1)); }},
-     .ranges = {{{0, 0}, {70, 100}}, {{1, 1}, {60, 70}}},
-     .explains = {{"het (grootste|kleinste) percentage", {v[0]}}},
-     .check = check_smokers},
-    {.id = Z_verkiezingen_04_18_click,
-     .variants = 2,
-     .reads = "gehouden. @ en @ verliezen samen #% van hun zetels aan @. De andere * heeft @ nu?",
-     .counts = {seats(0), seats(1), seats(2)},
-     .ranges = {{{20, 40}, {5, 20}, {5, 20}, {5, 50}}, {{60, 80}, {5, 20}, {5, 20}, {5, 50}}},
-     .words = {10, 10, 10, 10},
-     .right = v[3] + won,
-     .wrong = {{"", v[3] + v[0] * v[3] / 100},
-               {"", v[3] + v[0] * all_seats / 100},
-               {"", v[3] + v[0] * v[1] / 100},
-               {"", v[3] + v[0] * v[2] / 100},
-               {"", v[3] - won},
-               {"", v[3] + v[1] + v[2]},
-               {"", v[3] + v[0]},
-               {"", won}},
-     .explains = {{"Dat zijn er # + # = #. Hier neem je # % van, dus # zetels", {v[1], v[2], v[1] + v[2], v[0], won}},
-                  {"had eerst # zetels in de Raad, zodat deze partij er nu # heeft.", {v[3], v[3] + won}}},
-     .tips = {"Eerste stap", "Tweede stap"},
-     .check =
-         [](const reading& n) {
-             EXPECT_EQ(n.words[3], n.words[2]);
-             n.exercise.told(("gaan naar " + n.words[2] + "\\. " + n.words[2] + " had").c_str());
-         }},
-};
+const exercise_rows graphs([] {
+    row(B_inwoners_04_18_click, 3, "Hoeveel inwoners had deze stad? | = # personen", counts(whole_figures),
+        range({{1000, 1000}, {3, 14}}), range({{10'000, 10'000}, {3, 14}}), range({{100'000, 100'000}, {3, 8}}),
+        right(v[0] * v[1] + v[0] / 2), wrong("aangezien", v[0] * v[1] + v[0]),
+        wrong("Je hebt de verkeerde schaal", v[1] * wrong_scale + wrong_scale / 2),
+        wrong("en je hebt ook nog", v[1] * wrong_scale + wrong_scale),
+        explains("stelt # inwoners voor. Er zijn in totaal # van * stad # x # = # inwoners", v[0], v[1] + 0.5,
+                 v[1] + 0.5, v[0], v[0] * v[1] + v[0] / 2));
+    row(B_rusthuis_04_18_click, 2, "Een rusthuis heeft # bedden. * bezet aan het eind van @ van dat jaar?",
+        counts([](const reading& n) {
+            return values(n.exercise, 5).at(static_cast<std::size_t>(month_of(n.words[0]) - 1));
+        }),
+        range({{40, 200}, {10, 95}}), words({12}), right(v[0] * v[1] / 100),
+        explains(
+            "de #e maand van het jaar. Daar lees je het percentage af: # %. Daarna moet je nog # % van # nemen, "
+            "dus je moet berekenen: # x # = #.",
+            [](const reading& n) { return month_of(n.words[0]); }, v[1], v[1], v[0], v[1] / 100, v[0],
+            v[0] * v[1] / 100),
+        tips("(Kijk eerst naar de juiste maand|Zoek eerst de kolom)", "(Zoek de stip boven|e van links)"),
+        [](const reading& n) {
+            n.exercise.told(("aflezen bij " + n.words[0] + ",").c_str());
+            const numbers percentages = values(n.exercise, 5);
+            for (const double answer : n.exercise.numbers())
+                EXPECT_EQ(std::ranges::count(percentages, answer * 100 / n[0]), 1) << "read at no month, or at two";
+        });
+    row(L_hardlopen_1_04_18_click, 4, "In welke seconde legt *(KLEINSTE|GROOTSTE) (aantal meters|afstand)* | m | s",
+        counts([](const reading& n) { return whole(n.exercise.right); },
+               [](const reading& n) { return largest(metres(n.exercise)); }),
+        range({{0, 0}, {0, 0}, {1, 6}, {9.3, 9.7}}), range({{1, 1}, {1, 1}, {1, 6}, {11.1, 11.4}}),
+        range({{0, 0}, {0, 0}, {7, 13}, {9.3, 9.7}}), range({{1, 1}, {1, 1}, {7, 12}, {11.1, 11.4}}),
+        right(second(false)),
+        wrong("niet naar de (kleinste, maar naar de grootste|grootste, maar naar de kleinste)", second(true)),
+        wrong("niet goed afgelezen", lies::elsewhere), explains("ussen # en # second", v[2] - 1, v[2]), check_run);
+    row(L_hardlopen_2_04_18_click, 4, "ligt na # seconden op de (eerste|tweede|derde|vierde) plaats? * | m | s |",
+        range({{60, 100}, {0, 0}}), range({{60, 100}, {1, 1}}), range({{60, 100}, {2, 2}}), range({{60, 100}, {3, 3}}),
+        right(runner), explains("de (grootste|op één na grootste|op twee na grootste|kleinste) afstand", v[1]),
+        explains("de (hoogste|op één na hoogste|op twee na hoogste|laagste) grafiek", v[1]),
+        tips("Zoek op de onderste as", "tot je de @ grafiek tegenkomt"), [](const reading& n) {
+            check_finish(n);
+            const char* from_below[]{"vierde", "derde", "tweede", "eerste"};
+            const std::string tip = joined(n.exercise.made.tipregels_2);
+            EXPECT_NE(tip.find(regel("de ", from_below[n.variant() - 1], " grafiek")), tip.npos) << tip;
+        });
+    row(L_inkomen_04_18_click, 2,
+        "Welk gezin kan een (inkomensstijging|inkomensdaling) ver- wachten* | in euro | vorig jaar | eerste helft van dit jaar", // How many have a green column that is higher, and a red one.
+        counts(higher_than_asked(1), higher_than_asked(0)), range({{0, 0}, {0, 3}, {0, 3}}),
+        range({{1, 1}, {0, 3}, {0, 3}}), explains("er op (vooruit|achteruit)", v[0]),
+        tips("(Maak in gedachten|twee keer een half jaar)", "(boven rood uit|lager dan rood)"), check_incomes);
+    row(L_regenval_04_18_click, 5, "tussen de maand met de meeste en die met de minste regenval?",
+        counts(rain(largest, "natste maand van dat jaar is (\\w+)\\."), rain(smallest, "de maand (\\w+) viel")),
+        range({{50, 60}, {5, 15}}), range({{80, 100}, {10, 30}}), range({{100, 120}, {10, 30}}),
+        range({{160, 200}, {20, 60}}), range({{200, 250}, {25, 75}}), right(v[0] - v[1]),
+        wrong("Je hebt de getallen opgeteld", v[0] + v[1]), wrong("slechts één getal", v[0], v[1]),
+        wrong("rekenfoutje", v[0] - v[1] - rain_step, v[0] - v[1] + rain_step),
+        explains("viel er # mm regen *de hoogste", v[0]), explains("In de maand * viel er # mm", v[1]),
+        explains("aftrekken: # - # is # mm.", v[0], v[1], v[0] - v[1]));
+    row(L_vakanties_04_18_click, 4, "Van # mensen * waarvan er één door # mensen bezocht werd",
+        range({{36, 192}, {18, 96}}), range({{36, 480}, {3, 99}}), range({{36, 288}, {12, 96}}),
+        range({{36, 480}, {3, 80}}), check_countries);
+    row(M_dollars_04_18_click, 2,
+        "op z'n (laagst|hoogst) was. Hij hield er # dollar van over, die hij weer tegen de {hoogste|laagste} koers "
+        "verkocht. Hoeveel euro {verdiende|verloor} hij op die $1 dollars? |* eurocent | KOERS VAN DE DOLLAR",
+        counts([](const reading& n) { return smallest(values(n.exercise, 1)); },
+               [](const reading& n) { return largest(values(n.exercise, 1)); }),
+        range({{0, 0}, {100, 900}, {61, 88}, {71, 99}}), range({{1, 1}, {100, 900}, {61, 88}, {71, 99}}),
+        right(v[1] * (v[3] - v[2]) / 100), wrong("waarde bij de hoogste", v[1] * v[3] / 100),
+        wrong("waarde bij de laagste", v[1] * v[2] / 100), wrong("het begin en het eind", v[1] * ends / 100),
+        wrong("niet goed afgelezen", v[1] * (v[3] - v[2] + 1) / 100, v[1] * (v[3] - v[2] - 1) / 100),
+        wrong("De komma staat verkeerd", v[1] * (v[3] - v[2]) / 10, v[1] * (v[3] - v[2]) / 1000),
+        explains("is # eurocent *# - #*.", v[3] - v[2], v[3], v[2]),
+        explains("een (winst|verlies) van # x # eurocent = € #.", v[0], v[1], v[3] - v[2], v[1] * (v[3] - v[2]) / 100));
+    row(Z_roken_04_18_click, 2, "Welke groep rookte het (MEEST|MINST)? | ROKERS PER LEEFTIJD, IN % VAN DE HELE GROEP",
+        counts([](const reading& n) { return decimal(n.exercise.told("percentage (\\d+) %").at(1)); }),
+        range({{0, 0}, {70, 100}}), range({{1, 1}, {60, 70}}), explains("het (grootste|kleinste) percentage", v[0]),
+        check_smokers);
+    row(Z_verkiezingen_04_18_click, 2,
+        "gehouden. @ en @ verliezen samen #% van hun zetels aan @. De andere * heeft @ nu?",
+        counts(seats(0), seats(1), seats(2)), range({{20, 40}, {5, 20}, {5, 20}, {5, 50}}),
+        range({{60, 80}, {5, 20}, {5, 20}, {5, 50}}), words({10, 10, 10, 10}), right(v[3] + won),
+        wrong("", v[3] + v[0] * v[3] / 100, v[3] + v[0] * all_seats / 100, v[3] + v[0] * v[1] / 100,
+              v[3] + v[0] * v[2] / 100, v[3] - won, v[3] + v[1] + v[2], v[3] + v[0], won),
+        explains("Dat zijn er # + # = #. Hier neem je # % van, dus # zetels", v[1], v[2], v[1] + v[2], v[0], won),
+        explains("had eerst # zetels in de Raad, zodat deze partij er nu # heeft.", v[3], v[3] + won),
+        tips("Eerste stap", "Tweede stap"), [](const reading& n) {
+            EXPECT_EQ(n.words[3], n.words[2]);
+            n.exercise.told(("gaan naar " + n.words[2] + "\\. " + n.words[2] + " had").c_str());
+        });
+});
 
 } // namespace
 } // namespace cijferwerf

@@ -65,21 +65,6 @@ void check_pairs(const reading& n) {
     EXPECT_EQ(t[2], std::floor(t[2]));
 }
 
-exercise_row quick(oefening_id id, int variants, const std::vector<int>& of, const std::vector<int>& ticks,
-                   const char* reads, const std::vector<std::vector<span>>& ranges, const formula& right,
-                   const std::vector<mistake>& wrong, const std::vector<statement>& explains,
-                   void (*check)(const reading&) = nullptr) {
-    return {.id = id,
-            .variants = variants,
-            .of = of,
-            .reads = reads,
-            .ranges = ranges,
-            .right = right,
-            .wrong = wrong,
-            .explains = explains,
-            .ticks = ticks,
-            .check = check};
-}
 std::vector<mistake> near_tens(const formula& right) { return off_by({-30, -20, -10, 10, 20, 30}, right); }
 std::vector<mistake> near_quotient(const formula& right) {
     return off_by({-2, -1, 1, 2}, right, 1, {right / 10, right * 10, (right - 1) / 10, (right + 1) * 10});
@@ -105,71 +90,80 @@ const formula product = v[0] * v[1];
 const std::vector<mistake> near_products = off_by({-3, -2, -1, 1, 2, 3}, product, v[1]);
 const char* const quick_table = "Je hebt niet veel tijd! Maak de som hiernaast... | Hoeveel is # x # ?";
 
-const exercise_rows against_the_clock{
-    quick(B_tafels_09_02_click, 10, {1, 2, 3, 6, 7}, {8}, quick_table,
-          {{{2, 9}, {3, 4}}, {{2, 9}, {6, 7}}, {{2, 9}, {9, 9}}, {{2, 9}, {5, 5}}, {{2, 9}, {8, 8}}}, product,
-          near_products, {{"eerst te kijken hoe *veel 5 x # of 10 x # ", {v[1], v[1]}}}, check_table),
-    quick(B_tafels_09_02_click, 10, {4, 5, 8, 10}, {8}, quick_table,
-          {{{2, 9}, {12, 13}}, {{2, 9}, {15, 15}}, {{2, 9}, {14, 14}}, {{2, 9}, {11, 11}}}, product, near_products,
-          {{"doe eerst # x 10 en *dan # x #. *Opgeteld: # + # = # ",
-            {v[0], v[0], v[1] - 10, v[0] * 10, v[0] * (v[1] - 10), product}}},
-          check_table),
-    quick(B_tafels_09_02_click, 10, {9}, {8}, quick_table, {{{2, 9}, {25, 25}}}, product, near_products,
-          {{"4 x 25 gelijk is aan 100."}}, check_table),
-    quick(
-        L_keer_09_02_click, 2, {}, {20}, "Geef snel antwoord. Je hebt niet veel tijd! | Hoeveel is: # x #?",
-        {{{18, 89}, {15, 95}}, {{21, 92}, {15, 95}}}, product,
-        one_of({to_ten * v[1], (to_ten - beside) * v[1], to_ten* v[1] + beside / surplus * 5, (v[0] + beside) * v[1]}),
-        {{"als # (-|+) #. Dan *eerst # x # =  # en dan # x # = #. Die twee uitkomsten (trek je van elkaar "
-          "af|moet je nog optellen). Antwoord: #.",
-          {to_ten, second, surplus, to_ten, v[1], to_ten* v[1], surplus, v[1], surplus* v[1], second, product}}}),
-    quick(M_nullen_09_06_click, 4, {}, {8, 10, 11, 12}, "Maak de som hiernaast... | Hoeveel is # (:|x) # ?",
-          {{{0.11, 999, 60}, {0, 1}, {10, 10}},
-           {{0.11, 9990, 600}, {0, 1}, {100, 100}},
-           {{0.11, 99900, 6000}, {0, 1}, {1000, 1000}},
-           {{0.11, 999000, 60000}, {0, 1}, {10000, 10000}}},
-          moved, one_of({moved / 1000, moved / 100, moved / 10, moved * 10, moved * 100, moved * 1000, moved * 10000}),
-          {{" (deelt|vermenigvuldigt), *# (stap|stappen) naar (links|rechts): #.",
-            {v[1], second + 1, [](const reading& n) { return n.variant() > 1; }, v[1], moved}}},
-          check_comma),
-    quick(Z_komma_09_06_click, 4, {}, {20},
-          "Kijk hiernaast. Je hebt niet veel tijd! | Hoeveel is | # (-|+) # (-|+) # (-|+) #", {}, chain(4),
-          one_of({lies::below, lies::above}), {}, check_pairs),
-    quick(L_aftrekken_09_01_click, 4, {1}, {15}, "Je hebt niet veel tijd! Kijk hiernaast... | Hoeveel is # - # - # ?",
-          {{{311, 899, 30}, {21, 99, 3}, {111, 399, 9}}}, two_less, near_tens(two_less),
-          {{"# - # = #. Daar trek je nog # van af. Uitkomst: #.", {v[0], v[2], hundreds, v[1], two_less}}}),
-    quick(L_aftrekken_09_01_click, 4, {2}, {15}, "| Hoeveel is # - # - # - # ?",
-          {{{221, 899, 30}, {11, 89, 9}, {21, 99}, {21, 99, 9}}}, three_less, near_tens(three_less),
-          {{"het geval: # - # = #. Verder is # + # = #. *ook zo uitrekenen: # - # = #.",
-            {v[0], v[2], hundreds, v[1], v[3], tens, hundreds, tens, three_less}}}),
-    quick(L_aftrekken_09_01_click, 4, {3}, {10}, "| Hoeveel is # - # - # ?",
-          {{{111, 809, 20}, {21, 179, 9}, {21, 179, 9}}}, two_less, near_tens(two_less),
-          {{"het geval: # + # = #. *ook zo uitrekenen: # - # = #.", {v[1], v[2], tens, v[0], tens, two_less}}}),
-    quick(L_aftrekken_09_01_click, 4, {4}, {10}, "| Hoeveel is # - # ?", {{{211, 999, 30}, {96, 599}}}, v[0] - v[1],
-          off_by({-10, 10, 100}, v[0] - v[1], 1,
-                 {v[0] - near_hundred, v[0] - near_hundred - to_hundred, v[0] - v[1] + to_hundred}),
-          {{"getal # ligt dicht bij #. # - # = #. *wel # te veel *Uitkomst: # + # = #.",
-            {v[1], near_hundred, v[0], near_hundred, v[0] - near_hundred, to_hundred, v[0] - near_hundred, to_hundred,
-             v[0] - v[1]}}}),
-    quick(L_delen_1_09_06_click, 2, {}, {15}, "Je hebt weinig tijd! Kijk hiernaast... | Bereken # : #",
-          {{{0.6, 17.1}, {0.2, 0.9}}, {{3.3, 22.5}, {1.1, 2.5}}}, quotient, near_quotient(quotient), {},
-          [](const reading& n) { EXPECT_TRUE(n[0] != std::floor(n[0]) && n[1] != std::floor(n[1])); }),
-    quick(M_delen_2_09_06_click, 4, {1}, {15}, "Je hebt niet veel tijd! Kijk hiernaast. | Hoeveel is # : # ?",
-          {{{1010, 9810, 900}, {3, 9}}}, quotient, off_by({-100, -10, -1, 1, 10, 100}, quotient), {}),
-    quick(M_delen_2_09_06_click, 4, {2}, {15}, "| Hoeveel is # : # ?", {{{2, 90}, {0.5, 4.5}}}, quotient,
-          near_quotient(quotient), {}),
-    quick(M_delen_2_09_06_click, 4, {3}, {15}, "| Hoeveel is # : # ?", {{{1100, 9810, 500}, {30, 90}}}, quotient,
-          off_by({-10, -2, -1, 1, 10}, quotient, 1, {quotient * 10}),
-          {{"eerst # : # = # en daarna nog # : # = #. Samen is dat #.*je niet door # delen, maar door #. *# : 10 = #.",
-            {v[0] - rest, v[1] / 10, (v[0] - rest) / v[1] * 10, rest, v[1] / 10, rest / v[1] * 10, quotient * 10,
-             v[1] / 10, v[1], quotient * 10, quotient}}}),
-    quick(M_delen_2_09_06_click, 4, {4}, {10}, "| Hoeveel is # : # ?", {{{144, 5391, 100}, {3, 9}}}, quotient,
-          off_by({-10, 10, -1}, quotient, 1,
-                 {round_quotient, round_quotient + too_many, round_quotient - too_many* v[1]}),
-          {{"bij #. *door #: # : # = #. *echter # : # = # te veel *dus # - # = #.",
-            {round_quotient * v[1], v[1], round_quotient* v[1], v[1], round_quotient, too_many* v[1], v[1], too_many,
-             round_quotient, too_many, quotient}}}),
-};
+const exercise_rows against_the_clock([] {
+    row(B_tafels_09_02_click, 10, quick_table, of({1, 2, 3, 6, 7}), range({{2, 9}, {3, 4}}), range({{2, 9}, {6, 7}}),
+        range({{2, 9}, {9, 9}}), range({{2, 9}, {5, 5}}), range({{2, 9}, {8, 8}}), right(product), wrong(near_products),
+        explains("eerst te kijken hoe *veel 5 x # of 10 x # ", v[1], v[1]), ticks({8}), check_table);
+    row(B_tafels_09_02_click, 10, quick_table, of({4, 5, 8, 10}), range({{2, 9}, {12, 13}}), range({{2, 9}, {15, 15}}),
+        range({{2, 9}, {14, 14}}), range({{2, 9}, {11, 11}}), right(product), wrong(near_products),
+        explains("doe eerst # x 10 en *dan # x #. *Opgeteld: # + # = # ", v[0], v[0], v[1] - 10, v[0] * 10,
+                 v[0] * (v[1] - 10), product),
+        ticks({8}), check_table);
+    row(B_tafels_09_02_click, 10, quick_table, of({9}), range({{2, 9}, {25, 25}}), right(product), wrong(near_products),
+        explains("4 x 25 gelijk is aan 100."), ticks({8}), check_table);
+    row(L_keer_09_02_click, 2, "Geef snel antwoord. Je hebt niet veel tijd! | Hoeveel is: # x #?",
+        range({{18, 89}, {15, 95}}), range({{21, 92}, {15, 95}}), right(product),
+        wrong(one_of(
+            {to_ten * v[1], (to_ten - beside) * v[1], to_ten * v[1] + beside / surplus * 5, (v[0] + beside) * v[1]})),
+        explains("als # (-|+) #. Dan *eerst # x # =  # en dan # x # = #. Die twee uitkomsten (trek je van elkaar "
+                 "af|moet je nog optellen). Antwoord: #.",
+                 to_ten, second, surplus, to_ten, v[1], to_ten * v[1], surplus, v[1], surplus * v[1], second, product),
+        ticks({20}));
+    row(M_nullen_09_06_click, 4, "Maak de som hiernaast... | Hoeveel is # (:|x) # ?",
+        range({{0.11, 999, 60}, {0, 1}, {10, 10}}), range({{0.11, 9990, 600}, {0, 1}, {100, 100}}),
+        range({{0.11, 99900, 6000}, {0, 1}, {1000, 1000}}), range({{0.11, 999000, 60000}, {0, 1}, {10000, 10000}}),
+        right(moved),
+        wrong(one_of({moved / 1000, moved / 100, moved / 10, moved * 10, moved * 100, moved * 1000, moved * 10000})),
+        explains(
+            " (deelt|vermenigvuldigt), *# (stap|stappen) naar (links|rechts): #.", v[1], second + 1,
+            [](const reading& n) { return n.variant() > 1; }, v[1], moved),
+        ticks({8, 10, 11, 12}), check_comma);
+    row(Z_komma_09_06_click, 4, "Kijk hiernaast. Je hebt niet veel tijd! | Hoeveel is | # (-|+) # (-|+) # (-|+) #",
+        right(chain(4)), wrong(one_of({lies::below, lies::above})), ticks({20}), check_pairs);
+    row(L_aftrekken_09_01_click, 4, "Je hebt niet veel tijd! Kijk hiernaast... | Hoeveel is # - # - # ?", of({1}),
+        range({{311, 899, 30}, {21, 99, 3}, {111, 399, 9}}), right(two_less), wrong(near_tens(two_less)),
+        explains("# - # = #. Daar trek je nog # van af. Uitkomst: #.", v[0], v[2], hundreds, v[1], two_less),
+        ticks({15}));
+    row(L_aftrekken_09_01_click, 4, "| Hoeveel is # - # - # - # ?", of({2}),
+        range({{221, 899, 30}, {11, 89, 9}, {21, 99}, {21, 99, 9}}), right(three_less), wrong(near_tens(three_less)),
+        explains("het geval: # - # = #. Verder is # + # = #. *ook zo uitrekenen: # - # = #.", v[0], v[2], hundreds,
+                 v[1], v[3], tens, hundreds, tens, three_less),
+        ticks({15}));
+    row(L_aftrekken_09_01_click, 4, "| Hoeveel is # - # - # ?", of({3}),
+        range({{111, 809, 20}, {21, 179, 9}, {21, 179, 9}}), right(two_less), wrong(near_tens(two_less)),
+        explains("het geval: # + # = #. *ook zo uitrekenen: # - # = #.", v[1], v[2], tens, v[0], tens, two_less),
+        ticks({10}));
+    row(L_aftrekken_09_01_click, 4, "| Hoeveel is # - # ?", of({4}), range({{211, 999, 30}, {96, 599}}),
+        right(v[0] - v[1]),
+        wrong(off_by({-10, 10, 100}, v[0] - v[1], 1,
+                     {v[0] - near_hundred, v[0] - near_hundred - to_hundred, v[0] - v[1] + to_hundred})),
+        explains("getal # ligt dicht bij #. # - # = #. *wel # te veel *Uitkomst: # + # = #.", v[1], near_hundred, v[0],
+                 near_hundred, v[0] - near_hundred, to_hundred, v[0] - near_hundred, to_hundred, v[0] - v[1]),
+        ticks({10}));
+    row(L_delen_1_09_06_click, 2, "Je hebt weinig tijd! Kijk hiernaast... | Bereken # : #",
+        range({{0.6, 17.1}, {0.2, 0.9}}), range({{3.3, 22.5}, {1.1, 2.5}}), right(quotient),
+        wrong(near_quotient(quotient)), ticks({15}),
+        [](const reading& n) { EXPECT_TRUE(n[0] != std::floor(n[0]) && n[1] != std::floor(n[1])); });
+    row(M_delen_2_09_06_click, 4, "Je hebt niet veel tijd! Kijk hiernaast. | Hoeveel is # : # ?", of({1}),
+        range({{1010, 9810, 900}, {3, 9}}), right(quotient), wrong(off_by({-100, -10, -1, 1, 10, 100}, quotient)),
+        ticks({15}));
+    row(M_delen_2_09_06_click, 4, "| Hoeveel is # : # ?", of({2}), range({{2, 90}, {0.5, 4.5}}), right(quotient),
+        wrong(near_quotient(quotient)), ticks({15}));
+    row(M_delen_2_09_06_click, 4, "| Hoeveel is # : # ?", of({3}), range({{1100, 9810, 500}, {30, 90}}),
+        right(quotient), wrong(off_by({-10, -2, -1, 1, 10}, quotient, 1, {quotient * 10})),
+        explains(
+            "eerst # : # = # en daarna nog # : # = #. Samen is dat #.*je niet door # delen, maar door #. *# : 10 = #.",
+            v[0] - rest, v[1] / 10, (v[0] - rest) / v[1] * 10, rest, v[1] / 10, rest / v[1] * 10, quotient * 10,
+            v[1] / 10, v[1], quotient * 10, quotient),
+        ticks({15}));
+    row(M_delen_2_09_06_click, 4, "| Hoeveel is # : # ?", of({4}), range({{144, 5391, 100}, {3, 9}}), right(quotient),
+        wrong(off_by({-10, 10, -1}, quotient, 1,
+                     {round_quotient, round_quotient + too_many, round_quotient - too_many * v[1]})),
+        explains("bij #. *door #: # : # = #. *echter # : # = # te veel *dus # - # = #.", round_quotient * v[1], v[1],
+                 round_quotient * v[1], v[1], round_quotient, too_many * v[1], v[1], too_many, round_quotient, too_many,
+                 quotient),
+        ticks({10}));
+});
 
 } // namespace
 } // namespace cijferwerf

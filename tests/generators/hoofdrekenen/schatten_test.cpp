@@ -24,14 +24,6 @@ void check_distance(const reading& n, double exact) {
     for (const std::string& each : n.exercise.answers())
         EXPECT_TRUE(each == n.exercise.right || off(each) > 2 * off(n.exercise.right) - 1e-9) << each;
 }
-// Wrong answers beside which the same is told.
-std::vector<mistake> told(std::initializer_list<std::pair<const char*, std::vector<formula>>> all) {
-    std::vector<mistake> each;
-    for (const auto& [piece, values] : all)
-        for (const formula& value : values) each.push_back({piece, value});
-    return each;
-}
-
 const formula hatched = [](const reading& n) { return last_of<circle_op>(n).sweep / 3.6; };
 const formula quarters = rounded(v[0] / 25);
 void check_circle(const reading& n) {
@@ -170,106 +162,74 @@ void check_runners(const reading& n) {
     EXPECT_EQ(static_cast<double>(names.size()), n[0]);
 }
 
-const exercise_rows estimates{
-    {.id = B_gestreept_10_03_click,
-     .variants = 4,
-     .reads = "vier stukken verdeeld. Voor welk deel ongeveer is de cirkel gestreept?",
-     .counts = {hatched},
-     .ranges = {{{20.99, 79.01, 0.1}}},
-     .right = quarters * 25,
-     .wrong = {{"klok", quarters * 15},
-               {"twee dingen door elkaar", formula(100) - quarters * 25},
-               {"zomaar een gokje", lies::elsewhere}},
-     .explains = {{"ongeveer # (stuk|stukken) gestreept. Het gestreepte deel is dus ongeveer # x 25 % = # %.",
-                   {quarters, [](const reading& n) { return n[0] > 30; }, quarters, quarters * 25}}},
-     .check = check_circle},
-    {.id = B_schatten_1_10_09_click, .variants = 10, .reads = "Maak een schatting. @ | km", .check = check_length},
-    {.id = L_betegelen_10_12_click,
-     .variants = 3,
-     .reads = "De vloer is # m breed en # m lang. Hoeveel m² heeft hij ongeveer nodig? | $1 m | $0 m",
-     .ranges = {{{1.9, 5.9}, {3, 9}}, {{2, 6}, {2.9, 8.9}}, {{1.9, 5.9}, {2.9, 8.9}}},
-     .right = width * length,
-     .wrong = told({{"Eerst moet je de lengte",
-                     {down(v[0]) * down(v[1]), (width - 1) * length, width*(length - 1), (width + 1) * length,
-                      width*(length + 1), (width + 1) * (length + 1)}},
-                    {"met elkaar vermenigvuldigen", {width + length, (width + length) * 2}}}),
-     .explains = {{"is ongeveer # m en de lengte is ongeveer # m. # x # = #, dus",
-                   {width, length, width, length, width* length}}},
-     .check = [](const reading& n) { check_distance(n, n[0] * n[1]); }},
-    {.id = L_bezoekers_10_00_click,
-     .variants = 2,
-     .reads = "@ zegt dat museum A in twee jaar meer dan (1 miljoen|een half miljoen) bezoekers had. @ zegt dat van "
-              "museum B. Wie heeft gelijk? |* vorig jaar | dit jaar | museum A | # | # | museum B | # | #",
-     .counts = {over(1), over(2)},
-     .ranges = {visitors(0, 500e3), visitors(1, 250e3)},
-     .words = {20, 20},
-     .explains = {{"A: # + # *(meer|minder) dan *B: # + # *(meer|minder) dan",
-                   {down(v[1], 1000), down(v[2], 1000), fails_a, down(v[3], 1000), down(v[4], 1000), fails_b}}},
-     .check = check_claims},
-    {.id = L_schaal_10_16_click,
-     .variants = 5,
-     .reads = "tekening van een (vrachtauto|motorjacht|flatgebouw|trein|vliegtuig). In het echt is {de|het|het|de|het} "
-              "{vrachtauto|motorjacht|flatgebouw|trein|vliegtuig} # m lang. Maak een schatting van de schaal waarin "
-              "deze tekening gemaakt is. | $1 m | 1 cm",
-     .counts = {drawn},
-     .ranges = {{{0, 4}, {8, 180}, {4, 6}}},
-     .right = one_to(1),
-     .wrong = told({{"omgerekend van m naar cm", {one_to(10), one_to(0.1)}},
-                    {"erg ver naast", {one_to(5), one_to(0.2)}},
-                    {"Bedenk wat 1 cm", {one_to(2), one_to(0.5)}}}),
-     .explains = {{"past # keer in de tekening, dus de tekening is # cm lang. *dat # m = # cm. 1 cm *# : # = # cm.",
-                   {v[2], v[2], v[1], v[1] * 100, v[1] * 100, v[2], scale}}}},
-    {.id = L_schatten_2_10_09_click,
-     .variants = 2,
-     .reads = "Op de kilometerteller * gemiddeld ongeveer per (maand|week)?",
-     .counts = {year},
-     .ranges = {{{0, 0}, {10800, 36000, 600}}, {{1, 1}, {10400, 36400}}},
-     .right = says("# km", each_part),
-     .wrong = told({{"'t per (week|maand) uitgerekend", {other(52, 12)}},
-                    {"(tien maanden|48 weken) heeft", {other(10, 48)}},
-                    {"een beetje naast", {lies::below, lies::above}}}),
-     .explains =
-         {{"ongeveer # km. Een jaar heeft # (maanden|weken). Je deelt dus door #: # : # = #. Deze *# km per (maand|week).",
-           {v[1], parts(12, 52), v[0], parts(12, 52), v[1], parts(12, 52), each_part, each_part, v[0]}}},
-     .check = check_round},
-    {.id = M_erfenis_10_07_click,
-     .variants = 3,
-     .reads = "Een man erft € #,-. Hij krijgt de brief hiernaast. Verder koopt hij @ van € #,-. Hoeveel geld heeft hij "
-              "dan nog ongeveer over? | BELASTINGDIENST | Geachte heer, | Over uw erfenis van € $0,- | moet u € #,- "
-              "belasting betalen.",
-     .ranges = {{{20000, 60000}, {865, 5985, 40}, {2811, 8989, 60}},
-                {{20000, 60000}, {1015, 6135, 40}, {3011, 9189, 60}},
-                {{20000, 60000}, {865, 6135, 60}, {2811, 9189, 90}}},
-     .words = {9},
-     .right = left_over,
-     .wrong =
-         told({{"Rond de bedragen eerst af.", {v[0] - price - thousand(2, 1)}},
-               {"Eerst moet je de bedragen", {v[0] - thousand(1, 1) - tax, v[0] - thousand(1, 1) - thousand(2, 1)}},
-               {"Hij koopt ook nog", {v[0] - tax}},
-               {"nog belasting betalen", {v[0] - price}},
-               {"belasting twee keer", {left_over - tax}},
-               {"prijs twee keer", {left_over - price}}}),
-     .explains =
-         {{"Rond af: # is ongeveer # en # is ongeveer #. EERSTE MANIER: *: # - # - # = #. TWEEDE MANIER: *: # + # = #.",
-           {v[2], tax, v[1], price, v[0], tax, price, left_over, tax, price, price + tax}}},
-     .check = check_letter},
-    {.id = M_seconden_10_06_click,
-     .variants = 3,
-     .reads = "Hoeveel seconden is dat ongeveer bij elkaar? | UITSLAG: | @ | ",
-     .counts = {runners, whole_seconds, tenths},
-     .ranges = {{{3, 3}, {33, 57, 3}, {0.3, 2.7, 0.4}},
-                {{4, 4}, {44, 76, 5}, {0.4, 3.6, 0.6}},
-                {{5, 5}, {55, 95, 8}, {0.5, 4.5, 0.8}}},
-     .words = {19},
-     .right = says("# seconden", estimated),
-     .wrong = told({{"wel gekeken naar de cijfers achter de komma", {v[1]}},
-                    {"naar boven afgerond", {v[1] + v[0]}},
-                    {"achter de komma nog eens", {estimated - 1, estimated + 1}},
-                    {"vóór de komma nog eens", {estimated - 10, estimated + 10}}}),
-     .explains = {{"hele seconden op: * = #. Achter de komma: * = #, dus ongeveer #. Bij elkaar is dat # + # = #.",
-                   {v[1], v[2], estimated - v[1], v[1], estimated - v[1], estimated}}},
-     .check = check_runners},
-};
+const exercise_rows estimates([] {
+    row(B_gestreept_10_03_click, 4, "vier stukken verdeeld. Voor welk deel ongeveer is de cirkel gestreept?",
+        counts(hatched), range({{20.99, 79.01, 0.1}}), right(quarters * 25), wrong("klok", quarters * 15),
+        wrong("twee dingen door elkaar", formula(100) - quarters * 25), wrong("zomaar een gokje", lies::elsewhere),
+        explains(
+            "ongeveer # (stuk|stukken) gestreept. Het gestreepte deel is dus ongeveer # x 25 % = # %.", quarters,
+            [](const reading& n) { return n[0] > 30; }, quarters, quarters * 25),
+        check_circle);
+    row(B_schatten_1_10_09_click, 10, "Maak een schatting. @ | km", check_length);
+    row(L_betegelen_10_12_click, 3,
+        "De vloer is # m breed en # m lang. Hoeveel m² heeft hij ongeveer nodig? | $1 m | $0 m",
+        range({{1.9, 5.9}, {3, 9}}), range({{2, 6}, {2.9, 8.9}}), range({{1.9, 5.9}, {2.9, 8.9}}),
+        right(width * length),
+        wrong("Eerst moet je de lengte", down(v[0]) * down(v[1]), (width - 1) * length, width * (length - 1),
+              (width + 1) * length, width * (length + 1), (width + 1) * (length + 1)),
+        wrong("met elkaar vermenigvuldigen", width + length, (width + length) * 2),
+        explains("is ongeveer # m en de lengte is ongeveer # m. # x # = #, dus", width, length, width, length,
+                 width * length),
+        [](const reading& n) { check_distance(n, n[0] * n[1]); });
+    row(L_bezoekers_10_00_click, 2,
+        "@ zegt dat museum A in twee jaar meer dan (1 miljoen|een half miljoen) bezoekers had. @ zegt dat van "
+        "museum B. Wie heeft gelijk? |* vorig jaar | dit jaar | museum A | # | # | museum B | # | #",
+        counts(over(1), over(2)), range(visitors(0, 500e3)), range(visitors(1, 250e3)), words({20, 20}),
+        explains("A: # + # *(meer|minder) dan *B: # + # *(meer|minder) dan", down(v[1], 1000), down(v[2], 1000),
+                 fails_a, down(v[3], 1000), down(v[4], 1000), fails_b),
+        check_claims);
+    row(L_schaal_10_16_click, 5,
+        "tekening van een (vrachtauto|motorjacht|flatgebouw|trein|vliegtuig). In het echt is {de|het|het|de|het} "
+        "{vrachtauto|motorjacht|flatgebouw|trein|vliegtuig} # m lang. Maak een schatting van de schaal waarin "
+        "deze tekening gemaakt is. | $1 m | 1 cm",
+        counts(drawn), range({{0, 4}, {8, 180}, {4, 6}}), right(one_to(1)),
+        wrong("omgerekend van m naar cm", one_to(10), one_to(0.1)), wrong("erg ver naast", one_to(5), one_to(0.2)),
+        wrong("Bedenk wat 1 cm", one_to(2), one_to(0.5)),
+        explains("past # keer in de tekening, dus de tekening is # cm lang. *dat # m = # cm. 1 cm *# : # = # cm.", v[2],
+                 v[2], v[1], v[1] * 100, v[1] * 100, v[2], scale));
+    row(L_schatten_2_10_09_click, 2, "Op de kilometerteller * gemiddeld ongeveer per (maand|week)?", counts(year),
+        range({{0, 0}, {10800, 36000, 600}}), range({{1, 1}, {10400, 36400}}), right(says("# km", each_part)),
+        wrong("'t per (week|maand) uitgerekend", other(52, 12)), wrong("(tien maanden|48 weken) heeft", other(10, 48)),
+        wrong("een beetje naast", lies::below, lies::above),
+        explains(
+            "ongeveer # km. Een jaar heeft # (maanden|weken). Je deelt dus door #: # : # = #. Deze *# km per (maand|week).",
+            v[1], parts(12, 52), v[0], parts(12, 52), v[1], parts(12, 52), each_part, each_part, v[0]),
+        check_round);
+    row(M_erfenis_10_07_click, 3,
+        "Een man erft € #,-. Hij krijgt de brief hiernaast. Verder koopt hij @ van € #,-. Hoeveel geld heeft hij "
+        "dan nog ongeveer over? | BELASTINGDIENST | Geachte heer, | Over uw erfenis van € $0,- | moet u € #,- "
+        "belasting betalen.",
+        range({{20000, 60000}, {865, 5985, 40}, {2811, 8989, 60}}),
+        range({{20000, 60000}, {1015, 6135, 40}, {3011, 9189, 60}}),
+        range({{20000, 60000}, {865, 6135, 60}, {2811, 9189, 90}}), words({9}), right(left_over),
+        wrong("Rond de bedragen eerst af.", v[0] - price - thousand(2, 1)),
+        wrong("Eerst moet je de bedragen", v[0] - thousand(1, 1) - tax, v[0] - thousand(1, 1) - thousand(2, 1)),
+        wrong("Hij koopt ook nog", v[0] - tax), wrong("nog belasting betalen", v[0] - price),
+        wrong("belasting twee keer", left_over - tax), wrong("prijs twee keer", left_over - price),
+        explains(
+            "Rond af: # is ongeveer # en # is ongeveer #. EERSTE MANIER: *: # - # - # = #. TWEEDE MANIER: *: # + # = #.",
+            v[2], tax, v[1], price, v[0], tax, price, left_over, tax, price, price + tax),
+        check_letter);
+    row(M_seconden_10_06_click, 3, "Hoeveel seconden is dat ongeveer bij elkaar? | UITSLAG: | @ | ",
+        counts(runners, whole_seconds, tenths), range({{3, 3}, {33, 57, 3}, {0.3, 2.7, 0.4}}),
+        range({{4, 4}, {44, 76, 5}, {0.4, 3.6, 0.6}}), range({{5, 5}, {55, 95, 8}, {0.5, 4.5, 0.8}}), words({19}),
+        right(says("# seconden", estimated)), wrong("wel gekeken naar de cijfers achter de komma", v[1]),
+        wrong("naar boven afgerond", v[1] + v[0]), wrong("achter de komma nog eens", estimated - 1, estimated + 1),
+        wrong("vóór de komma nog eens", estimated - 10, estimated + 10),
+        explains("hele seconden op: * = #. Achter de komma: * = #, dus ongeveer #. Bij elkaar is dat # + # = #.", v[1],
+                 v[2], estimated - v[1], v[1], estimated - v[1], estimated),
+        check_runners);
+});
 
 } // namespace
 } // namespace cijferwerf

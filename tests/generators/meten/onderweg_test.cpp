@@ -91,99 +91,60 @@ void check_board(const reading& n) {
     EXPECT_TRUE(!frame.filled && frame.y < top && frame.y + frame.height > top + 200 && frame.height < 400);
 }
 
-const exercise_rows on_the_road{
-    {.id = L_fietsen_07_09_click,
-     .variants = 2,
-     .reads = "@ maakt een fietstocht. * Hoe lang was de fietstocht? | BEGIN | @ | km | EINDE | @ | km",
-     .counts = {ride},
-     .ranges = {{{15.2, 59.8, 0.2}}, {{15200, 59800, 200}}},
-     .words = {8},
-     .right = v[0],
-     .explains = {{"fietstocht was dus #", {v[0]}}},
-     .check =
-         [](const reading& n) {
-             for (int which = 2; which <= 4; ++which) {
-                 const double off = std::abs(decimal(n.exercise.answer(which)) - n[0]) / (n.variant() == 1 ? 1 : 1000);
-                 EXPECT_EQ(n.exercise.feedback(which).find("bijna goed") != std::string::npos, off < 1.2) << off;
-                 EXPECT_EQ(n.exercise.feedback(which).find("heel wat naast") != std::string::npos, off > 7.9) << off;
-             }
-         }},
-    {.id = L_vakantie_07_09_click,
-     .variants = 2,
-     .reads = "afleggen van # km. Hoeveel uur moeten zij minstens rijden? |",
-     .counts = {needle},
-     .ranges = {{{180, 1440, 60}, {60, 120}}, {{150, 1320, 60}, {50, 110}}},
-     .right = v[0] / v[1],
-     .wrong = {{"kunnen zij maar", lies::below},
-               {"hoeven zij niet", lies::above},
-               {"goed afgelezen?", v[0] / v[1] * 2}},
-     .explains = {{"aflezen: # km/uur", {v[1]}}, {"# : # = #.", {v[0], v[1], v[0] / v[1]}}},
-     .check =
-         [](const reading& n) {
-             for (int which = 2; which <= 4; ++which)
-                 if (const auto told = find_pattern(n.exercise.feedback(which), "In # uur kunnen zij * # km rijden")) {
-                     EXPECT_EQ(told->numbers[0], decimal(n.exercise.answer(which)));
-                     EXPECT_EQ(told->numbers[1], told->numbers[0] * n[1]);
-                 }
-         }},
-    {.id = Z_vliegtuig_07_09_click,
-     .variants = 2,
-     .reads = "vluchtnummer @ is geland. Het vloog met een snelheid van # km per uur. * | NUMMER | VERTREK | AANKOMST "
-              "| UITGANG | ",
-     .counts = {[](const reading& n) { return hours(n, asked(n)); }},
-     .ranges = {{{600, 900}, {2, 8}}, {{600, 900}, {1.5, 7.5}}},
-     .right = v[0] * v[1],
-     .wrong = {{"ander vliegtuig", lies::elsewhere},
-               {"Bereken eerst hoe lang", v[0] * (v[1] - 1)},
-               {"Bereken eerst hoe lang", v[0] * (v[1] + 1)},
-               {"halve uur vergeten", v[0] * (v[1] - 0.5)},
-               {"niet 0,3 uur", v[0] * (v[1] - 0.2)}},
-     .explains = {{"Het vloog dus # uur met een snelheid van # km per uur. De afstand is # x #",
-                   {v[1], v[0], v[1], v[0]}}},
-     .check = check_board},
-    {.id = M_worst_08_17_click,
-     .variants = 5,
-     .reads = "Hoeveel gram weegt die worst ongeveer? | MAX.*# kg | 0 ",
-     .counts = {needle},
-     .ranges = {{{0.5, 10}, {40, 180}}},
-     .right = marks * per_mark,
-     .wrong = {{"bij 1 begonnen", (marks + 1) * per_mark},
-               {"te weinig geteld", (marks - 1) * per_mark},
-               {"verkeerde kant", (formula(10) - marks) * per_mark},
-               {"Kijk eerst hoeveel gram elk streepje is. Een lang", marks* per_mark * 2},
-               {"Kijk eerst hoeveel gram elk streepje is. Een lang", marks* per_mark / 2},
-               {"Kijk eerst hoeveel gram elk streepje is. Eén kg", marks* per_mark * 10}},
-     .explains = {{"Elk stuk is dus # gram : 10 = # gram. De wijzer staat # lange streepjes",
-                   {v[0] * 1000, per_mark, marks}}}},
-    {.id = B_schatten_08_17_click,
-     .variants = 4,
-     .reads = "Welke maat past het beste op de stippen? | @ | is ongeveer... ",
-     .words = {16},
-     .check = check_estimate},
-    {.id = L_schilder_07_12_click,
-     .variants = 2,
-     .reads = "schilderen van # m breed en # m lang. * nodig? | # m²",
-     .ranges = {{{3, 12}, {3, 12}, {4, 10}}},
-     .right = down(area, v[2]) + 1,
-     .explains = {{"# x # = # m².", {v[0], v[1], area}}, {"dus # : # = #, rest #. Voor", division(area, v[2])}},
-     .check =
-         [](const reading& n) {
-             EXPECT_NE(std::fmod(n[0] * n[1], n[2]), 0) << "the explanation speaks of a rest";
-             check_row(n);
-         }},
-    {.id = M_behangen_07_09_click,
-     .variants = 2,
-     .reads =
-         "De lengte van de muur is # m. De hoogte van de muur is # m. De rollen behang zijn # m lang en # cm breed. "
-         "* nodig? | $0 m | $1 m | rol: $2 m | $3 cm",
-     .ranges = {{{5, 12, 0.2}, {2.2, 3}, {8, 10}, {45, 60, 1}}, {{5, 12, 0.4}, {2.2, 3}, {10.5, 15}, {45, 60, 1}}},
-     .right = down(strips, per_roll) + 1,
-     .explains = {{"uitkomst: # : # = #, rest #.", division(v[2] * 100, v[1] * 100)},
-                  {"# : # = #, rest #. Er", division(v[0] * 100, v[3])},
-                  {"dus # banen nodig", {strips}},
-                  {"rollen: # : # = #, rest #.", division(strips, per_roll)}},
-     .check = check_row},
-};
+const exercise_rows on_the_road([] {
+    row(L_fietsen_07_09_click, 2,
+        "@ maakt een fietstocht. * Hoe lang was de fietstocht? | BEGIN | @ | km | EINDE | @ | km", counts(ride),
+        range({{15.2, 59.8, 0.2}}), range({{15200, 59800, 200}}), words({8}), right(v[0]),
+        explains("fietstocht was dus #", v[0]), [](const reading& n) {
+            for (int which = 2; which <= 4; ++which) {
+                const double off = std::abs(decimal(n.exercise.answer(which)) - n[0]) / (n.variant() == 1 ? 1 : 1000);
+                EXPECT_EQ(n.exercise.feedback(which).find("bijna goed") != std::string::npos, off < 1.2) << off;
+                EXPECT_EQ(n.exercise.feedback(which).find("heel wat naast") != std::string::npos, off > 7.9) << off;
+            }
+        });
+    row(L_vakantie_07_09_click, 2, "afleggen van # km. Hoeveel uur moeten zij minstens rijden? |", counts(needle),
+        range({{180, 1440, 60}, {60, 120}}), range({{150, 1320, 60}, {50, 110}}), right(v[0] / v[1]),
+        wrong("kunnen zij maar", lies::below), wrong("hoeven zij niet", lies::above),
+        wrong("goed afgelezen?", v[0] / v[1] * 2), explains("aflezen: # km/uur", v[1]),
+        explains("# : # = #.", v[0], v[1], v[0] / v[1]), [](const reading& n) {
+            for (int which = 2; which <= 4; ++which)
+                if (const auto told = find_pattern(n.exercise.feedback(which), "In # uur kunnen zij * # km rijden")) {
+                    EXPECT_EQ(told->numbers[0], decimal(n.exercise.answer(which)));
+                    EXPECT_EQ(told->numbers[1], told->numbers[0] * n[1]);
+                }
+        });
+    row(Z_vliegtuig_07_09_click, 2,
+        "vluchtnummer @ is geland. Het vloog met een snelheid van # km per uur. * | NUMMER | VERTREK | AANKOMST "
+        "| UITGANG | ",
+        counts([](const reading& n) { return hours(n, asked(n)); }), range({{600, 900}, {2, 8}}),
+        range({{600, 900}, {1.5, 7.5}}), right(v[0] * v[1]), wrong("ander vliegtuig", lies::elsewhere),
+        wrong("Bereken eerst hoe lang", v[0] * (v[1] - 1), v[0] * (v[1] + 1)),
+        wrong("halve uur vergeten", v[0] * (v[1] - 0.5)), wrong("niet 0,3 uur", v[0] * (v[1] - 0.2)),
+        explains("Het vloog dus # uur met een snelheid van # km per uur. De afstand is # x #", v[1], v[0], v[1], v[0]),
+        check_board);
+    row(M_worst_08_17_click, 5, "Hoeveel gram weegt die worst ongeveer? | MAX.*# kg | 0 ", counts(needle),
+        range({{0.5, 10}, {40, 180}}), right(marks * per_mark), wrong("bij 1 begonnen", (marks + 1) * per_mark),
+        wrong("te weinig geteld", (marks - 1) * per_mark), wrong("verkeerde kant", (formula(10) - marks) * per_mark),
+        wrong("Kijk eerst hoeveel gram elk streepje is. Een lang", marks * per_mark * 2, marks * per_mark / 2),
+        wrong("Kijk eerst hoeveel gram elk streepje is. Eén kg", marks * per_mark * 10),
+        explains("Elk stuk is dus # gram : 10 = # gram. De wijzer staat # lange streepjes", v[0] * 1000, per_mark,
+                 marks));
+    row(B_schatten_08_17_click, 4, "Welke maat past het beste op de stippen? | @ | is ongeveer... ", words({16}),
+        check_estimate);
+    row(L_schilder_07_12_click, 2, "schilderen van # m breed en # m lang. * nodig? | # m²",
+        range({{3, 12}, {3, 12}, {4, 10}}), right(down(area, v[2]) + 1), explains("# x # = # m².", v[0], v[1], area),
+        explains("dus # : # = #, rest #. Voor", division(area, v[2])), [](const reading& n) {
+            EXPECT_NE(std::fmod(n[0] * n[1], n[2]), 0) << "the explanation speaks of a rest";
+            check_row(n);
+        });
+    row(M_behangen_07_09_click, 2,
+        "De lengte van de muur is # m. De hoogte van de muur is # m. De rollen behang zijn # m lang en # cm breed. "
+        "* nodig? | $0 m | $1 m | rol: $2 m | $3 cm",
+        range({{5, 12, 0.2}, {2.2, 3}, {8, 10}, {45, 60, 1}}), range({{5, 12, 0.4}, {2.2, 3}, {10.5, 15}, {45, 60, 1}}),
+        right(down(strips, per_roll) + 1), explains("uitkomst: # : # = #, rest #.", division(v[2] * 100, v[1] * 100)),
+        explains("# : # = #, rest #. Er", division(v[0] * 100, v[3])), explains("dus # banen nodig", strips),
+        explains("rollen: # : # = #, rest #.", division(strips, per_roll)), check_row);
+});
 
 } // namespace
 } // namespace cijferwerf

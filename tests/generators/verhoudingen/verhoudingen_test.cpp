@@ -160,187 +160,125 @@ const formula each_pays = v[2] / (v[0] + v[1]);
 const formula those_asked = [](const reading& n) { return n.words[4] == n.words[0] ? n[0] : n[1]; };
 const formula ours = each_pays * those_asked, theirs = v[2] - ours;
 
-const exercise_rows ratios{
-    {.id = B_huis_02_16_click,
-     .variants = 4,
-     .reads = "tot de voorkant de (grootste|kleinste) deur? * {groter|kleiner} is dan de andere?",
-     .counts = {[](const reading& n) { return std::ranges::min(front_widths(n.exercise)); },
-                [](const reading& n) { return std::ranges::max(front_widths(n.exercise)); }},
-     .ranges = {{{0, 0}, {700, 900}, {1100, 1500}},
-                {{1, 1}, {700, 900}, {1100, 1500}},
-                {{0, 0}, {700, 1300}, {700, 1500}},
-                {{1, 1}, {700, 1300}, {700, 1500}}},
-     .check = check_houses},
-    {.id = B_maatbeker_02_16_click,
-     .variants = 4,
-     .reads = "Voor welk deel is de maatbeker vol?",
-     .counts = {full_marks, all_marks},
-     .ranges = {{{1, 6}, {5, 8}}, {{1, 8}, {7, 10}}, {{1, 9}, {9, 13}}, {{1, 9}, {12, 16}}},
-     .right = says("#/#", v[0], v[1]),
-     .wrong = {{"lege gedeelte gekeken", says("#/#", v[1] - v[0], v[1])},
-               {"het lege deel vergeleken", says("#/#", v[0], v[1] - v[0])},
-               {"goed geteld", says("#/#", v[0] + 1, v[1])},
-               {"goed geteld", says("#/#", v[0] - 1, v[1])},
-               {"goed geteld", says("#/#", v[0], v[1] + 1)},
-               {"goed geteld", says("#/#", v[0], v[1] - 1)}},
-     .explains = {{"is in # gelijke", {v[1]}}, {"voor #/# deel gevuld. | # | #", {v[0], v[1], v[0], v[1]}}},
-     .check = [](const reading& n) { EXPECT_GT(std::ranges::min(n.exercise.numbers()), 0); }},
-    {.id = B_vakantie_02_16_click,
-     .variants = 3,
-     .of = {1, 2},
-     .reads = "inwoners van @. Hoeveel procent ging naar @? | VAKANTIEGANGERS | * uit @ | * | (Een|Twee|Drie) van de "
-              "(vier|vijf|acht|tien|twintig|vijfentwintig|vijftig) {ging naar|gingen naar het mooie|gingen naar het "
-              "mooie} @.",
-     .counts = {[](const reading& n) {
-         return 100 * (n[0] + 1) / std::array{4, 5, 8, 10, 20, 25, 50}.at(static_cast<std::size_t>(n[1]));
-     }},
-     .ranges = {{{0, 0}, {0, 6}, {2, 25}}, {{1, 2}, {1, 6}, {6, 40}}},
-     .words = {5, 6, 5, 6},
-     .right = v[2],
-     .wrong = misread(v[0] + 1, (v[0] + 1) * 100 / v[2]),
-     .explains = {{"verhouding van # : 100. Je kunt dan ook zeggen: #/100, ofwel # %", {v[2], v[2], v[2]}}},
-     .check = [](const reading& n) { EXPECT_TRUE(n.words[0] == n.words[2] && n.words[1] == n.words[3]); }},
-    {.id = B_vakantie_02_16_click,
-     .variants = 3,
-     .of = {3},
-     .reads = "ging naar @? | VAKANTIEGANGERS | * bezochten. | # van de # gingen naar het mooie @.",
-     .ranges = {{{1000, 57000}, {4000, 60000}}},
-     .words = {6, 6},
-     .right = v[0] * 100 / v[1],
-     .wrong = misread(v[0] / 1000, v[1] / 1000),
-     .explains = {{"# van de # inwoners is 't zelfde als", {v[0], v[1]}},
-                  {"verhouding van # : 100", {v[0] * 100 / v[1]}}}},
-    {.id = L_cirkels_02_16_click,
-     .variants = 7,
-     .reads = "rode gedeelten van de linker en de rechter cirkel? | links | rechts",
-     .counts = {red_part(0), red_part(1)},
-     .ranges = {{{1.0 / 3, 2.0 / 3}, {1.0 / 3, 2.0 / 3}},
-                {{0.25, 0.75}, {0.25, 0.75}},
-                {{0.25, 0.75}, {0.25, 0.75}},
-                {{1.0 / 6, 5.0 / 6}, {1.0 / 6, 5.0 / 6}},
-                {{1.0 / 6, 5.0 / 6}, {1.0 / 6, 5.0 / 6}},
-                {{0.125, 0.875}, {0.125, 0.875}},
-                {{0.125, 0.875}, {0.125, 0.875}}},
-     .right = ratio(1),
-     .wrong = {{"cirkels verwisseld", ratio(1, true)},
-               {"Je had moeten vereenvoudigen", ratio(2)},
-               {"Je had moeten vereenvoudigen", ratio(3)},
-               {"Bovendien moet je nog vereenvoudigen", ratio(2, true)},
-               {"Bovendien moet je nog vereenvoudigen", ratio(3, true)}},
-     .explains = {{"linker cirkel is voor het & deel rood gekleurd, De rechter cirkel voor het & deel", {v[0], v[1]}},
-                  {"De verhouding & : & kun je * met # te vermenigvuldigen",
-                   {v[0], v[1], [](const reading& n) { return std::stod(n.exercise.right) / n[0]; }}}},
-     .check = check_spokes},
-    {.id = L_fietspad_1_02_16_click,
-     .variants = 5,
-     .reads = "heeft van # cm. De schaal is 1 : # Hoe lang is het fietspad in werkelijkheid? | 1 : $1",
-     .ranges = {{{2, 5}, {10000, 100000}},
-                {{3, 9}, {12000, 99000}},
-                {{7, 9}, {12000, 100000}},
-                {{12, 20}, {10000, 78000}},
-                {{16, 30}, {10000, 56000}}},
-     .right = says("# m", v[0] * v[1] / 100),
-     .wrong = {{"Je hebt gedeeld. Je had", says("# m", v[1] / v[0] / 100)},
-               {"aantal cm gekozen", says("# m", v[0] * v[1])},
-               {"bovendien ook zomaar meters", says("# m", v[1] / v[0])}},
-     .explains = {{"in werkelijkheid # cm. Het fietspad is # cm lang", {v[1], v[0]}},
-                  {"van # x # = # cm, ofwel # m.", {v[0], v[1], v[0] * v[1], v[0] * v[1] / 100}}},
-     .check = lies_in(3650, 1650, 5100, 2050)},
-    {.id = L_museum_02_16_click,
-     .variants = 5,
-     .reads = "gemiddeld # mensen. Eén op de (drie|vier|vijf|zes|zeven|acht|negen|tien|elf|twaalf|dertien|veertien|"
-              "vijftien|zestien|zeventien|achttien|negentien|twintig) bezoekers",
-     .ranges = {{{408, 4000, 12}, {0, 2}},
-                {{420, 3990}, {3, 5}},
-                {{440, 3960}, {6, 8}},
-                {{420, 3990}, {9, 12}},
-                {{420, 3978}, {13, 17}}},
-     .right = v[0] / one_in,
-     .wrong = {{"uit het buitenland komt", v[0] - v[0] / one_in},
-               {"Je hebt vermenigvuldigd", v[0] * one_in},
-               {"hoort zelf ook bij", v[0] / (v[1] + 4)}},
-     .explains = {{"Dus: # delen door # is # buitenl", {v[0], one_in, v[0] / one_in}}},
-     .check =
-         [](const reading& n) {
-             const std::string word = telwoord(static_cast<int>(n[1]) + 3);
-             n.exercise.told(
-                 ("elke " + word + " mensen is er één buitenlander\\. Deel je .* door " + word + ",").c_str());
-         }},
-    {.id = M_fietspad_2_02_16_click,
-     .variants = 5,
-     .reads = "heeft van # km. Op de kaart is het fietspad # cm lang. * | 1 : ...",
-     .ranges = {{{1, 2}, {2, 20}}, {{3, 4}, {4, 40}}, {{5, 6}, {8, 40}}, {{7, 9}, {10, 40}}, {{1.5, 8.5}, {2, 35}}},
-     .right = says("1 : #", v[0] * 100000 / v[1]),
-     .wrong = {{"van kilometer naar centimeter", says("1 : #", v[0] * 10000 / v[1])},
-               {"van kilometer naar centimeter", says("1 : #", v[0] * 1000000 / v[1])},
-               {"vergeten van meters", says("1 : #", v[0] * 1000 / v[1])}},
-     .explains = {{"van # kilometer eerst centimeters. Dat is # cm", {v[0], v[0] * 100000}},
-                  {"dat # cm in werkelijkheid een afstand van # cm is.", {v[1], v[0] * 100000}}},
-     .check = lies_in(4050, 1650, 4700, 2050)},
-    {.id = M_tandwielen_02_16_click,
-     .variants = 2,
-     .reads = "linker tandwiel heeft # tanden, het rechter tandwiel heeft er #. Het (linker|rechter) tandwiel draait # "
-              "keer rond. Hoeveel keer draait het {rechter|linker} tandwiel dan rond? | $0 | $1",
-     .ranges = {{{8, 30}, {8, 30}, {0, 0}, {6, 60}}, {{8, 30}, {8, 30}, {1, 1}, {6, 60}}},
-     .right = turned,
-     .wrong = {{"", v[3] * turns / turned_by}, {"", v[3]}, {"", lies::elsewhere}},
-     .explains = {{"Het grote tandwiel heeft # tanden, het kleine #.",
-                   {[](const reading& n) { return std::max(n[0], n[1]); },
-                    [](const reading& n) { return std::min(n[0], n[1]); }}},
-                  {"als het (kleine|grote) # keer rond draait, draait het {grote|kleine} # keer rond *. Gaat het "
-                   "{kleine|grote} wiel niet # keer rond, maar # keer, dan is dat # keer zo veel. Het {grote|kleine} "
-                   "draait dan # x # = # keer rond.",
-                   {large_turns, per_turn, turned_per_turn, per_turn, v[3], v[3] / per_turn, v[3] / per_turn,
-                    turned_per_turn, turned}}},
-     .tips = {"omgekeerd evenredig'.", "juist (minder|vaker)"},
-     .check = check_gears},
-    {.id = Z_brandstofverbruik_02_16_click,
-     .variants = 5,
-     .reads =
-         "Bij welke auto is de brandstofprijs per km het laagst? | Te koop: @, rijdt | op brandstof van # eurocent "
-         "per liter. | Brandstofverbruik  1 : #.",
-     .ranges = {{{60, 210, 9}, {7, 21}}},
-     .words = {17},
-     .tips = {"(Bereken eerst|Reken bij|Kijk niet alleen|Hoeveel eurocent)",
-              "(Deel daarvoor|1 : 15 betekent|Wat kost|De prijs van een liter gedeeld|Deel steeds)"},
-     .check = check_cars},
-    {.id = Z_tuinman_02_16_click,
-     .variants = 5,
-     .reads = "doet hij # kilogram turfmolm. * nodig om # kilogram tuinaarde te maken? | Groeten uit... @",
-     .ranges =
-         {{{2, 2}, {36, 240}}, {{3, 3}, {36, 240}}, {{4, 4}, {40, 240}}, {{5, 5}, {60, 240}}, {{6, 6}, {42, 210}}},
-     .words = {4},
-     .right = says("# kg", soil* v[0]),
-     .wrong = {{"kg potgrond berekend", says("# kg", soil)},
-               {"door het goede getal", says("# kg", v[1] / v[0])},
-               {"delen in plaats van", says("# kg", v[1] * v[0])}},
-     .explains = {{"potgrond met # kilogram turfmolm, dan heeft hij # kilogram", {v[0], v[0] + 1}},
-                  {"dat is # keer zo veel *want # delen door # is #*. Dan heeft hij ook # x # kg =",
-                   {soil, v[1], v[0] + 1, soil, soil, v[0]}}},
-     .check = lies_in(200, 120, 3500, 520)},
-    {.id = Z_uitgaven_02_16_click,
-     .variants = 2,
-     .reads = "Familie @ gaat samen met familie @ een weekje uit. Famile @ bestaat uit # personen, familie @ uit # "
-              "personen. Ze geven bij elkaar € #,- uit. * Hoeveel moet familie @ betalen? |* ONKOSTEN | weekje @ | "
-              "familie @: $0 personen | familie @: $1 personen | samen: € $2,-",
-     .ranges = {{{2, 7}, {2, 7}, {150, 999, 6}}},
-     .words = {10, 10, 10, 10, 10, 8, 10, 10},
-     .right = ours,
-     .wrong = {{"familie berekend", theirs},
-               {"Heb je soms", ours + 10},
-               {"Heb je soms", ours - 10},
-               {"ook nog de verkeerde", theirs + 10},
-               {"ook nog de verkeerde", theirs - 10}},
-     .explains =
-         {{"hebben samen # personen. Voor elke persoon wordt dus € #,-/# = € #,- uitgegeven. Familie * van # personen moet dus # x € #,- =",
-           {v[0] + v[1], v[2], v[0] + v[1], each_pays, those_asked, those_asked, each_pays}}},
-     .check =
-         [](const reading& n) {
-             const auto& w = n.words;
-             EXPECT_TRUE(w[0] == w[2] && w[0] == w[6] && w[1] == w[3] && w[1] == w[7]);
-             EXPECT_EQ(w[4], w[n.variant() == 1 ? 0 : 1]);
-         }},
-};
+const exercise_rows ratios([] {
+    row(B_huis_02_16_click, 4, "tot de voorkant de (grootste|kleinste) deur? * {groter|kleiner} is dan de andere?",
+        counts([](const reading& n) { return std::ranges::min(front_widths(n.exercise)); },
+               [](const reading& n) { return std::ranges::max(front_widths(n.exercise)); }),
+        range({{0, 0}, {700, 900}, {1100, 1500}}), range({{1, 1}, {700, 900}, {1100, 1500}}),
+        range({{0, 0}, {700, 1300}, {700, 1500}}), range({{1, 1}, {700, 1300}, {700, 1500}}), check_houses);
+    row(B_maatbeker_02_16_click, 4, "Voor welk deel is de maatbeker vol?", counts(full_marks, all_marks),
+        range({{1, 6}, {5, 8}}), range({{1, 8}, {7, 10}}), range({{1, 9}, {9, 13}}), range({{1, 9}, {12, 16}}),
+        right(says("#/#", v[0], v[1])), wrong("lege gedeelte gekeken", says("#/#", v[1] - v[0], v[1])),
+        wrong("het lege deel vergeleken", says("#/#", v[0], v[1] - v[0])),
+        wrong("goed geteld", says("#/#", v[0] + 1, v[1]), says("#/#", v[0] - 1, v[1]), says("#/#", v[0], v[1] + 1),
+              says("#/#", v[0], v[1] - 1)),
+        explains("is in # gelijke", v[1]), explains("voor #/# deel gevuld. | # | #", v[0], v[1], v[0], v[1]),
+        [](const reading& n) { EXPECT_GT(std::ranges::min(n.exercise.numbers()), 0); });
+    row(B_vakantie_02_16_click, 3,
+        "inwoners van @. Hoeveel procent ging naar @? | VAKANTIEGANGERS | * uit @ | * | (Een|Twee|Drie) van de "
+        "(vier|vijf|acht|tien|twintig|vijfentwintig|vijftig) {ging naar|gingen naar het mooie|gingen naar het "
+        "mooie} @.",
+        of({1, 2}), counts([](const reading& n) {
+            return 100 * (n[0] + 1) / std::array{4, 5, 8, 10, 20, 25, 50}.at(static_cast<std::size_t>(n[1]));
+        }),
+        range({{0, 0}, {0, 6}, {2, 25}}), range({{1, 2}, {1, 6}, {6, 40}}), words({5, 6, 5, 6}), right(v[2]),
+        wrong(misread(v[0] + 1, (v[0] + 1) * 100 / v[2])),
+        explains("verhouding van # : 100. Je kunt dan ook zeggen: #/100, ofwel # %", v[2], v[2], v[2]),
+        [](const reading& n) { EXPECT_TRUE(n.words[0] == n.words[2] && n.words[1] == n.words[3]); });
+    row(B_vakantie_02_16_click, 3,
+        "ging naar @? | VAKANTIEGANGERS | * bezochten. | # van de # gingen naar het mooie @.", of({3}),
+        range({{1000, 57000}, {4000, 60000}}), words({6, 6}), right(v[0] * 100 / v[1]),
+        wrong(misread(v[0] / 1000, v[1] / 1000)), explains("# van de # inwoners is 't zelfde als", v[0], v[1]),
+        explains("verhouding van # : 100", v[0] * 100 / v[1]));
+    row(L_cirkels_02_16_click, 7, "rode gedeelten van de linker en de rechter cirkel? | links | rechts",
+        counts(red_part(0), red_part(1)), range({{1.0 / 3, 2.0 / 3}, {1.0 / 3, 2.0 / 3}}),
+        range({{0.25, 0.75}, {0.25, 0.75}}), range({{0.25, 0.75}, {0.25, 0.75}}),
+        range({{1.0 / 6, 5.0 / 6}, {1.0 / 6, 5.0 / 6}}), range({{1.0 / 6, 5.0 / 6}, {1.0 / 6, 5.0 / 6}}),
+        range({{0.125, 0.875}, {0.125, 0.875}}), range({{0.125, 0.875}, {0.125, 0.875}}), right(ratio(1)),
+        wrong("cirkels verwisseld", ratio(1, true)), wrong("Je had moeten vereenvoudigen", ratio(2), ratio(3)),
+        wrong("Bovendien moet je nog vereenvoudigen", ratio(2, true), ratio(3, true)),
+        explains("linker cirkel is voor het & deel rood gekleurd, De rechter cirkel voor het & deel", v[0], v[1]),
+        explains("De verhouding & : & kun je * met # te vermenigvuldigen", v[0], v[1],
+                 [](const reading& n) { return std::stod(n.exercise.right) / n[0]; }),
+        check_spokes);
+    row(L_fietspad_1_02_16_click, 5,
+        "heeft van # cm. De schaal is 1 : # Hoe lang is het fietspad in werkelijkheid? | 1 : $1",
+        range({{2, 5}, {10000, 100000}}), range({{3, 9}, {12000, 99000}}), range({{7, 9}, {12000, 100000}}),
+        range({{12, 20}, {10000, 78000}}), range({{16, 30}, {10000, 56000}}), right(says("# m", v[0] * v[1] / 100)),
+        wrong("Je hebt gedeeld. Je had", says("# m", v[1] / v[0] / 100)),
+        wrong("aantal cm gekozen", says("# m", v[0] * v[1])),
+        wrong("bovendien ook zomaar meters", says("# m", v[1] / v[0])),
+        explains("in werkelijkheid # cm. Het fietspad is # cm lang", v[1], v[0]),
+        explains("van # x # = # cm, ofwel # m.", v[0], v[1], v[0] * v[1], v[0] * v[1] / 100),
+        lies_in(3650, 1650, 5100, 2050));
+    row(L_museum_02_16_click, 5,
+        "gemiddeld # mensen. Eén op de (drie|vier|vijf|zes|zeven|acht|negen|tien|elf|twaalf|dertien|veertien|"
+        "vijftien|zestien|zeventien|achttien|negentien|twintig) bezoekers",
+        range({{408, 4000, 12}, {0, 2}}), range({{420, 3990}, {3, 5}}), range({{440, 3960}, {6, 8}}),
+        range({{420, 3990}, {9, 12}}), range({{420, 3978}, {13, 17}}), right(v[0] / one_in),
+        wrong("uit het buitenland komt", v[0] - v[0] / one_in), wrong("Je hebt vermenigvuldigd", v[0] * one_in),
+        wrong("hoort zelf ook bij", v[0] / (v[1] + 4)),
+        explains("Dus: # delen door # is # buitenl", v[0], one_in, v[0] / one_in), [](const reading& n) {
+            const std::string word = telwoord(static_cast<int>(n[1]) + 3);
+            n.exercise.told(
+                ("elke " + word + " mensen is er één buitenlander\\. Deel je .* door " + word + ",").c_str());
+        });
+    row(M_fietspad_2_02_16_click, 5, "heeft van # km. Op de kaart is het fietspad # cm lang. * | 1 : ...",
+        range({{1, 2}, {2, 20}}), range({{3, 4}, {4, 40}}), range({{5, 6}, {8, 40}}), range({{7, 9}, {10, 40}}),
+        range({{1.5, 8.5}, {2, 35}}), right(says("1 : #", v[0] * 100000 / v[1])),
+        wrong("van kilometer naar centimeter", says("1 : #", v[0] * 10000 / v[1]),
+              says("1 : #", v[0] * 1000000 / v[1])),
+        wrong("vergeten van meters", says("1 : #", v[0] * 1000 / v[1])),
+        explains("van # kilometer eerst centimeters. Dat is # cm", v[0], v[0] * 100000),
+        explains("dat # cm in werkelijkheid een afstand van # cm is.", v[1], v[0] * 100000),
+        lies_in(4050, 1650, 4700, 2050));
+    row(M_tandwielen_02_16_click, 2,
+        "linker tandwiel heeft # tanden, het rechter tandwiel heeft er #. Het (linker|rechter) tandwiel draait # "
+        "keer rond. Hoeveel keer draait het {rechter|linker} tandwiel dan rond? | $0 | $1",
+        range({{8, 30}, {8, 30}, {0, 0}, {6, 60}}), range({{8, 30}, {8, 30}, {1, 1}, {6, 60}}), right(turned),
+        wrong("", v[3] * turns / turned_by, v[3], lies::elsewhere),
+        explains(
+            "Het grote tandwiel heeft # tanden, het kleine #.", [](const reading& n) { return std::max(n[0], n[1]); },
+            [](const reading& n) { return std::min(n[0], n[1]); }),
+        explains("als het (kleine|grote) # keer rond draait, draait het {grote|kleine} # keer rond *. Gaat het "
+                 "{kleine|grote} wiel niet # keer rond, maar # keer, dan is dat # keer zo veel. Het {grote|kleine} "
+                 "draait dan # x # = # keer rond.",
+                 large_turns, per_turn, turned_per_turn, per_turn, v[3], v[3] / per_turn, v[3] / per_turn,
+                 turned_per_turn, turned),
+        tips("omgekeerd evenredig'.", "juist (minder|vaker)"), check_gears);
+    row(Z_brandstofverbruik_02_16_click, 5,
+        "Bij welke auto is de brandstofprijs per km het laagst? | Te koop: @, rijdt | op brandstof van # eurocent "
+        "per liter. | Brandstofverbruik  1 : #.",
+        range({{60, 210, 9}, {7, 21}}), words({17}),
+        tips("(Bereken eerst|Reken bij|Kijk niet alleen|Hoeveel eurocent)",
+             "(Deel daarvoor|1 : 15 betekent|Wat kost|De prijs van een liter gedeeld|Deel steeds)"),
+        check_cars);
+    row(Z_tuinman_02_16_click, 5,
+        "doet hij # kilogram turfmolm. * nodig om # kilogram tuinaarde te maken? | Groeten uit... @",
+        range({{2, 2}, {36, 240}}), range({{3, 3}, {36, 240}}), range({{4, 4}, {40, 240}}), range({{5, 5}, {60, 240}}),
+        range({{6, 6}, {42, 210}}), words({4}), right(says("# kg", soil * v[0])),
+        wrong("kg potgrond berekend", says("# kg", soil)), wrong("door het goede getal", says("# kg", v[1] / v[0])),
+        wrong("delen in plaats van", says("# kg", v[1] * v[0])),
+        explains("potgrond met # kilogram turfmolm, dan heeft hij # kilogram", v[0], v[0] + 1),
+        explains("dat is # keer zo veel *want # delen door # is #*. Dan heeft hij ook # x # kg =", soil, v[1], v[0] + 1,
+                 soil, soil, v[0]),
+        lies_in(200, 120, 3500, 520));
+    row(Z_uitgaven_02_16_click, 2,
+        "Familie @ gaat samen met familie @ een weekje uit. Famile @ bestaat uit # personen, familie @ uit # "
+        "personen. Ze geven bij elkaar € #,- uit. * Hoeveel moet familie @ betalen? |* ONKOSTEN | weekje @ | "
+        "familie @: $0 personen | familie @: $1 personen | samen: € $2,-",
+        range({{2, 7}, {2, 7}, {150, 999, 6}}), words({10, 10, 10, 10, 10, 8, 10, 10}), right(ours),
+        wrong("familie berekend", theirs), wrong("Heb je soms", ours + 10, ours - 10),
+        wrong("ook nog de verkeerde", theirs + 10, theirs - 10),
+        explains(
+            "hebben samen # personen. Voor elke persoon wordt dus € #,-/# = € #,- uitgegeven. Familie * van # personen moet dus # x € #,- =",
+            v[0] + v[1], v[2], v[0] + v[1], each_pays, those_asked, those_asked, each_pays),
+        [](const reading& n) {
+            const auto& w = n.words;
+            EXPECT_TRUE(w[0] == w[2] && w[0] == w[6] && w[1] == w[3] && w[1] == w[7]);
+            EXPECT_EQ(w[4], w[n.variant() == 1 ? 0 : 1]);
+        });
+});
 
 } // namespace
 } // namespace cijferwerf
