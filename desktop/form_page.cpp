@@ -3,6 +3,7 @@
 #include "desktop/theme.h"
 #include "desktop/widgets.h"
 #include "runtime/picture_reading.h"
+#include "runtime/shown_state.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -44,43 +45,9 @@ char form_key(const QKeyEvent& event) {
 
 // What a widget was given last; it is left alone as long as nothing of this changes.
 struct form_page::placed_control {
-    struct state {
-        int left, top, width, height;
-        std::string caption, accessible_name;
-        char mnemonic;
-        bool visible, enabled;
-        std::optional<kleur> colour;
-        double font_size;
-        std::vector<std::string> items;
-        int selected;
-        bool operator==(const state&) const = default;
-    };
-
     control& shown;
     QWidget* widget;
-    std::optional<state> copied;
-
-    state current() const {
-        state now{shown.left,
-                  shown.top,
-                  shown.width,
-                  shown.height,
-                  shown.caption,
-                  shown.accessible_name,
-                  shown.mnemonic,
-                  shown.visible,
-                  shown.enabled,
-                  shown.colour,
-                  shown.font_size,
-                  {},
-                  -1};
-        if (shown.kind == control_kind::list_box) {
-            now.items = static_cast<const list_box&>(shown).items;
-            now.selected = static_cast<const list_box&>(shown).selected;
-        }
-        if (shown.kind == control_kind::option_button) now.selected = static_cast<const option_button&>(shown).selected;
-        return now;
-    }
+    std::optional<shown_state> copied;
 };
 
 form_page::form_page(form& of, event_runner run, QWidget* window) : QWidget(window), form_(of), run_(std::move(run)) {
@@ -100,7 +67,7 @@ void form_page::make_widget(control& shown) {
     switch (shown.kind) {
     case control_kind::label: widget = new painted<QLabel>(shown, *this); break;
     case control_kind::frame: widget = new painted<QFrame>(shown, *this); break;
-    case control_kind::picture_box: widget = new picture_widget(static_cast<picture_box&>(shown), *this); break;
+    case control_kind::picture_box: widget = new painted<QWidget>(shown, *this); break;
     case control_kind::button: {
         auto* made = new painted<QPushButton>(shown, *this);
         connect(made, &QPushButton::clicked, this, [this, &shown] { clicked(shown); });
@@ -135,7 +102,8 @@ void form_page::make_widget(control& shown) {
     if (!shown.is_button() && shown.kind != control_kind::list_box) {
         // What is no button is clicked with the pointer only: for the keyboard there is a button.
         if (shown.click) widget->setAttribute(Qt::WA_Hover);
-        if (!shown.click && !shown.hover) widget->setAttribute(Qt::WA_TransparentForMouseEvents);
+        const bool on_card = shown.kind == control_kind::label && static_cast<label&>(shown).card != nullptr;
+        if (on_card || (!shown.click && !shown.hover)) widget->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
     if (shown.click && shown.kind != control_kind::list_box) widget->setCursor(Qt::PointingHandCursor);
     placed_.push_back({shown, widget, {}});
@@ -160,11 +128,12 @@ void form_page::update_widgets() {
 
 void form_page::copy(placed_control& placed) {
     const control& shown = placed.shown;
-    if (auto* picture = dynamic_cast<picture_widget*>(placed.widget)) {
-        picture->setAccessibleDescription(QString::fromStdString(read_picture(static_cast<const picture_box&>(shown))));
-        picture->update();
+    if (shown.kind == control_kind::picture_box) {
+        placed.widget->setAccessibleDescription(
+            QString::fromStdString(read_picture(static_cast<const picture_box&>(shown))));
+        placed.widget->update();
     }
-    const auto now = placed.current();
+    const shown_state now = state_of(form_, shown, settings());
     // A click changes the widget by itself, whatever the form makes of it.
     if (auto* option = qobject_cast<QRadioButton*>(placed.widget)) option->setChecked(now.selected != 0);
     if (placed.copied == now) return;
@@ -205,11 +174,11 @@ QWidget* form_page::widget(const control* shown) const {
 void form_page::lay_out(placed_control& placed) {
     const control& shown = placed.shown;
     const auto corner = [this](int x, int y) { return (corner_ + QPointF(x, y) * unit_).toPoint(); };
-    const QRect box(corner(shown.left, shown.top),
-                    corner(shown.left + shown.width, shown.top + shown.height) - QPoint(1, 1));
-    constexpr int border = picture_widget::border;
-    placed.widget->setGeometry(shown.kind == control_kind::picture_box ? box.adjusted(-border, -border, border, border)
-                                                                       : box);
+    constexpr int picture_edge = 15; // lies around the picture
+    const int around = shown.kind == control_kind::picture_box ? picture_edge : 0;
+    placed.widget->setGeometry(
+        QRect(corner(shown.left - around, shown.top - around),
+              corner(shown.left + shown.width + around, shown.top + shown.height + around) - QPoint(1, 1)));
     if (auto* list = dynamic_cast<list_widget*>(placed.widget)) list->lay_out();
 }
 
@@ -219,8 +188,21 @@ void form_page::resizeEvent(QResizeEvent*) {
     for (placed_control& placed : placed_) lay_out(placed);
 }
 
-void form_page::paintEvent(QPaintEvent* event) {
-    if (!form_.overlay) QPainter(this).fillRect(event->rect(), theme::ground);
+// The bar goes on to the edges of the window, where that is wider or higher than the form.
+void form_page::paintEvent(QPaintEvent*) {
+    if (form_.overlay) return;
+    const backdrop behind = backdrop_of(form_, settings());
+    QPainter on(this);
+    on.fillRect(rect(), theme::colour(behind.ground));
+    if (behind.bar_height > 0)
+        on.fillRect(0, 0, width(), static_cast<int>(std::lround(corner_.y() + behind.bar_height * unit_)),
+                    theme::colour(behind.bar));
+}
+
+void form_page::paint(QWidget& widget, const scene& face, const control& shown, picture_cache& pictures) const {
+    QPainter on(&widget);
+    const QPointF origin = corner_ + QPointF(shown.left, shown.top) * unit_ - widget.pos();
+    theme::paint(on, face, origin, unit_, pictures);
 }
 
 // ---- from the widgets to the handlers ----

@@ -3,7 +3,8 @@
 // update_widgets().
 #pragma once
 
-#include "runtime/form.h"
+#include "desktop/picture_painter.h"
+#include "runtime/look.h"
 
 #include <QWidget>
 
@@ -23,6 +24,9 @@ public:
 
     form& shown() const { return form_; }
     double unit() const { return unit_; } // pixels per twip
+    look_settings settings() const { return {}; }
+    // Paints the face of a control on its widget.
+    void paint(QWidget& widget, const scene& face, const control& shown, picture_cache& pictures) const;
     // Copies what has changed in the controls since the last time, and moves the focus where the form wants it.
     void update_widgets();
 

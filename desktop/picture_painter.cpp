@@ -1,6 +1,7 @@
 #include "desktop/picture_painter.h"
 
 #include "desktop/shipped.h"
+#include "runtime/drawn.h"
 
 #include <QFontMetricsF>
 
@@ -14,7 +15,7 @@ namespace {
 constexpr double narrowing = 0.9; // picture text is set at 90 % of the face's width
 constexpr double twips_per_pixel = 15;
 
-QColor rgb(kleur colour) { return QColor::fromRgb(kleur_rgb[colour]); }
+QColor rgb(const drawing& shown, kleur colour) { return QColor::fromRgb(colour_on(shown, colour)); }
 
 // A line of more than a pixel has no gaps.
 Qt::PenStyle pen_style(const pen& with) {
@@ -48,7 +49,7 @@ public:
         on_.scale(unit_ * narrowing, unit_down_);
         const QFont font = twip_font(op.size);
         on_.setFont(font);
-        on_.setPen(rgb(op.colour));
+        on_.setPen(QColor::fromRgb(text_colour_on(shown_, op.colour)));
         on_.drawText(QPointF(0, QFontMetricsF(font).ascent()), QString::fromStdString(op.text));
         on_.restore();
     }
@@ -70,7 +71,7 @@ public:
             const QPointF from = snapped(place({op.x, op.y}));
             const QPointF to = snapped(place(far_corner));
             const QSizeF size(std::max(to.x() - from.x(), 1 / pixels_), std::max(to.y() - from.y(), 1 / pixels_));
-            on_.fillRect(QRectF(from, size), rgb(op.pen.colour));
+            on_.fillRect(QRectF(from, size), rgb(shown_, op.pen.colour));
         } else {
             take_up(op.pen, false);
             on_.drawRect(QRectF(on_pixels({op.x, op.y}, op.pen), on_pixels(far_corner, op.pen)));
@@ -102,7 +103,7 @@ public:
             on_.drawImage(box_, image);
             return;
         }
-        const bool dark = qGray(rgb(shown_.ground).rgb()) < 128;
+        const bool dark = qGray(rgb(shown_, shown_.ground).rgb()) < 128;
         (*this)(text_op{60, 30, dark ? wit : zwart, 8.25, "plaatje ontbreekt: " + op.file});
     }
 
@@ -121,9 +122,9 @@ private:
     }
     // Filled shapes get a hairline in their own colour, which closes the seam between neighbours.
     void take_up(const pen& with, bool filled) {
-        on_.setPen(QPen(rgb(with.colour), filled ? 1 / pixels_ : thickness(with),
+        on_.setPen(QPen(rgb(shown_, with.colour), filled ? 1 / pixels_ : thickness(with),
                         filled ? Qt::SolidLine : pen_style(with), Qt::FlatCap, Qt::MiterJoin));
-        on_.setBrush(filled ? QBrush(rgb(with.colour)) : QBrush(Qt::NoBrush));
+        on_.setBrush(filled ? QBrush(rgb(shown_, with.colour)) : QBrush(Qt::NoBrush));
     }
 
     QPainter& on_;
@@ -160,7 +161,7 @@ const QImage& picture_cache::scaled(const std::string& file, QSize size) {
 }
 
 void paint_drawing(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures) {
-    on.fillRect(box, rgb(shown.ground));
+    on.fillRect(box, rgb(shown, shown.ground));
     paint_operations(on, shown, box, pictures);
 }
 

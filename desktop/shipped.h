@@ -2,13 +2,15 @@
 // What is drawn with them is others' business.
 #pragma once
 
+#include "runtime/look.h"
+
 #include <QIcon>
 #include <QStringList>
 
 namespace cijferwerf {
 
 // Faces of the same widths, for which all texts are laid out; the best one first.
-inline const QStringList faces{"Liberation Sans", "Arial", "Helvetica"};
+inline const QStringList faces(look::font_families.begin(), look::font_families.end());
 
 // Where a shipped file is: beside the program, else in share/cijferwerf beside the program's folder. A file that is
 // nowhere gets a path all the same.

@@ -1,10 +1,10 @@
 #include "desktop/widgets.h"
 
+#include "desktop/theme.h"
+
 #include <QEvent>
-#include <QPainter>
 #include <QStyledItemDelegate>
 
-#include <algorithm>
 #include <cmath>
 
 namespace cijferwerf {
@@ -18,29 +18,24 @@ QString with_mnemonic(const control& shown) {
     return at < 0 ? before : before + '&' + caption.mid(at).replace('&', "&&");
 }
 
-void picture_widget::paintEvent(QPaintEvent*) {
-    QPainter on(this);
-    on.fillRect(rect(), theme::edge);
-    paint_drawing(on, shown_, QRectF(rect().adjusted(border, border, -border, -border)), pictures_);
-}
-
+// A row is where the list has room for it, to the pixel: its rectangle tells only which one it is.
 class list_widget::entry_painter : public QStyledItemDelegate {
 public:
     explicit entry_painter(list_widget& list) : QStyledItemDelegate(&list), list_(list) {}
 
     void paint(QPainter* on, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const theme::state now{.enabled = list_.isEnabled(),
-                               .hovered = (option.state & QStyle::State_MouseOver) != 0,
-                               .selected = index.row() == list_.currentRow()};
+        const place row = row_place(list_.shown_, index.row());
+        const bool hovered = (option.state & QStyle::State_MouseOver) != 0;
+        const double unit = list_.page_.unit();
         on->save();
-        theme::paint_entry(*on, list_.shown_, index.data().toString(), option.rect, list_.page_.unit(), now);
+        theme::paint(*on, row_of(list_.page_.shown(), list_.shown_, index.row(), hovered, list_.page_.settings()),
+                     QPointF(option.rect.topLeft()) - QPointF(row.left, row.top) * unit, unit, list_.pictures_);
         on->restore();
     }
-    // Few entries stand wider apart than many.
-    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
-        const double line = text_height(list_.shown_.font_size);
-        const double fair = (list_.shown_.height - 90.0) / std::max(1, list_.count());
-        return {0, static_cast<int>(std::clamp(fair, 1.35 * line, 1.75 * line) * list_.page_.unit())};
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const override {
+        const place row = row_place(list_.shown_, index.row());
+        const double unit = list_.page_.unit();
+        return {0, static_cast<int>(std::lround(row.bottom() * unit) - std::lround(row.top * unit))};
     }
 
 private:
@@ -58,15 +53,16 @@ list_widget::list_widget(const list_box& shown, form_page& page) : QListWidget(&
 }
 
 void list_widget::lay_out() {
-    const int room = static_cast<int>(std::ceil(45 * page_.unit()));
-    setViewportMargins(room, room, room, room);
+    const place first = row_place(shown_, 0);
+    const int aside = static_cast<int>(std::lround(first.left * page_.unit()));
+    setViewportMargins(aside, static_cast<int>(std::lround(first.top * page_.unit())), aside, 0);
     doItemsLayout();
 }
 
 bool list_widget::event(QEvent* event) {
     if (event->type() != QEvent::Paint) return QListWidget::event(event);
-    QPainter on(this);
-    theme::paint_edge(on, rect(), page_.unit(), {.enabled = isEnabled(), .focused = hasFocus()});
+    const control_state now{.focused = hasFocus()};
+    page_.paint(*this, face_of(page_.shown(), shown_, now, page_.settings()), shown_, pictures_);
     return true;
 }
 

@@ -1,9 +1,8 @@
-// The widgets of which a page is made: the toolkit's own, painted by the theme, the picture, and the list.
+// The widgets of which a page is made: the toolkit's own, painted as the look says, and the list.
 // Which widget a control gets, and what its events do, is the page's.
 #pragma once
 
 #include "desktop/form_page.h"
-#include "desktop/theme.h"
 
 #include <QAbstractButton>
 #include <QListWidget>
@@ -15,7 +14,7 @@ QString line_breaks(const std::string& caption);
 // The caption as the toolkit takes it for a button: "&" in front of the mnemonic, any other "&" doubled.
 QString with_mnemonic(const control& shown);
 
-// A standard widget that the theme paints.
+// A standard widget with the look of its control.
 template<class Base>
 class painted : public Base {
 public:
@@ -23,18 +22,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        theme::state now{this->isEnabled(), this->underMouse(), false, this->hasFocus(), false};
-        QString caption;
-        if constexpr (std::derived_from<Base, QAbstractButton>) {
-            now.pressed = this->isDown();
-            now.selected = this->isChecked();
-        }
-        if constexpr (requires { this->text(); })
-            caption = this->text();
-        else
-            caption = line_breaks(shown_.caption);
-        QPainter on(this);
-        theme::paint(on, shown_, caption, this->size(), page_.unit(), now);
+        control_state now{this->underMouse(), false, this->hasFocus()};
+        if constexpr (std::derived_from<Base, QAbstractButton>) now.pressed = this->isDown();
+        page_.paint(*this, face_of(page_.shown(), shown_, now, page_.settings()), shown_, pictures_);
     }
     bool hitButton(const QPoint& at) const requires std::derived_from<Base, QAbstractButton> {
         return this->rect().contains(at);
@@ -43,19 +33,6 @@ protected:
 private:
     const control& shown_;
     form_page& page_;
-};
-
-class picture_widget : public QWidget {
-public:
-    static constexpr int border = 1; // pixels around the picture
-
-    picture_widget(const picture_box& shown, form_page& page) : QWidget(&page), shown_(shown) {}
-
-protected:
-    void paintEvent(QPaintEvent*) override;
-
-private:
-    const picture_box& shown_;
     picture_cache pictures_;
 };
 
@@ -74,6 +51,7 @@ private:
 
     const list_box& shown_;
     form_page& page_;
+    picture_cache pictures_; // none are shown
 };
 
 } // namespace cijferwerf

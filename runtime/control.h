@@ -20,7 +20,7 @@ enum class control_kind : std::uint8_t { label, button, option_button, list_box,
 // What a control is for, so that a theme can dress it; the theme belongs to the front end.
 enum class theme_role : std::uint8_t {
     body,            // plain text
-    title,           // the large words of a start screen
+    title,           // the large words of a start screen; subdued, the smaller ones under them
     heading,         // text on the bar across the top
     heading_bar,     // that bar itself (a frame)
     panel,           // a white panel on the calm ground (a frame)
@@ -41,6 +41,15 @@ enum class theme_role : std::uint8_t {
     value,           // a number on the score sheet
     list,            // a list box
     picture,         // a picture box
+    lesson,          // a panel of an introduction, on the tint of its subject (a frame)
+    lesson_title,    // what an introduction is about
+    lesson_text,     // a line of it
+    lesson_word,     // a name or a heading on such a panel: bold, in the dark of its subject
+    lesson_value,    // a number on it: bold, in the middle
+    illustration,    // a picture box on it, without an edge
+    stepper,         // a round button with a sign that lowers or raises a number
+    cell,            // a part of a picture that can be pressed: nothing is seen of it but a ring, hovered or focused
+    toggle,          // one of a row of small options
 };
 
 // What a text or a panel has to say of an answer.

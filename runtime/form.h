@@ -4,13 +4,9 @@
 
 #include "runtime/control.h"
 #include "runtime/outside.h"
+#include "runtime/place.h"
 
 namespace cijferwerf {
-
-// Place and size in twips.
-struct place {
-    int left, top, width, height;
-};
 
 // The keys that type nothing, and those that have a character of their own all the same.
 namespace keys {

@@ -37,6 +37,8 @@ TEST(picture_text, is_as_wide_in_the_face_as_it_is_laid_out) {
             EXPECT_NEAR(QFontMetricsF(twip_font(points)).horizontalAdvance(QString::fromUtf8(text)),
                         text_width(text, points, 1.0), 1.5)
                 << text << " in " << QFontInfo(twip_font(points)).family().toStdString();
+    EXPECT_NEAR(QFontMetricsF(twip_font(13, true)).horizontalAdvance("Dat is 1.250,50 euro!"),
+                bold_text_width("Dat is 1.250,50 euro!", 13), 1.5);
 }
 
 TEST(picture_text, is_painted_as_wide_at_every_scale_as_it_is_laid_out) {
