@@ -41,7 +41,7 @@ rgb24 on_panel(kleur colour) {
     default: break;
     }
     rgb24 text = kleur_rgb[colour];
-    while (contrast(text, paper) < 4.5) text = blend(text, 0, 8);
+    while (contrast(text, quiet) < 4.5) text = blend(text, 0, 8);
     return text;
 }
 

@@ -7,6 +7,7 @@
 #include "forms/shell/colofon.h"
 #include "forms/shell/menu.h"
 #include "runtime/drawn.h"
+#include "runtime/look.h"
 #include "tests/support/fake_outside.h"
 
 #include <gtest/gtest.h>
@@ -44,7 +45,6 @@ struct screens : testing::Test {
         all = {&practice,
                &forms.get<codering>(),
                &forms.get<menucl>(),
-               &forms.get<menusw>(),
                &forms.get<colofoncl>(),
                &forms.get<scoreblad>(),
                &forms.get<infoscherm>()};
@@ -92,8 +92,10 @@ TEST_F(screens, can_be_read_in_every_state_and_colour) {
     auto& practice = forms.get<mama>();
     const answer_result results[]{answer_result::tried, answer_result::right, answer_result::unused,
                                   answer_result::open};
+    const control_state states[]{{}, {.hovered = true}, {.hovered = true, .pressed = true}, {.focused = true}};
     for (int round = 0; round < 3; ++round) {
         for (int i = 1; i <= 4; ++i) practice.knop[i].result = results[(i + round) % 4];
+        for (button& each : practice.knop) each.width = 4240;
         for (int i = 1; i <= 4; ++i) practice.knop[i].enabled = practice.knop[i].result == answer_result::open;
         practice.berichtvlak.tone = practice.uitleg_bericht.tone = practice.bericht[0].tone = static_cast<tone>(round);
         practice.berichtvlak.header_height = 465;
@@ -106,14 +108,13 @@ TEST_F(screens, can_be_read_in_every_state_and_colour) {
         }
         practice.presentatielijst.enabled = round == 0;
         practice.presentatielijst.selected = 4 * round;
-        practice.taakkiezen_label.caption = "andere opgaven";
+        practice.taakkiezen_label.caption = "taak kiezen";
         for (control* each : practice.controls()) each->visible = each->visible || round == 1; // the calculator too
         for (std::size_t about = 0; about < alle_onderwerpkleuren.size(); ++about)
             for (form* each : all) {
                 each->about = static_cast<subject>(about);
                 for (const bool strong : {false, true})
-                    for (const control_state now : {control_state{}, {true}, {true, true}, {false, false, true}})
-                        look_at(*each, now, {strong, strong});
+                    for (const control_state now : states) look_at(*each, now, {strong, strong});
             }
     }
     EXPECT_GT(texts, 10'000);
