@@ -31,6 +31,12 @@ public:
         if (at_ == words_.size()) throw bad_usage{regel(option_, " needs a value")};
         return words_[at_++];
     }
+    // A folder is named by one character at least.
+    std::string_view folder() {
+        const std::string_view given = text();
+        if (given.empty()) throw bad_usage{regel(option_, " needs a folder")};
+        return given;
+    }
     template<class Number>
     Number number(Number least, Number most) {
         const std::string_view given = text();

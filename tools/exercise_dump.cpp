@@ -1,14 +1,18 @@
-// Writes what the generators make, and what the catalogue offers, as JSON: one object a line, UTF-8.
+// Writes what the generators make, and what the catalogue offers, as JSON: one object a line, UTF-8; or the pictures of
+// the questions as SVG files.
 // The same arguments give the same bytes on every platform. Nothing is shown or checked here.
 //
 // Status: 0 everything was written, 1 it could not be written, 2 unusable arguments.
 #include "forms/practice/catalogue.h"
+#include "runtime/svg.h"
 #include "tools/arguments.h"
 #include "tools/json_writer.h"
 
 #include <csignal>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
+#include <fstream>
 
 #ifdef _WIN32
 #include <fcntl.h>
@@ -24,9 +28,10 @@ using json::output;
 
 constexpr std::string_view usage = "usage: exercise_dump --list\n"
                                    "       exercise_dump --catalogue\n"
-                                   "       exercise_dump [--generator NAME]... [--count N] [--seed S]\n"
+                                   "       exercise_dump [--generator NAME]... [--count N] [--seed S] [--svg DIR]\n"
                                    "  N exercises of each generator named (default: all of them, 1, seed 1);\n"
-                                   "  N from 1 to 1000000, S from 0 to 4294967295\n";
+                                   "  N from 1 to 1000000, S from 0 to 4294967295;\n"
+                                   "  --svg: instead, the picture of each question as DIR/NAME_1.svg and so on\n";
 
 constexpr float fixed_clock = 36'000; // ten o'clock, whenever it runs
 
@@ -138,17 +143,29 @@ struct requested {
     std::vector<oefening_id> generators; // empty: all
     int count = 1;
     std::uint32_t seed = 1;
+    std::optional<std::filesystem::path> svg; // a folder
 };
+
+void write_picture(const std::filesystem::path& folder, std::string_view generator, int number, const drawing& shown) {
+    const std::filesystem::path file = folder / regel(generator, "_", kaal(number), ".svg");
+    std::ofstream out(file, std::ios::binary);
+    out << svg_of(shown);
+    if (!out.flush()) throw std::runtime_error("cannot write " + file.string());
+}
 
 // Every generator starts from the same seed, so that what it makes does not depend on which others are named.
 void write_exercises(output& out, const requested& asked) {
+    if (asked.svg) std::filesystem::create_directories(*asked.svg);
     oefeningen maker([] { return fixed_clock; });
     const auto write = [&](oefening_id generator) {
         maker.toeval.restart(asked.seed);
         maker.variant = 0;
         for (int i = 0; i < asked.count; ++i) {
             maker.maak(generator);
-            write_exercise(out, naam(generator), maker);
+            if (asked.svg)
+                write_picture(*asked.svg, naam(generator), i + 1, maker.plaatje);
+            else
+                write_exercise(out, naam(generator), maker);
         }
     };
     for (const oefening_id generator : asked.generators) write(generator);
@@ -207,6 +224,8 @@ requested read_request(arguments words) {
             asked.count = words.number<int>(1, 1'000'000);
         else if (words.is("--seed"))
             asked.seed = words.number<std::uint32_t>(0, 0xFFFFFFFF);
+        else if (words.is("--svg"))
+            asked.svg = words.folder();
         else
             words.unknown();
     }

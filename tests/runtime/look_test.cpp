@@ -108,7 +108,7 @@ TEST_F(screens, can_be_read_in_every_state_and_colour) {
         }
         practice.presentatielijst.enabled = round == 0;
         practice.presentatielijst.selected = 4 * round;
-        practice.taakkiezen_label.caption = "taak kiezen";
+        practice.taakkiezen_label.caption = "boekje kiezen";
         for (control* each : practice.controls()) each->visible = each->visible || round == 1; // the calculator too
         for (std::size_t about = 0; about < alle_onderwerpkleuren.size(); ++about)
             for (form* each : all) {

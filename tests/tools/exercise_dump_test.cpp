@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/wait.h>
@@ -65,13 +67,26 @@ TEST(exercise_dump, refuses_what_it_does_not_know) {
     for (const char* arguments :
          {"--frobnicate", "rente", "--generator", "--generator rente", "--generator ''", "--count", "--count 0",
           "--count -1", "--count 2x", "--count 1000001", "--seed ''", "--seed -1", "--seed 4294967296", "--seed 1.5",
-          "--list --count 2", "--catalogue --list"}) {
+          "--list --count 2", "--catalogue --list", "--svg", "--svg ''", "--list --svg /tmp"}) {
         const outcome refused = run(std::string(arguments) + " 2>&1 >/dev/null");
         EXPECT_EQ(refused.status, 2) << arguments;
         EXPECT_NE(refused.output.find("exercise_dump: "), std::string::npos) << arguments;
         EXPECT_EQ(run(std::string(arguments) + " 2>/dev/null").output, "") << arguments;
     }
     EXPECT_EQ(run("--seed 4294967295 --generator M_rente_01_08_click").status, 0);
+}
+
+TEST(exercise_dump, writes_the_pictures_of_the_questions) {
+    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "svg" / "new";
+    const outcome ended = run("--count 2 --generator M_rente_01_08_click --svg '" + folder.string() + "'");
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.output, "");
+    EXPECT_FALSE(std::filesystem::exists(folder / "M_rente_01_08_click_3.svg"));
+    std::ifstream file(folder / "M_rente_01_08_click_2.svg");
+    const std::string svg(std::istreambuf_iterator<char>(file), {});
+    EXPECT_TRUE(svg.starts_with("<svg ") && svg.ends_with("</svg>\n")) << svg;
+    std::filesystem::remove_all(folder);
+    EXPECT_EQ(run("--svg /dev/null/x 2>/dev/null").status, 1);
 }
 
 TEST(exercise_dump, says_when_it_cannot_write) {
