@@ -1,5 +1,6 @@
 #include "desktop/desktop.h"
 
+#include "desktop/accessible.h"
 #include "desktop/report_printer.h"
 #include "desktop/shipped.h"
 #include "desktop/theme.h"
@@ -328,6 +329,7 @@ void dress_application() {
     QApplication::setQuitOnLastWindowClosed(false);
     load_shipped_face();
     qApp->installEventFilter(new held_keys(qApp));
+    install_accessibility();
     QApplication::setPalette(theme::palette());
     QFont font = twip_font(box_points);
     font.setPixelSize(14);

@@ -1,8 +1,8 @@
 #include "desktop/form_page.h"
 
+#include "desktop/accessible.h"
 #include "desktop/theme.h"
 #include "desktop/widgets.h"
-#include "runtime/picture_reading.h"
 #include "runtime/shown_state.h"
 
 #include <QCloseEvent>
@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace cijferwerf {
 
@@ -59,7 +60,10 @@ form_page::form_page(form& of, event_runner run, QWidget* window) : QWidget(wind
 
 // The form may be gone already: what its widgets still report goes nowhere.
 form_page::~form_page() {
-    for (const placed_control& placed : placed_) placed.widget->disconnect(this);
+    for (const placed_control& going : std::exchange(placed_, {})) {
+        going.widget->disconnect(this);
+        delete going.widget;
+    }
 }
 
 void form_page::make_widget(control& shown) {
@@ -113,7 +117,10 @@ void form_page::make_widget(control& shown) {
 
 void form_page::update_widgets() {
     updating_ = true;
-    for (placed_control& placed : placed_) copy(placed);
+    for (placed_control& placed : placed_) {
+        copy(placed);
+        tell(*placed.widget, placed.shown);
+    }
 
     // The focus goes first and what is disabled or hidden follows, or Qt would send the focus somewhere of its own.
     const placed_control* had = placed(focusWidget());
@@ -124,15 +131,18 @@ void form_page::update_widgets() {
         placed.widget->setVisible(placed.shown.visible);
     }
     updating_ = false;
+    announce(*this, form_.announcement);
+    form_.announcement.clear();
+}
+
+const control* form_page::control_of(const QWidget* widget) const {
+    const placed_control* found = placed(widget);
+    return found == nullptr ? nullptr : &found->shown;
 }
 
 void form_page::copy(placed_control& placed) {
     const control& shown = placed.shown;
-    if (shown.kind == control_kind::picture_box) {
-        placed.widget->setAccessibleDescription(
-            QString::fromStdString(read_picture(static_cast<const picture_box&>(shown))));
-        placed.widget->update();
-    }
+    if (shown.kind == control_kind::picture_box) placed.widget->update();
     const shown_state now = state_of(form_, shown, settings());
     // A click changes the widget by itself, whatever the form makes of it.
     if (auto* option = qobject_cast<QRadioButton*>(placed.widget)) option->setChecked(now.selected != 0);
@@ -143,8 +153,6 @@ void form_page::copy(placed_control& placed) {
     lay_out(placed);
     if (shown.enabled) placed.widget->setEnabled(true);
     if (shown.visible) placed.widget->setVisible(true);
-    placed.widget->setAccessibleName(shown.accessible_name.empty() ? line_breaks(shown.caption)
-                                                                   : QString::fromStdString(shown.accessible_name));
     if (auto* text = qobject_cast<QLabel*>(placed.widget)) text->setText(line_breaks(shown.caption));
     if (auto* pressed = qobject_cast<QAbstractButton*>(placed.widget)) {
         pressed->setText(with_mnemonic(shown));

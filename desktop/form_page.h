@@ -23,6 +23,9 @@ public:
     ~form_page() override;
 
     form& shown() const { return form_; }
+    // The control of one of the page's widgets and the widget of one of the form's controls, or null.
+    const control* control_of(const QWidget* widget) const;
+    QWidget* widget(const control* shown) const;
     double unit() const { return unit_; } // pixels per twip
     look_settings settings() const { return {}; }
     // Paints the face of a control on its widget.
@@ -44,7 +47,6 @@ private:
     void make_widget(control& shown);
     void copy(placed_control& placed);
     const placed_control* placed(const QObject* widget) const;
-    QWidget* widget(const control* shown) const;
     void lay_out(placed_control& placed);
     void clicked(control& on);
     bool key_pressed(control* focused, const QKeyEvent& event);
