@@ -21,7 +21,9 @@ namespace cijferwerf {
 
 namespace {
 
-constexpr double share_of_screen = 0.9;
+constexpr double share_of_screen = 0.9; // of a large one
+constexpr int small_screen = 1400;      // pixels wide; room for a title bar is left on it
+constexpr int title_bar = 36;
 constexpr double smallest_unit = 0.6 / 15; // pixels per twip
 constexpr double box_points = 10.5;
 
@@ -216,10 +218,14 @@ form_page* desktop::page(const form& of) const {
     return nullptr;
 }
 
-// The largest size of this shape that leaves some of the screen free.
-QSize desktop::comfortable_size(const form& of) const {
-    const QSizeF most = window_->screen()->availableSize() * share_of_screen;
-    return QSizeF(of.width, of.height).scaled(most, Qt::KeepAspectRatio).toSize();
+// The largest of the form's shape: on a small screen nothing is left free but the room of a title bar.
+QRect desktop::comfortable_place(const form& of) const {
+    const QRect screen = window_->screen()->availableGeometry();
+    const bool small = screen.width() < small_screen;
+    const QRect room = small ? screen.adjusted(0, title_bar, 0, 0) : screen;
+    const QSizeF most = QSizeF(room.size()) * (small ? 1 : share_of_screen);
+    const QSize size = QSizeF(of.width, of.height).scaled(most, Qt::KeepAspectRatio).toSize();
+    return {room.center() - QRect({}, size).center(), size};
 }
 
 void desktop::show(form& shown) {
@@ -234,12 +240,15 @@ void desktop::show(form& shown) {
     if (shown.side_window) {
         if (fresh) {
             side_pages_.push_back(made);
-            const form_page* beside = pages_.empty() ? nullptr : pages_.back();
-            const double unit = beside != nullptr ? beside->unit() : 0;
-            made->resize(unit > 0 ? (QSizeF(shown.width, shown.height) * unit).toSize() : comfortable_size(shown));
-            made->setMinimumSize((QSizeF(shown.width, shown.height) * smallest_unit).toSize());
             made->setParent(window_.get(), Qt::Dialog); // stays above the main one and goes down with it
-            if (beside != nullptr) made->move(window_->geometry().center() - made->rect().center());
+            made->setMinimumSize((QSizeF(shown.width, shown.height) * smallest_unit).toSize());
+            made->setGeometry(comfortable_place(shown));
+            if (!pages_.empty()) { // its frame where it is wanted, at the same scale
+                const form_page& main = *pages_.back();
+                made->resize((QSizeF(shown.width, shown.height) * main.unit()).toSize());
+                const point wanted = shown.wanted_place.value_or(point{});
+                made->move(main.mapToGlobal(main.place_of(wanted)));
+            }
         }
         made->show();
         made->raise();
@@ -252,9 +261,7 @@ void desktop::show(form& shown) {
     window_->setCurrentWidget(made);
     if (!window_->isVisible()) {
         window_->setMinimumSize((QSizeF(shown.width, shown.height) * smallest_unit).toSize());
-        const QSize size = comfortable_size(shown);
-        const QRect screen = window_->screen()->availableGeometry();
-        window_->setGeometry(QRect(screen.center() - QPoint(size.width(), size.height()) / 2, size));
+        window_->setGeometry(comfortable_place(shown));
         window_->show();
         window_->activateWindow();
     }

@@ -47,7 +47,7 @@ private:
     void stop(int status);
     void update_screen();
     void close_top();
-    QSize comfortable_size(const form& of) const;
+    QRect comfortable_place(const form& of) const;
 
     std::unique_ptr<main_window> window_;
     std::vector<form_page*> pages_; // the ordinary ones in the window, the one on top last

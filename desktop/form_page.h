@@ -27,6 +27,7 @@ public:
     const control* control_of(const QWidget* widget) const;
     QWidget* widget(const control* shown) const;
     double unit() const { return unit_; } // pixels per twip
+    QPoint place_of(point on_form) const { return (corner_ + QPointF(on_form.x, on_form.y) * unit_).toPoint(); }
     look_settings settings() const { return {}; }
     // Paints the face of a control on its widget.
     void paint(QWidget& widget, const scene& face, const control& shown, picture_cache& pictures) const;

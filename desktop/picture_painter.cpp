@@ -161,13 +161,15 @@ const QImage& picture_cache::scaled(const std::string& file, QSize size) {
 }
 
 void paint_drawing(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures) {
+    on.save();
+    on.setClipRect(box, Qt::IntersectClip);
     on.fillRect(box, rgb(shown, shown.ground));
     paint_operations(on, shown, box, pictures);
+    on.restore();
 }
 
 void paint_operations(QPainter& on, const drawing& shown, const QRectF& box, picture_cache& pictures) {
     on.save();
-    on.setClipRect(box, Qt::IntersectClip);
     on.setRenderHint(QPainter::Antialiasing);
     replay each(on, shown, box, pictures);
     for (const drawing_op& op : shown.operations()) std::visit(each, op);

@@ -16,7 +16,7 @@ drawing merkteken(std::string_view key);
 // What it is about, by the same key; none for a review, for TELMORA's set and for any other key.
 subject onderwerp(std::string_view key);
 
-// The mark of the program itself.
+// The mark of the program itself, for a white ground.
 drawing programmateken();
 
 } // namespace cijferwerf

@@ -177,6 +177,13 @@ void add_text(scene& to, place in, std::string_view caption, const type& set, al
 place box_of(const control& shown) { return {0, 0, shown.width, shown.height}; }
 place place_of(const control& shown) { return {shown.left, shown.top, shown.width, shown.height}; }
 
+// A bar, or the one at the top of a card.
+place bar_of(const control& bar) {
+    place at = place_of(bar);
+    if (const int height = static_cast<const frame&>(bar).header_height; height > 0) at.height = height;
+    return at;
+}
+
 class painter {
 public:
     painter(const form& on, const control& shown, control_state now, look_settings with)
@@ -267,7 +274,7 @@ double painter::points(bool bold, int room) const {
 
 bool painter::on_bar() const {
     return std::ranges::any_of(form_.controls(), [this](const control* each) {
-        return each->role == theme_role::heading_bar && place_of(*each).contains(place_of(shown_));
+        return each->role == theme_role::heading_bar && bar_of(*each).contains(place_of(shown_));
     });
 }
 
@@ -364,11 +371,13 @@ void painter::paint_value(const label& shown) {
 // ---- panels, lists, pictures ----
 
 void painter::paint_frame(const frame& shown) {
-    if (shown.role == theme_role::heading_bar && form_.overlay)
-        return box({box_edge, box_edge, box_.width - 2 * box_edge, box_.height - box_edge}, panel_corner - box_edge,
-                   colours_.dark, none, 0, round_corners::top);
-    if (shown.role == theme_role::heading_bar) return box(box_, 0, colours_.dark);
-    if (form_.overlay) return box(box_, panel_corner, paper, ink, box_edge);
+    if (shown.role == theme_role::body) return; // takes clicks, and is not seen
+    if (shown.role == theme_role::heading_bar) {
+        if (shown.header_height == 0) return box(box_, 0, colours_.dark);
+        box(box_, panel_corner, paper);
+        box({0, 0, box_.width, shown.header_height}, panel_corner, colours_.dark, none, 0, round_corners::top);
+        return box(box_, panel_corner, none, form_.overlay ? ink : edge, form_.overlay ? box_edge : hairline);
+    }
     if (shown.role == theme_role::lesson) return box(box_, panel_corner, colours_.tint);
     if (!shown.caption.empty()) {
         box(box_, panel_corner, group, with_.high_contrast ? fill_colour(edge) : none);
@@ -654,7 +663,8 @@ scene full_face_of(const form& on, const control& shown, look_settings with) {
 backdrop backdrop_of(const form& of, look_settings with) {
     backdrop behind{with.high_contrast ? paper : ground, colours_of(of.about).dark, 0};
     for (const control* each : of.controls())
-        if (each->role == theme_role::heading_bar && each->visible) behind.bar_height = each->top + each->height;
+        if (each->role == theme_role::heading_bar && each->visible && each->top == 0 && !of.overlay)
+            behind.bar_height = bar_of(*each).bottom();
     return behind;
 }
 

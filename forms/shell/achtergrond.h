@@ -13,7 +13,7 @@ public:
 
     void Timer1_tick();
 
-    label naam, ondertitel;
+    label merk, naam, ondertitel;
     timer Timer1;
 
 protected:

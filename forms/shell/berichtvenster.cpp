@@ -38,9 +38,9 @@ berichtvenster::berichtvenster(outside& with, std::function<void(box_answer)> an
     using enum theme_role;
     overlay = true;
     width = 5400;
-    add(vlak, "vlak", {0, 0, width, 2460}, panel);
-    add(kopbalk, "kopbalk", {0, 0, width, band}, heading_bar);
-    add(opschrift, "opschrift", {180, 75, 5040, 420}, heading);
+    add(vlak, "vlak", {0, 0, width, 2460}, heading_bar);
+    vlak.header_height = band;
+    add(opschrift, "opschrift", {180, 105, 5040, 360}, heading);
     opschrift.mark = programmateken();
     opschrift.font_size = 11.25;
     add(tekst, "tekst", {text_left, text_top, width - 2 * text_left, 0}, prompt);

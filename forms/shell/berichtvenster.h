@@ -17,7 +17,7 @@ public:
     // Closing it answers what is safe: no, or that it was read.
     void close_requested() override { press(standaard()); }
 
-    frame vlak, kopbalk;
+    frame vlak;
     label opschrift, tekst;
     button ja, nee, ok;
 

@@ -8,31 +8,33 @@ namespace cijferwerf {
 codering::codering(outside& with, formulieren& forms) : form(with, "codering"), forms_(forms) {
     using enum theme_role;
     add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
-    add(opschriftbalk, "opschriftbalk", {240, 150, 6300, 420}, heading, program_name);
+    add(opschriftbalk, "opschriftbalk", {120, 120, 6300, 480}, heading, program_name);
     opschriftbalk.font_size = 15;
-    add(welkom, "welkom", {600, 1050, 11280, 700}, title, "Welkom!");
-    welkom.font_size = 24;
-    add(kies_label, "kies_label", {600, 1850, 11280, 400}, title, "Waarmee ga je vandaag rekenen?");
-    kies_label.font_size = 13;
+    opschriftbalk.mark = programmateken();
+    add(welkom, "welkom", {600, 1080, 11280, 720}, title, "Welkom!");
+    welkom.font_size = 28;
+    add(kies_label, "kies_label", {600, 1800, 11280, 405}, title, "Waarmee ga je vandaag rekenen?");
+    kies_label.font_size = 14;
+    kies_label.subdued = true;
 
-    add(CLgekozen, "CLgekozen", {900, 2500, 5100, 2500}, choice, std::string(booklet_set));
-    add(CL_label, "CL_label", {900, 5100, 5100, 360}, title, "Twaalf boekjes, elk met een eigen onderwerp.");
-    add(SWgekozen, "SWgekozen", {6480, 2500, 5100, 2500}, choice, std::string(task_set));
-    add(SW_label, "SW_label", {6480, 5100, 5100, 360}, title, "Twintig taken, met af en toe een herhaling.");
+    add(CLgekozen, "CLgekozen", {600, 2580, 5520, 3240}, choice, std::string(booklet_set));
+    add(SWgekozen, "SWgekozen", {6360, 2580, 5520, 3240}, choice, std::string(task_set));
+    CLgekozen.description = "Twaalf boekjes, elk met een eigen onderwerp.";
+    SWgekozen.description = "Twintig taken, met af en toe een herhaling.";
     for (option_button* set : {&CLgekozen, &SWgekozen}) {
-        set->font_size = 13;
+        set->font_size = 16;
         set->mark = merkteken(set->caption);
+        set->about = onderwerp(set->caption);
     }
-    CL_label.font_size = SW_label.font_size = 11;
     CLgekozen.keys = "1";
     SWgekozen.keys = "2";
 
-    add(verder, "verder", {5040, 6120, 2400, 600}, main_action, "verder");
-    verder.font_size = 13;
+    add(verder, "verder", {4890, 6330, 2700, 690}, main_action, "verder");
+    verder.font_size = 14;
     verder.keys = "\r";
     verder.mnemonic = 'v';
     verder.click = [this] { verder_click(); };
-    add(stoppen, "stoppen", {10980, 150, 1260, 420}, action, "stoppen");
+    add(stoppen, "stoppen", {11220, 150, 1140, 420}, action, "stoppen");
     stoppen.mnemonic = 'p';
     stoppen.click = [this] { stoppen_click(); };
 }

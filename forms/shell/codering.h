@@ -16,7 +16,7 @@ public:
     void stoppen_click() { forms_.vraag_of_stoppen(*this); }
 
     frame kopbalk;
-    label opschriftbalk, welkom, kies_label, CL_label, SW_label;
+    label opschriftbalk, welkom, kies_label;
     option_button CLgekozen, SWgekozen;
     button verder, stoppen;
 

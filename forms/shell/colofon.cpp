@@ -1,5 +1,6 @@
 #include "forms/shell/colofon.h"
 
+#include "forms/marks.h"
 #include "forms/shell/menu.h"
 
 namespace cijferwerf {
@@ -13,15 +14,25 @@ colofon::colofon(outside& with, formulieren& forms, std::string form_name, std::
     add(klik, "klik", {0, 0, width, height}, body);
     klik.keys = "\r\x1b";
     klik.accessible_name = "verder naar het menu";
-    add(titel, "titel", {600, 1700, 11280, 900}, title, std::string(set));
-    titel.font_size = 28;
+    add(kaart, "kaart", {3240, 900, 6000, 6000}, heading_bar);
+    kaart.header_height = 1950;
+    add(merk, "merk", {5640, 1275, 1200, 1200}, heading);
+    merk.mark = programmateken();
+    const auto line = [this](label& added, const std::string& of_name, int top, double points, std::string text) {
+        add(added, of_name, {3330, top, 5820, text_height(points)}, title, std::move(text));
+        added.font_size = points;
+    };
+    line(titel, "titel", 3075, 20, std::string(set));
+    constexpr int tops[]{3630, 4275, 4575, 6270};
     for (int i = 1; i <= lines; ++i) {
-        add(regels[i], "regels", {600, 2800 + (i - 1) * 450, 11280, 400}, title,
-            std::string(credits[static_cast<std::size_t>(i - 1)]));
+        const auto at = static_cast<std::size_t>(i - 1);
+        line(regels[i], "regels", tops[at], i == 1 ? 11.25 : 9.75, std::string(credits[at]));
         regels[i].index = i;
-        regels[i].font_size = 12;
+        regels[i].subdued = true;
     }
-    add(verder, "verder", {5040, 5600, 2400, 600}, main_action, "verder");
+    add(streep, "streep", {5640, 4082, 1200, 30}, heading_bar);
+    line(versie, "versie", 5010, 9.75, program_name + " " CIJFERWERF_VERSION "  -  " CIJFERWERF_YEAR);
+    add(verder, "verder", {5040, 5490, 2400, 630}, main_action, "verder");
     verder.font_size = 13;
     verder.mnemonic = 'v';
     klik.click = verder.click = [this] { klik_click(); };

@@ -18,7 +18,8 @@ public:
     virtual void klik_click() = 0;
 
     frame klik; // the whole screen
-    label titel;
+    frame kaart, streep;
+    label merk, titel, versie;
     control_array<label, 1, lines> regels;
     button verder; // does the same where no pointer is at hand
 

@@ -6,6 +6,21 @@
 
 namespace cijferwerf {
 
+namespace {
+
+// The words of a heading, as a small line of capitals over a name: "TAAK 4" and "Tijd", "HERHALING" and "Taak 1 t/m 4".
+std::pair<std::string, std::string> gesplitst(std::string_view heading) {
+    constexpr std::string_view dash = " - ";
+    const auto at = heading.find(dash);
+    const auto end = at == std::string_view::npos ? heading.find(' ') : at;
+    std::string name(heading.substr(end + (at == std::string_view::npos ? 1 : dash.size())));
+    for (std::size_t i = 1; i < name.size(); ++i)
+        if (name[i] >= 'A' && name[i] <= 'Z') name[i] = static_cast<char>(name[i] - 'A' + 'a');
+    return {std::string(heading.substr(0, end)), name};
+}
+
+} // namespace
+
 menu::menu(outside& with, formulieren& forms, std::string form_name, std::string_view set, std::string opschrift)
     : form(with, std::move(form_name)),
       forms_(forms),
@@ -13,10 +28,10 @@ menu::menu(outside& with, formulieren& forms, std::string form_name, std::string
     using enum theme_role;
     caption = set;
     add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
-    add(terug, "terug", {240, 150, 1260, 420}, action, "terug");
-    add(opschriftbalk, "opschriftbalk", {1740, 150, 6300, 420}, heading, std::move(opschrift));
+    add(terug, "terug", {120, 150, 1140, 420}, action, "terug");
+    add(opschriftbalk, "opschriftbalk", {1440, 150, 6300, 420}, heading, std::move(opschrift));
     opschriftbalk.font_size = 15;
-    add(stoppen, "stoppen", {10980, 150, 1260, 420}, action, "stoppen");
+    add(stoppen, "stoppen", {11220, 150, 1140, 420}, action, "stoppen");
     terug.keys = "\x1b";
     terug.mnemonic = 't';
     stoppen.mnemonic = 'p';
@@ -26,14 +41,14 @@ menu::menu(outside& with, formulieren& forms, std::string form_name, std::string
 
 void menu::leg_keuze_neer(button& entry, const std::string& array, int i, place at, double font_size) {
     const catalogue_list& shown = *lijst(i);
-    const bool review = shown.drawn();
-    std::string heading(shown.heading);
-    entry.accessible_name = heading;
-    if (const auto dash = heading.find(" - "); dash != std::string::npos) heading.replace(dash, 3, " -\r");
-    add(entry, array, at, review ? theme_role::action : theme_role::choice, heading);
+    add(entry, array, at, theme_role::choice, std::string(shown.heading));
+    const auto [number, name] = gesplitst(shown.heading);
+    entry.overline = number;
+    entry.headline = name;
     entry.font_size = font_size;
     entry.index = i;
     entry.mark = merkteken(shown.key);
+    entry.about = onderwerp(shown.key);
     entry.click = [this, i] { kies(i); };
 }
 
@@ -65,7 +80,7 @@ menucl::menucl(outside& with, formulieren& forms) : menu(with, forms, "menucl", 
     for (int i = 1; i <= 12; ++i) {
         const int row = (i - 1) / 3;
         const int column = (i - 1) % 3;
-        leg_keuze_neer(boekje[i], "boekje", i, {240 + column * 4050, 960 + row * 1680, 3900, 1560}, 10.5);
+        leg_keuze_neer(boekje[i], "boekje", i, {240 + column * 4050, 960 + row * 1680, 3900, 1560}, 14);
     }
 }
 
@@ -74,22 +89,15 @@ void menucl::bevestig_stoppen() { ask({"Wil je echt stoppen?", program_name, box
 // ---- the tasks ----
 
 menusw::menusw(outside& with, formulieren& forms) : menu(with, forms, "menusw", task_set, "Kies een taak") {
-    add(Frame1, "Frame1", {120, 870, 6060, 6810}, theme_role::panel, "DEEL 1");
-    add(Frame2, "Frame2", {6300, 870, 6060, 6810}, theme_role::panel, "DEEL 2");
+    add(Frame1, "Frame1", {120, 840, 12240, 3360}, theme_role::panel, "DEEL 1");
+    add(Frame2, "Frame2", {120, 4320, 12240, 3360}, theme_role::panel, "DEEL 2");
 
-    // In a frame: four tasks, two by two, and the review task under them over the full width; then the same again.
-    constexpr int rij = 1140;
-    constexpr int blok = 2 * rij + 900;
+    // In a frame two rows: four tasks, and the review of them.
     for (int i = 1; i <= 20; ++i) {
-        const int in_frame = (i - 1) % 10;
-        const int in_block = in_frame % 5;
-        const int left = (i <= 10 ? Frame1 : Frame2).left + 120;
-        const int top = Frame1.top + 330 + in_frame / 5 * (blok + 60);
-        if (in_block == 4)
-            leg_keuze_neer(plaatje[i], "plaatje", i, {left, top + 2 * rij, 5820, 840}, 9.75);
-        else
-            leg_keuze_neer(plaatje[i], "plaatje", i,
-                           {left + in_block % 2 * 2940, top + in_block / 2 * rij, 2880, rij - 60}, 8.25);
+        const int row = (i - 1) / 5 % 2, column = (i - 1) % 5;
+        const frame& around = i <= 10 ? Frame1 : Frame2;
+        leg_keuze_neer(plaatje[i], "plaatje", i, {270 + 2400 * column, around.top + 330 + 1500 * row, 2340, 1440},
+                       10.5);
     }
 }
 

@@ -153,6 +153,12 @@ TEST_F(events, a_key_that_is_held_presses_once) {
     EXPECT_EQ(screen.lijst.selected, 0);
     hold(Qt::Key_Down, {});
     EXPECT_EQ(screen.lijst.selected, 2) << "what moves goes on";
+
+    screen.on_knop = [this] { screen.with().ask(screen, {"even wachten"}, {}); };
+    widget("knop").setFocus();
+    hold(Qt::Key_Return, {});
+    EXPECT_NE(outside.box_page(), nullptr) << "a finger closed the box that it opened";
+    answer_box(outside, "OK");
 }
 
 TEST_F(events, the_tab_key_goes_through_the_controls_in_the_order_of_the_form) {
@@ -220,9 +226,13 @@ TEST_F(events, a_side_window_is_a_window_of_its_own) {
     try_out side(outside, "side");
     side.side_window = true;
     side.caption = "ernaast";
+    side.wanted_place = {3000, 750};
     outside.run([&] { side.show(); });
     ASSERT_NE(outside.page(side)->window(), outside.page(screen)->window());
     EXPECT_EQ(outside.page(side)->windowTitle(), "ernaast");
+    const form_page& main = *outside.page(screen);
+    EXPECT_EQ(outside.page(side)->frameGeometry().topLeft(), main.mapToGlobal(main.place_of({3000, 750})));
+    EXPECT_EQ(outside.page(side)->unit(), main.unit());
     EXPECT_TRUE(outside.page(screen)->isVisible());
     click(widget("knop"));
     EXPECT_EQ(screen.log, "knop ") << "the main window stays usable";
