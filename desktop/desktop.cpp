@@ -14,7 +14,6 @@
 #include <QScreen>
 #include <QStackedWidget>
 
-#include <cstdio>
 #include <utility>
 
 namespace cijferwerf {
@@ -132,13 +131,7 @@ private:
     form_page* box_ = nullptr;
 };
 
-desktop::desktop()
-    : window_(std::make_unique<main_window>(*this)),
-      gate_(steady_now),
-      box_(*this, [this](box_answer given) {
-          close_box();
-          guarded([&] { gate_.answer(given); });
-      }) {
+desktop::desktop() : front_end(steady_now), window_(std::make_unique<main_window>(*this)) {
     wake_up_.setSingleShot(true);
     wake_up_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&wake_up_, &QTimer::timeout, [this] { tick(); });
@@ -150,46 +143,13 @@ desktop::~desktop() {
 
 // ---- events ----
 
-template<class Event>
-void desktop::guarded(Event event) {
-    try {
-        event();
-    } catch (const std::exception& error) {
-        const std::string told = std::string("Het programma moet stoppen door een fout:\r\r") + error.what();
-        std::fprintf(stderr, "%s\n", error.what());
-        failed_ = true;
-        gate_.drop_boxes();
-        if (pages_.empty())
-            stop(1);
-        else
-            ask(pages_.back()->shown(), {told}, [this](box_answer) { stop(1); });
-    }
-}
-
-void desktop::run(const std::function<void()>& handler) {
-    if (failed_) return;
-    bool let_in = false;
-    guarded([&] { let_in = gate_.handle(handler); });
-    if (let_in || failed_) after_event();
-}
-
-void desktop::tick() {
-    guarded([&] { gate_.deliver_ticks(); });
-    after_event();
-}
-
-// Ticks that fall due while a handler runs come when it has returned.
-void desktop::after_event() {
-    if (!failed_ && (ended_ || (pages_.empty() && side_pages_.empty()))) return stop(0);
-    update_screen();
-    if (box_page_ == nullptr && gate_.open_box() != nullptr) open_box();
-    if (const auto wait = gate_.until_next_tick(); wait && !failed_)
-        wake_up_.start(*wait);
+void desktop::wake_in(std::optional<milliseconds> time) {
+    if (time)
+        wake_up_.start(*time);
     else
         wake_up_.stop();
 }
 
-// Also before the event loop has begun.
 void desktop::stop(int status) {
     QMetaObject::invokeMethod(
         qApp, [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
@@ -210,6 +170,11 @@ void desktop::close_top() {
 }
 
 // ---- forms ----
+
+form* desktop::top() const {
+    const auto& pages = pages_.empty() ? side_pages_ : pages_;
+    return pages.empty() ? nullptr : &pages.back()->shown();
+}
 
 form_page* desktop::page(const form& of) const {
     for (const auto* pages : {&pages_, &side_pages_})
@@ -281,24 +246,15 @@ void desktop::unload(form& gone) {
 
 // ---- message boxes ----
 
-void desktop::ask(form& over, message_box box, std::function<void(box_answer)> then) {
-    gate_.ask({&over, std::move(box), std::move(then)});
-}
-
-void desktop::open_box() {
-    const event_gate::question& asked = *gate_.open_box();
+void desktop::open_box(berichtvenster& box, const form& over) {
     std::vector<form_page*> seen = side_pages_;
     if (!pages_.empty()) seen.push_back(pages_.back());
-    const auto asking = std::ranges::find(seen, page(*asked.over));
+    const auto asking = std::ranges::find(seen, page(over));
     std::swap(seen.back(), asking == seen.end() ? seen.back() : *asking);
     for (form_page* each : seen) shades_.push_back(new shade(*each));
 
-    box_.leg_voor(asked.box);
-    const auto handle = [this](const auto& handler) {
-        handler();
-        after_event();
-    };
-    box_page_ = new form_page(box_, handle, shades_.back());
+    box_page_ = new form_page(
+        box, [this](const auto& handler) { run_in_box(handler); }, shades_.back());
     shades_.back()->carry(*box_page_);
     box_page_->update_widgets();
     box_page_->window()->activateWindow();

@@ -33,8 +33,8 @@ inline void type(const desktop& outside, const form& on, Qt::Key key, Qt::Keyboa
 // Presses the button with this caption of the message box that is open; the text of the box.
 inline std::string answer_box(const desktop& outside, const std::string& caption) {
     if (outside.box_page() == nullptr) throw std::runtime_error("no message box is open");
-    const std::string text = outside.box().tekst.caption;
-    QString name = QString::fromStdString(caption).toLower();
+    const std::string text = outside.box_page()->findChild<QLabel*>("tekst")->text().toStdString();
+    const QString name = QString::fromStdString(caption).toLower();
     click(*outside.box_page()->findChild<QWidget*>(name));
     return text;
 }
