@@ -5,9 +5,9 @@
 #include "globals/globalen.h"
 #include "runtime/form.h"
 
+#include <map>
 #include <memory>
 #include <typeindex>
-#include <unordered_map>
 
 namespace cijferwerf {
 
@@ -15,11 +15,11 @@ class formulieren {
 public:
     explicit formulieren(outside& with) : buiten(with) {}
 
-    // The program's one form of this class.
-    template<class Form>
-    Form& get() {
-        auto& kept = forms_[typeid(Form)];
-        if (!kept) kept = std::make_unique<Form>(buiten, *this);
+    // The program's one form of this class; of a class with several screens, the one with these numbers.
+    template<class Form, class... Numbers>
+    Form& get(Numbers... numbers) {
+        auto& kept = forms_[{typeid(Form), {numbers...}}];
+        if (!kept) kept = std::make_unique<Form>(buiten, *this, numbers...);
         return static_cast<Form&>(*kept);
     }
 
@@ -34,7 +34,7 @@ public:
     GLOBALEN globalen;
 
 private:
-    std::unordered_map<std::type_index, std::unique_ptr<form>> forms_;
+    std::map<std::pair<std::type_index, std::vector<int>>, std::unique_ptr<form>> forms_;
 };
 
 } // namespace cijferwerf

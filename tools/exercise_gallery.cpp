@@ -1,8 +1,10 @@
 // Writes what pupils see as pictures: the practice screen for each sub-variant of each exercise, as presented and
-// after its explanation. No display is needed.
+// after its explanation; or the introduction screens of all booklets. No display is needed.
 //
 //     exercise_gallery --out DIR [--generator NAME]... [--seed S] [--scale F]
+//     exercise_gallery --out DIR --introductions [--scale F]
 #include "desktop/desktop.h"
+#include "forms/introduction/infoscherm.h"
 #include "forms/practice/mama.h"
 #include "tools/arguments.h"
 
@@ -28,6 +30,7 @@ struct options {
     std::vector<oefening_id> generators; // empty: all that are written
     std::uint32_t seed = 1;
     double scale = 1;
+    bool introductions = false;
 };
 
 options read_options(arguments words) {
@@ -39,12 +42,16 @@ options read_options(arguments words) {
             chosen.generators.push_back(words.generator());
         else if (words.is("--seed"))
             chosen.seed = words.number<std::uint32_t>(0, 0xFFFFFFFF);
+        else if (words.is("--introductions"))
+            chosen.introductions = true;
         else if (words.is("--scale"))
             chosen.scale = words.number<double>(least_scale, most_scale);
         else
             words.unknown();
     }
     if (chosen.out.empty()) throw bad_usage{"--out DIR says where the pictures go"};
+    if (chosen.introductions && !chosen.generators.empty())
+        throw bad_usage{"--introductions and --generator do not go together"};
     return chosen;
 }
 
@@ -95,6 +102,16 @@ public:
         outside_.run([this] { screen_.Timer1.stop(); });
     }
 
+    // The screens of a booklet's introduction, each as it is when it is opened.
+    void write_introduction(int booklet) {
+        for (int number = 1; number <= infoscherm::aantal; ++number) {
+            auto& shown = forms_.get<infoscherm>(booklet, number);
+            outside_.run([&] { shown.toon_voor(booklet); });
+            resize(shown);
+            save(shown, QString::fromStdString(shown.name()));
+        }
+    }
+
 private:
     void open(const catalogue_list& list) {
         outside_.run([this, &list] {
@@ -105,21 +122,25 @@ private:
             screen_.open();
         });
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        const QSizeF size(screen_.width / 15.0, screen_.height / 15.0);
-        page().window()->setMinimumSize(1, 1);
-        page().window()->resize((size * chosen_.scale).toSize());
+        resize(screen_);
     }
 
-    form_page& page() { return *outside_.page(screen_); }
+    void resize(const form& shown) {
+        QWidget& window = *outside_.page(shown)->window();
+        window.setMinimumSize(1, 1);
+        window.resize((QSizeF(shown.width, shown.height) / 15 * chosen_.scale).toSize());
+    }
 
     void save(oefening_id generator, int variant, const char* moment) {
-        const QString file =
-            QString("%1_variant%2_%3.png")
-                .arg(QString::fromUtf8(naam(generator).data(), static_cast<qsizetype>(naam(generator).size())))
-                .arg(variant, 2, 10, QChar('0'))
-                .arg(moment);
-        if (!page().grab().save(folder_.filePath(file), "PNG"))
-            throw failure{"cannot write " + folder_.filePath(file).toStdString()};
+        save(screen_,
+             QString("%1_variant%2_%3")
+                 .arg(QString::fromUtf8(naam(generator).data(), static_cast<qsizetype>(naam(generator).size())))
+                 .arg(variant, 2, 10, QChar('0'))
+                 .arg(moment));
+    }
+    void save(const form& shown, const QString& name) {
+        const QString file = folder_.filePath(name + ".png");
+        if (!outside_.page(shown)->grab().save(file, "PNG")) throw failure{"cannot write " + file.toStdString()};
     }
 
     const options& chosen_;
@@ -141,13 +162,18 @@ int main(int argc, char** argv) {
 
         gallery pictures(chosen);
         for (const oefening_id generator : chosen.generators) pictures.write(generator, true);
-        if (chosen.generators.empty())
+        if (chosen.introductions) {
+            for (int booklet = 1; booklet <= 12; ++booklet)
+                if (const inleiding* found = zoek_inleiding(booklet); found != nullptr && found->boekje == booklet)
+                    pictures.write_introduction(booklet);
+        } else if (chosen.generators.empty())
             for (std::size_t id = 0; id < alle_oefeningen().size(); ++id)
                 pictures.write(static_cast<oefening_id>(id), false);
         return 0;
     } catch (const bad_usage& error) {
         std::cerr << "exercise_gallery: " << error.message << "\n"
-                  << "usage: exercise_gallery --out DIR [--generator NAME]... [--seed S] [--scale F]\n";
+                  << "usage: exercise_gallery --out DIR [--generator NAME]... [--seed S] [--scale F]\n"
+                  << "       exercise_gallery --out DIR --introductions [--scale F]\n";
         return 2;
     } catch (const failure& error) {
         std::cerr << "exercise_gallery: " << error.message << "\n";

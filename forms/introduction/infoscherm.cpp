@@ -8,143 +8,141 @@ namespace cijferwerf {
 
 namespace {
 
-struct inleiding {
-    int first_booklet, last_booklet;
-    std::string_view title;
-    std::string_view lines[infoscherm::lines];
-};
+constexpr place tekstkolom{480, 1080, 4950, 5430};
+constexpr place voorbeeldplaats{5850, 1080, voorbeeld::breedte, voorbeeld::hoogte};
+constexpr double tekst_punten = 13, kader_punten = 11.25;
 
-constexpr inleiding inleidingen[]{
-    {1,
-     1,
-     "Wat zijn procenten?",
-     {"Procent betekent: van de honderd. Dus 25 % is 25 van de 100, en dat is een kwart.",
-      "Je komt procenten overal tegen: bij korting in de winkel, bij rente en in de krant.", "",
-      "Vaak reken je eerst uit hoeveel 1 % is. Daarvoor deel je door 100.",
-      "Daarna vermenigvuldig je met het aantal procenten dat je zoekt.", "",
-      "Handig om te onthouden: 50 % is de helft, 25 % is een kwart en 10 % is een tiende."}},
-    {2,
-     2,
-     "Wat is een verhouding?",
-     {"Met een verhouding vergelijk je twee hoeveelheden, zoals 2 eieren op 3 bekers melk.",
-      "Neem je twee keer zoveel eieren, dan heb je ook twee keer zoveel melk nodig.", "",
-      "Een schaal is ook een verhouding. Bij schaal 1 : 100 is 1 cm op de tekening",
-      "in het echt 100 cm, en dat is 1 meter.", "",
-      "Tip: zet de getallen in een tabel. Dan zie je waarmee je moet vermenigvuldigen."}},
-    {3,
-     3,
-     "Wat is een breuk?",
-     {"Een breuk is een deel van een geheel. Eet je een kwart van een pizza,",
-      "dan verdeel je de pizza in 4 gelijke stukken en eet je er 1 op.", "",
-      "Het getal onder de streep heet de noemer: in hoeveel stukken is er verdeeld?",
-      "Het getal boven de streep heet de teller: hoeveel van die stukken neem je?", "",
-      "Wil je breuken optellen, maak de noemers dan eerst gelijk."}},
-    {4,
-     4,
-     "Getallen in beeld",
-     {"In een grafiek zie je in één oogopslag wat er met getallen gebeurt.",
-      "Er zijn verschillende soorten: staafgrafieken, lijngrafieken en cirkelgrafieken.", "",
-      "Kijk altijd eerst wat er bij de assen staat. Zijn het mensen, euro's of graden?",
-      "Kijk daarna hoeveel één streepje betekent: 1, 10 of misschien wel 1.000.", "",
-      "Lees dan pas af, en let goed op wat er precies gevraagd wordt."}},
-    {5,
-     5,
-     "Rekenen met geld",
-     {"In de winkel, op de markt en bij de bank: met geld reken je elke dag.",
-      "Achter de komma staan de centen. Eén euro is 100 cent.", "",
-      "Prijzen zijn vaak nét geen rond getal. Reken dan eerst met het ronde getal",
-      "en haal er daarna af wat je te veel hebt genomen.", "",
-      "Krijg je geld terug? Tel dan van de prijs verder tot het bedrag dat je gaf."}},
-    {6,
-     6,
-     "Rekenen met tijd",
-     {"Een dag heeft 24 uur, een uur heeft 60 minuten en een minuut heeft 60 seconden.",
-      "Bij tijd ga je dus niet bij 100 verder, maar bij 60. Pas daar goed voor op!", "",
-      "Een kwart uur is 15 minuten en een half uur is 30 minuten.",
-      "Op een digitale klok is half vier in de middag 15:30.", "",
-      "Tip: reken eerst tot het hele uur, en van daar weer verder."}},
-    {7,
-     8,
-     "Meten en meetkunde",
-     {"Hoe lang, hoe groot en hoe zwaar? Dat meet je met meters, liters en grammen.",
-      "Een meter is 100 centimeter, een liter is 10 deciliter, een kilo is 1.000 gram.", "",
-      "De omtrek is de lengte van de rand. De oppervlakte is het vlak erbinnen:",
-      "bij een rechthoek is dat lengte keer breedte. De inhoud van een doos is", "lengte keer breedte keer hoogte.",
-      "Let op de maten: reken ze eerst om, zodat ze gelijk zijn."}},
-    {9,
-     9,
-     "Rekenen uit je hoofd",
-     {"Met een slimme manier reken je in je hoofd sneller dan met een machine.",
-      "Kijk eerst goed naar de getallen, en begin dan pas te rekenen.", "",
-      "Splitsen helpt vaak: 7 x 24 is 7 x 20 en nog eens 7 x 4. Dat is 140 + 28 = 168.",
-      "Een rond getal in de buurt helpt ook: 99 erbij is 100 erbij en 1 eraf.", "",
-      "Ben je het spoor kwijt? Schrijf dan gerust een tussenstap op."}},
-    {10,
-     10,
-     "Ongeveer is soms genoeg",
-     {"Je hoeft niet altijd precies te weten hoeveel iets is.",
-      "Heb je genoeg geld bij je? Hoeveel mensen zitten er in de zaal? Dan schat je.", "",
-      "Maak van moeilijke getallen eerst mooie ronde getallen.",
-      "Zo wordt 398 + 205 ongeveer 400 + 200, en dat is 600.", "",
-      "Met schatten zie je ook of je antwoord van een andere som wel kan kloppen."}},
-    {11,
-     11,
-     "Wat weet je van getallen?",
-     {"Elk cijfer in een getal heeft zijn eigen plaats, en die plaats telt mee.",
-      "In 3.725 is de 3 drieduizend waard, de 7 zevenhonderd en de 2 twintig.", "",
-      "Ook achter de komma telt de plaats: eerst komen de tienden, dan de honderdsten.",
-      "Daarom is 0,5 meer dan 0,35, al heeft 0,35 meer cijfers.", "",
-      "Twijfel je welk getal groter is? Denk aan hun plek op de getallenlijn."}},
-    {12,
-     12,
-     "Sommen onder elkaar",
-     {"Grote sommen maak je gemakkelijker als je de getallen onder elkaar zet:",
-      "eenheden onder eenheden, tientallen onder tientallen, komma onder komma.", "",
-      "Begin rechts. Komt er 10 of meer uit, schrijf dan de eenheden op en onthoud de rest.",
-      "Bij aftrekken leen je er soms tien van het cijfer dat links ervan staat.", "",
-      "Schat tot slot of je antwoord kan kloppen. Zo haal je vergissingen eruit."}},
-};
+std::vector<std::string> breek_af(std::string_view tekst, double punten, int breedte) {
+    std::vector<std::string> regels;
+    while (!tekst.empty()) {
+        const std::size_t end = std::min(tekst.find(' '), tekst.size());
+        const std::string word(tekst.substr(0, end));
+        if (regels.empty() || text_width(regels.back() + ' ' + word, punten, 1.0) > breedte)
+            regels.push_back(word);
+        else
+            regels.back() += ' ' + word;
+        tekst.remove_prefix(std::min(end + 1, tekst.size()));
+    }
+    return regels;
+}
 
 } // namespace
 
-infoscherm::infoscherm(outside& with, formulieren& forms) : form(with, "infoscherm"), forms_(forms) {
+infoscherm::infoscherm(outside& with, formulieren& forms, int boekje, int nummer)
+    : form(with, "info" + std::to_string(nummer) + "_boekje" + std::to_string(zoek_inleiding(boekje)->boekje)),
+      forms_(forms),
+      inleiding_(*zoek_inleiding(boekje)),
+      nummer_(nummer),
+      les_((*inleiding_.lessen)[static_cast<std::size_t>(nummer - 1)]),
+      voorbeeld_(les_.voorbeeld_ervan()) {
     using enum theme_role;
     caption = booklet_set;
     add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
-    add(opschriftbalk, "opschriftbalk", {240, 150, 9000, 420}, heading);
+    add(terug, "terug", {120, 150, 1140, 420}, action, "terug");
+    add(opschriftbalk, "opschriftbalk", {2070, 150, 6300, 420}, heading);
     opschriftbalk.font_size = 15;
-    add(vlak, "vlak", {600, 960, 11280, 5760}, panel);
-    add(titel, "titel", {840, 1140, 6800, 1000}, prompt);
-    titel.font_size = 20;
-    add(plaatje, "plaatje", {7900, 1100, 3766, 1491}, picture);
-    for (int i = 1; i <= lines; ++i) {
-        add(regels[i], "regels", {840, 2850 + (i - 1) * 500, 10800, 420}, body);
-        regels[i].index = i;
-        regels[i].font_size = 13;
-    }
-    add(sommen_maken, "sommen_maken", {4740, 6960, 3000, 600}, main_action, "sommen maken");
-    sommen_maken.font_size = 13;
-    sommen_maken.keys = "\r\x1b";
-    sommen_maken.mnemonic = 's';
-    sommen_maken.click = [this] { sommen_maken_click(); };
+    leg_tekst_neer();
+    add(voorbeeldvlak, "voorbeeldvlak", voorbeeldplaats, lesson);
+    leg_voorbeeld_neer(false);
+
+    const std::string stippen[aantal]{"● ○ ○", "○ ● ○", "○ ○ ●"};
+    const std::string van_drie = std::to_string(nummer) + " van 3";
+    add(stand, "stand", {120, 7050, 3000, 420}, body, stippen[nummer - 1] + "   " + van_drie);
+    stand.accessible_name = van_drie;
+    stand.font_size = 12;
+    add(verder, "verder", {9660, 6960, 2700, 600}, main_action, nummer == aantal ? "sommen maken" : "verder");
+    verder.font_size = 14;
+    leg_voorbeeld_neer(true);
+
+    terug.keys = "\x1b";
+    terug.mnemonic = 't';
+    verder.keys = "\r";
+    verder.mnemonic = nummer == aantal ? 's' : 'v';
+    terug.click = [this] { terug_click(); };
+    verder.click = [this] { verder_click(); };
 }
 
-bool infoscherm::kies(int boekje) {
-    for (const inleiding& shown : inleidingen) {
-        if (boekje < shown.first_booklet || boekje > shown.last_booklet) continue;
-        const catalogue_list& list = catalogue()[static_cast<std::size_t>(boekje - 1)];
-        opschriftbalk.caption = list.heading;
-        titel.caption = shown.title;
-        static_cast<drawing&>(plaatje) = merkteken(list.key);
-        for (int i = 1; i <= lines; ++i) regels[i].caption = shown.lines[i - 1];
-        return true;
+// A paragraph is a few lines; half a line is left free between two.
+void infoscherm::leg_tekst_neer() {
+    using enum theme_role;
+    constexpr int regelhoogte = 350;
+    add(vlak, "vlak", {120, 840, 12240, 5970}, panel);
+    add(titel, "titel", {tekstkolom.left, tekstkolom.top, tekstkolom.width, 560}, lesson_title,
+        std::string(les_.titel));
+    titel.font_size = 22;
+    int used = 0;
+    for (int y = 1860; const std::string_view alinea : les_.alineas) {
+        for (std::string& regel : breek_af(alinea, tekst_punten, tekstkolom.width)) {
+            add(regels[++used], "regels", {tekstkolom.left, y, tekstkolom.width, regelhoogte}, lesson_text,
+                std::move(regel));
+            regels[used].index = used;
+            regels[used].font_size = tekst_punten;
+            y += regelhoogte;
+        }
+        y += regelhoogte / 2;
     }
-    return false;
+
+    add(kader, "kader", {tekstkolom.left, 5130, tekstkolom.width, 1380}, lesson);
+    add(kaderkop, "kaderkop", {tekstkolom.left + 240, 5280, tekstkolom.width - 480, 350}, lesson_word,
+        std::string(les_.kader.kop));
+    kaderkop.font_size = tekst_punten;
+    int shown = 0;
+    for (std::string& regel : breek_af(les_.kader.tekst, kader_punten, tekstkolom.width - 480)) {
+        label& line = kaderregels[++shown];
+        add(line, "kaderregels", {tekstkolom.left + 240, 5670 + (shown - 1) * 315, tekstkolom.width - 480, 315},
+            lesson_text, std::move(regel));
+        line.index = shown;
+        line.font_size = kader_punten;
+    }
 }
 
-void infoscherm::sommen_maken_click() {
-    forms_.get<mama>().show();
+// The cells come last: they lie over the drawing, and the keyboard reaches everything else before them.
+void infoscherm::leg_voorbeeld_neer(bool cellen) {
+    for (control* each : voorbeeld_->controls()) {
+        if ((each->role == theme_role::cell) != cellen) continue;
+        add(*each, each->name,
+            {voorbeeldplaats.left + each->left, voorbeeldplaats.top + each->top, each->width, each->height}, each->role,
+            each->caption);
+        if (each->click)
+            each->click = [this, answer = std::move(each->click)] {
+                answer();
+                announcement = voorbeeld_->zin();
+            };
+    }
+}
+
+void infoscherm::load() {
+    announcement = titel.caption + ".";
+    for (const label& line : regels)
+        if (!line.caption.empty()) announcement += ' ' + line.caption;
+    focus = &verder;
+    for (control* each : controls())
+        if (each->takes_clicks() && each->usable() && each != &terug) {
+            focus = each;
+            break;
+        }
+}
+
+void infoscherm::toon_voor(int boekje) {
+    boekje_ = boekje;
+    const catalogue_list& list = catalogue()[static_cast<std::size_t>(boekje - 1)];
+    opschriftbalk.caption = list.heading;
+    opschriftbalk.mark = merkteken(list.key);
+    about = onderwerp(list.key);
+    voorbeeld_->kleur_naar(about);
+    show();
+}
+
+void infoscherm::ga_naar(int nummer) {
+    if (nummer < 1 || nummer > aantal)
+        forms_.get<mama>().show();
+    else
+        forms_.get<infoscherm>(inleiding_.boekje, nummer).toon_voor(boekje_);
     unload();
+}
+
+void toon_inleiding(formulieren& forms, int boekje) {
+    if (const inleiding* found = zoek_inleiding(boekje)) forms.get<infoscherm>(found->boekje, 1).toon_voor(boekje);
 }
 
 } // namespace cijferwerf

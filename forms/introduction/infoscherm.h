@@ -1,35 +1,54 @@
-// The introduction to a booklet: a few sentences on its subject, and the way back to the practice screen.
-// Looking at it changes nothing on the practice screen.
+// An introduction screen of a booklet, one of three: a short lesson with an example that answers at once.
+// Its words and its example are its lesson's. Nothing that is done here changes the practice screen.
 #pragma once
 
 #include "forms/formulieren.h"
+#include "forms/introduction/les.h"
 
 namespace cijferwerf {
 
 class infoscherm : public form {
 public:
-    static constexpr int lines = 7;
+    static constexpr int aantal = 3, regels_hoogstens = 10;
 
-    infoscherm(outside& with, formulieren& forms);
+    // Number 1 to 3 of the set of a booklet that has one.
+    infoscherm(outside& with, formulieren& forms, int boekje, int nummer);
 
-    // Puts the texts of booklet 1 to 12 on the screen; 7 and 8 share them. False, and nothing changes, for any other.
-    bool kies(int boekje);
+    // Shows it under the heading of one of the booklets that share it.
+    void toon_voor(int boekje);
 
     void close_requested() override { forms_.vraag_of_stoppen(*this); }
 
-    void sommen_maken_click();
+    void verder_click() { ga_naar(nummer_ + 1); }
+    void terug_click() { ga_naar(nummer_ - 1); }
 
-    frame kopbalk, vlak;
-    label opschriftbalk, titel;
-    picture_box plaatje;
-    control_array<label, 1, lines> regels;
-    button sommen_maken;
+    voorbeeld& bij() { return *voorbeeld_; }
+    const les& lesje() const { return les_; }
+
+    frame kopbalk, vlak, kader, voorbeeldvlak;
+    label opschriftbalk, titel, kaderkop, stand;
+    control_array<label, 1, regels_hoogstens> regels;
+    control_array<label, 1, 2> kaderregels;
+    button terug, verder;
 
 protected:
-    void load() override { focus = &sommen_maken; }
+    void load() override;
 
 private:
+    void leg_tekst_neer();
+    void leg_voorbeeld_neer(bool cellen);
+    // Another screen of the set, or before the first and after the last the practice screen.
+    void ga_naar(int nummer);
+
     formulieren& forms_;
+    const inleiding& inleiding_;
+    const int nummer_;
+    const les& les_;
+    const std::unique_ptr<voorbeeld> voorbeeld_;
+    int boekje_ = 0; // that it was opened for
 };
+
+// Shows the first introduction screen of booklet 1 to 12; for any other nothing happens.
+void toon_inleiding(formulieren& forms, int boekje);
 
 } // namespace cijferwerf

@@ -303,8 +303,7 @@ void mama::info_click() {
     const std::string& heading = opschriftbalk.caption;
     if (heading.size() <= before_number) return;
     const auto boekje = static_cast<int>(lees_getal(std::string_view(heading).substr(before_number)));
-    auto& scherm = forms_.get<infoscherm>();
-    if (scherm.kies(boekje)) scherm.show();
+    toon_inleiding(forms_, boekje);
 }
 
 void mama::k_click(int key) {

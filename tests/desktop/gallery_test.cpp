@@ -72,6 +72,9 @@ TEST(exercise_gallery, says_what_is_wrong) {
         {{"--out", "x", "--seed", "1.5"}, 2, "--seed"},
         {{"--out", "x", "--scale", "0"}, 2, "--scale"},
         {{"--out", "x", "--scale", "nan"}, 2, "--scale"},
+        {{"--out", "x", "--introductions", "--generator", "L_rente"}, 2, "L_rente"},
+        {{"--out", "x", "--introductions", "--generator", "M_rente_01_08_click"}, 2, "do not go together"},
+        {{"--out", "/dev/null/x", "--introductions"}, 1, "/dev/null/x"},
         {{"--out", "/dev/null/x"}, 1, "/dev/null/x"},
     };
     for (const auto& call : calls) {

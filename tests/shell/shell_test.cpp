@@ -132,7 +132,7 @@ TEST_F(shell, closing_a_window_or_stopping_asks_first) {
     open_menu(booklet_set);
     std::vector<std::function<void()>> ways;
     for (form* each : std::initializer_list<form*>{&start, &cl, &sw, &screen, &forms.get<colofoncl>(),
-                                                   &forms.get<colofonsw>(), &forms.get<infoscherm>()})
+                                                   &forms.get<colofonsw>(), &forms.get<infoscherm>(1, 1)})
         ways.push_back([=, this] { pupil.close(*each); });
     for (button* each : {&start.stoppen, &cl.stoppen, &sw.stoppen}) ways.push_back([=, this] { pupil.click(*each); });
     for (const auto& way : ways)
@@ -224,53 +224,6 @@ TEST_F(shell, booklets_and_tasks_have_marks_of_their_own_and_reviews_share_one_a
     EXPECT_EQ(of_reviews.size(), 1U);
     EXPECT_FALSE(of_tasks.contains(*of_reviews.begin()));
     EXPECT_FALSE(of_booklets.contains({}) || of_tasks.contains({}) || of_reviews.contains({}));
-}
-
-// ---- the introductions ----
-
-TEST_F(shell, an_introduction_speaks_of_its_booklet_and_7_and_8_share_one) {
-    auto& info = forms.get<infoscherm>();
-    std::set<std::string> texts;
-    at_every_entry(cl, cl.boekje, [&](int i) {
-        ASSERT_TRUE(pupil.click(screen.info));
-        EXPECT_TRUE(info.loaded());
-        EXPECT_EQ(info.opschriftbalk.caption, screen.opschriftbalk.caption);
-        std::string text;
-        for (label& line : info.regels) {
-            EXPECT_LE(text_width(line.caption, line.font_size, 1.0), line.width) << line.caption;
-            text += line.caption;
-        }
-        EXPECT_EQ(texts.insert(text).second, i != 8);
-        pupil.click(info.sommen_maken);
-        EXPECT_FALSE(info.loaded());
-    });
-}
-
-TEST_F(shell, looking_at_the_introduction_leaves_score_and_exercise_as_they_are) {
-    open_menu(booklet_set);
-    pupil.click(cl.boekje[1]);
-    present("hele procenten");
-    answer_right();
-    explain();
-    const std::string asked = screen.vraag[2].caption;
-    const auto drawn = screen.plaatje.operations().size();
-    ASSERT_GT(drawn, 0U);
-
-    pupil.click(screen.info);
-    EXPECT_TRUE(screen.loaded());
-    pupil.press(forms.get<infoscherm>(), '\r');
-    EXPECT_EQ(globalen.aantalvragengedaan, 1);
-    EXPECT_EQ(screen.vraag[2].caption, asked);
-    EXPECT_EQ(screen.plaatje.operations().size(), drawn);
-    EXPECT_EQ(pupil.shown.back(), &screen);
-}
-
-TEST_F(shell, no_heading_but_a_booklets_opens_an_introduction) {
-    for (const char* heading : {"", "TAAK", "BOEKJE ", "BOEKJE 0", "BOEKJE 13", "TAAK 11 - MACHTSVERHEFFEN"}) {
-        screen.opschriftbalk.caption = heading;
-        screen.info_click();
-        EXPECT_FALSE(forms.get<infoscherm>().loaded()) << heading;
-    }
 }
 
 } // namespace

@@ -1,0 +1,16 @@
+#include "forms/introduction/les.h"
+
+#include <algorithm>
+
+namespace cijferwerf {
+
+const inleiding* zoek_inleiding(int boekje) {
+    static constexpr inleiding inleidingen[]{
+        {1, &les_procenten},
+    };
+    const int eerste = boekje == 8 ? 7 : boekje;
+    const auto found = std::ranges::find(inleidingen, eerste, &inleiding::boekje);
+    return found == std::end(inleidingen) ? nullptr : &*found;
+}
+
+} // namespace cijferwerf

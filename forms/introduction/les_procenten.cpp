@@ -1,0 +1,161 @@
+// Percentages: a hundred-square to fill, one per cent first, and the percentages worth knowing by heart.
+#include "forms/introduction/les.h"
+#include "generators/gedeeld/breuk.h"
+
+namespace cijferwerf {
+
+namespace {
+
+// "1/4", "0", "1".
+std::string kortste(breuk b) { return gemengd(b.vereenvoudigd()); }
+
+void druk(drawing& on, double punten, kleur met, int x, int y, std::string_view tekst) {
+    on.text_size = punten;
+    on.fore_colour = met;
+    on.print_at(x, y, tekst);
+}
+
+// A hundred squares of which some are filled, read in three ways.
+class honderdveld : public voorbeeld {
+public:
+    honderdveld() {
+        maak_blad(180, 90, 5820, 2);
+        stappen({180, 4740, 2790, 570}, 960, "hokjes", aantal_, 0, 100);
+        stappen({3210, 4740, 2790, 570}, 960, "per tien", aantal_, 0, 100, 10);
+        for (int n = 1; n <= 100; ++n)
+            cel("hokje", n, hokje(n), regel(kaal(n), " procent"), [this, n] { aantal_ = aantal_ == n ? n - 1 : n; });
+    }
+
+protected:
+    std::string toon() override {
+        for (int n = 1; n <= 100; ++n) {
+            const vlak at = hokje(n);
+            blad.filled_box(at.links, at.boven, at.breedte, at.hoogte, n <= aantal_ ? half : wit);
+            blad.box(at.links, at.boven, at.breedte, at.hoogte, donker);
+        }
+        const breuk deel{aantal_, 100};
+        const std::string procent = regel(kaal(aantal_), " %");
+        const std::string komma = regel(kaal(komma_kort(aantal_, 2)));
+        constexpr int x = 3960;
+        druk(blad, 28, donker, x, 230, procent);
+        druk(blad, 13, inkt, x, 860, "dat is");
+        blad.text_size = 24;
+        blad.fore_colour = donker;
+        const int end = teken_breuk(blad, x, 1530, 0, aantal_, 100);
+        if (deel.vereenvoudigbaar()) {
+            druk(blad, 18, inkt, end + 130, 1530 - halve_regel(18), "=");
+            blad.text_size = 18;
+            const breuk kort = deel.vereenvoudigd();
+            if (kort.noemer == 1)
+                blad.print_at(end + 420, 1530 - halve_regel(18), kaal(kort.teller));
+            else
+                teken_breuk(blad, end + 420, 1530, 0, kort.teller, kort.noemer);
+        }
+        druk(blad, 13, inkt, x, 2290, "en dat is");
+        druk(blad, 28, donker, x, 2620, komma);
+        return regel(kaal(aantal_), " van de 100 hokjes: ", procent, ", de breuk ", kortste(deel), ", het kommagetal ",
+                     komma, ".");
+    }
+
+private:
+    static vlak hokje(int n) {
+        constexpr int zijde = 370;
+        return {40 + (n - 1) % 10 * zijde, 280 + (n - 1) / 10 * zijde, zijde, zijde};
+    }
+
+    int aantal_ = 25;
+};
+
+// One per cent of an amount, and so many times that.
+class een_procent_eerst : public voorbeeld {
+public:
+    een_procent_eerst() {
+        maak_blad(180, 90, 5820, 2);
+        stappen({180, 4740, 2790, 570}, 960, "bedrag", honderd_euro_, 100, 900, 100);
+        stappen({3210, 4740, 2790, 570}, 960, "procent", procent_, 1, 100);
+    }
+
+protected:
+    std::string toon() override {
+        const int een = honderd_euro_ / 100;
+        const std::string bedrag = regel(kaal(euro(honderd_euro_ * 100LL)));
+        const std::string stukje = regel(kaal(euro(een * 100LL)));
+        const std::string deel = regel(kaal(euro(100LL * een * procent_)));
+        // The amount as a bar of a hundred parts.
+        constexpr int links = 190, breed = 5000, boven = 760, hoog = 620;
+        druk(blad, 13, inkt, links, boven - 400, regel("100 % is ", bedrag));
+        blad.filled_box(links, boven, breed, hoog, wit);
+        blad.filled_box(links, boven, breed * procent_ / 100, hoog, half);
+        for (int i = 1; i < 100; ++i)
+            blad.line(links + i * breed / 100, i % 10 == 0 ? boven : boven + hoog * 3 / 4, links + i * breed / 100,
+                      boven + hoog, donker);
+        blad.line_width = 3;
+        blad.box(links, boven, breed, hoog, donker);
+        blad.line_width = 1;
+        const std::string naam = regel(kaal(procent_), " %");
+        blad.text_size = 13;
+        blad.fore_colour = donker;
+        const int midden = links + breed * procent_ / 200;
+        blad.print_at(std::max(links, midden - text_width(naam, 13) / 2), boven + hoog + 60, naam);
+
+        const std::string rekenen[2][2]{{"1 %", regel(bedrag, " : 100 = ", stukje)},
+                                        {naam, regel(kaal(procent_), " x ", stukje, " = ", deel)}};
+        for (int i = 0; i < 2; ++i) {
+            const int y = 2330 + i * 900;
+            druk(blad, 22, donker, links, y, rekenen[i][0]);
+            druk(blad, 22, inkt, links + 1300, y, rekenen[i][1]);
+        }
+        return regel("1 % van ", bedrag, " is ", stukje, ". ", naam, " is ", deel, ".");
+    }
+
+private:
+    int honderd_euro_ = 300, procent_ = 7;
+};
+
+// Bars under one another: half, a quarter, a fifth, a tenth.
+std::string handige_procenten(drawing& on) {
+    std::string zin;
+    constexpr int delen[]{2, 4, 5, 10};
+    for (int i = 0; const int n : delen) {
+        const int y = 170 + i++ * 1070;
+        constexpr int links = 130, breed = 3100, hoog = 720;
+        on.filled_box(links, y, breed, hoog, wit);
+        on.filled_box(links, y, breed / n, hoog, half);
+        on.line_width = 2;
+        for (int k = 1; k < n; ++k) on.line(links + k * breed / n, y, links + k * breed / n, y + hoog, donker);
+        on.line_width = 3;
+        on.box(links, y, breed, hoog, donker);
+        on.line_width = 2;
+        const std::string procent = regel(kaal(100 / n), " %");
+        druk(on, 24, donker, 3480, y + hoog / 2 - halve_regel(24), procent);
+        druk(on, 18, inkt, 4500, y + hoog / 2 - halve_regel(18), "=");
+        on.text_size = 20;
+        teken_breuk(on, 4830, y + hoog / 2, 0, 1, n);
+        zin += regel(procent, " is 1/", kaal(n), ". ");
+    }
+    zin.pop_back();
+    return zin;
+}
+
+} // namespace
+
+const lesreeks les_procenten{{
+    {"Wat is een procent?",
+     {"Procent betekent: van de honderd.", "Dit veld heeft 100 hokjes. Eén hokje is 1 procent. Je schrijft: 1 %.",
+      "Zo is 25 % hetzelfde als 25 van de 100. Dat is een kwart."},
+     {probeer, "Klik op een hokje, of druk op - en +. Wat staat er rechts?"},
+     nieuw<honderdveld>},
+    {"Neem eerst 1 %",
+     {"Hoeveel is 7 % van € 300,-?", "Neem eerst 1 %. Daarvoor deel je door 100.",
+      "Vermenigvuldig daarna met het aantal procenten."},
+     {probeer, "Verander het bedrag en het aantal procenten. Wat blijft hetzelfde in de som?"},
+     nieuw<een_procent_eerst>},
+    {"Handige procenten",
+     {"Sommige procenten ken je al als breuk.",
+      "50 % is de helft. 25 % is een kwart. 20 % is een vijfde deel. 10 % is een tiende deel.",
+      "Dan hoef je niet eerst 1 % te nemen."},
+     {onthoud, "10 % nemen is delen door 10. 1 % nemen is delen door 100."},
+     nieuw<prent<handige_procenten>>},
+}};
+
+} // namespace cijferwerf

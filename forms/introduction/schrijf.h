@@ -1,0 +1,23 @@
+// Words and boxes on the drawing of an example, with their size and colours in one call.
+// Where they stand, and what they say, is the example's.
+#pragma once
+
+#include "generators/gedeeld/tekening.h"
+
+namespace cijferwerf {
+
+// How a text is set: in points, in this colour.
+struct schrift {
+    double punten;
+    kleur met;
+};
+
+// The text's top left, or top right, is at the point, or its middle; the first returns its right end.
+int schrijf(drawing& on, schrift in, point linksboven, std::string_view tekst);
+void schrijf_midden(drawing& on, schrift in, point midden, std::string_view tekst);
+void schrijf_rechts(drawing& on, schrift in, point rechtsboven, std::string_view tekst);
+
+// A box with an edge, so many pixels wide.
+void teken_vak(drawing& on, const vlak& waar, kleur vulling, kleur rand, int dikte = 2);
+
+} // namespace cijferwerf
