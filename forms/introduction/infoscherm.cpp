@@ -4,6 +4,8 @@
 #include "forms/practice/catalogue.h"
 #include "forms/practice/mama.h"
 
+#include <cctype>
+
 namespace cijferwerf {
 
 namespace {
@@ -12,16 +14,22 @@ constexpr place tekstkolom{480, 1080, 4950, 5430};
 constexpr place voorbeeldplaats{5850, 1080, voorbeeld::breedte, voorbeeld::hoogte};
 constexpr double tekst_punten = 13, kader_punten = 11.25;
 
+// In lines of at most this width. A number stays on one line with what it counts.
 std::vector<std::string> breek_af(std::string_view tekst, double punten, int breedte) {
     std::vector<std::string> regels;
+    bool tied = false;
+    std::string part;
     while (!tekst.empty()) {
         const std::size_t end = std::min(tekst.find(' '), tekst.size());
-        const std::string word(tekst.substr(0, end));
-        if (regels.empty() || text_width(regels.back() + ' ' + word, punten, 1.0) > breedte)
-            regels.push_back(word);
-        else
-            regels.back() += ' ' + word;
+        part += (tied ? " " : "") + std::string(tekst.substr(0, end));
         tekst.remove_prefix(std::min(end + 1, tekst.size()));
+        tied = !tekst.empty() && (std::isdigit(static_cast<unsigned char>(part.back())) != 0 || part.ends_with("€"));
+        if (tied) continue;
+        if (regels.empty() || text_width(regels.back() + ' ' + part, punten, 1.0) > breedte)
+            regels.push_back(part);
+        else
+            regels.back() += ' ' + part;
+        part.clear();
     }
     return regels;
 }

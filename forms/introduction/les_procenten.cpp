@@ -20,8 +20,8 @@ class honderdveld : public voorbeeld {
 public:
     honderdveld() {
         maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 960, "hokjes", aantal_, 0, 100);
-        stappen({3210, 4740, 2790, 570}, 960, "per tien", aantal_, 0, 100, 10);
+        stappen({180, 4740, 2790, 570}, 1020, "hokjes", aantal_, 0, 100);
+        stappen({3210, 4740, 2790, 570}, 1020, "per tien", aantal_, 0, 100, 10);
         for (int n = 1; n <= 100; ++n)
             cel("hokje", n, hokje(n), regel(kaal(n), " procent"), [this, n] { aantal_ = aantal_ == n ? n - 1 : n; });
     }
@@ -37,19 +37,19 @@ protected:
         const std::string procent = regel(kaal(aantal_), " %");
         const std::string komma = regel(kaal(komma_kort(aantal_, 2)));
         constexpr int x = 3960;
-        druk(blad, 28, donker, x, 230, procent);
-        druk(blad, 13, inkt, x, 860, "dat is");
+        druk(blad, 28, donker, x, 150, procent);
+        druk(blad, 13, inkt, x, 790, "dat is");
         blad.text_size = 24;
         blad.fore_colour = donker;
-        const int end = teken_breuk(blad, x, 1530, 0, aantal_, 100);
+        const int end = teken_breuk(blad, x, 1590, 0, aantal_, 100);
         if (deel.vereenvoudigbaar()) {
-            druk(blad, 18, inkt, end + 130, 1530 - halve_regel(18), "=");
+            druk(blad, 18, inkt, end + 130, 1590 - halve_regel(18), "=");
             blad.text_size = 18;
             const breuk kort = deel.vereenvoudigd();
             if (kort.noemer == 1)
-                blad.print_at(end + 420, 1530 - halve_regel(18), kaal(kort.teller));
+                blad.print_at(end + 420, 1590 - halve_regel(18), kaal(kort.teller));
             else
-                teken_breuk(blad, end + 420, 1530, 0, kort.teller, kort.noemer);
+                teken_breuk(blad, end + 420, 1590, 0, kort.teller, kort.noemer);
         }
         druk(blad, 13, inkt, x, 2290, "en dat is");
         druk(blad, 28, donker, x, 2620, komma);
@@ -71,8 +71,8 @@ class een_procent_eerst : public voorbeeld {
 public:
     een_procent_eerst() {
         maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 960, "bedrag", honderd_euro_, 100, 900, 100);
-        stappen({3210, 4740, 2790, 570}, 960, "procent", procent_, 1, 100);
+        stappen({180, 4740, 2790, 570}, 1020, "bedrag", honderd_euro_, 100, 900, 100);
+        stappen({3210, 4740, 2790, 570}, 1020, "procent", procent_, 1, 100);
     }
 
 protected:
@@ -152,7 +152,7 @@ const lesreeks les_procenten{{
      nieuw<een_procent_eerst>},
     {"Handige procenten",
      {"Sommige procenten ken je al als breuk.",
-      "50 % is de helft. 25 % is een kwart. 20 % is een vijfde deel. 10 % is een tiende deel.",
+      "50 % is de helft, 25 % is een kwart, 20 % is een vijfde en 10 % is een tiende.",
       "Dan hoef je niet eerst 1 % te nemen."},
      {onthoud, "10 % nemen is delen door 10. 1 % nemen is delen door 100."},
      nieuw<prent<handige_procenten>>},

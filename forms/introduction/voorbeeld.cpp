@@ -185,7 +185,7 @@ voorbeeld::stapper& voorbeeld::stappen(place waar, int naam_breedte, std::string
     stapper& made = stappers_.emplace_back(&waarde, van, tot, stap, nullptr, nullptr, nullptr);
     const int links = waar.left + naam_breedte;
     const int plus = waar.left + waar.width - stap_zijde;
-    if (naam_breedte > 0) woorden({waar.left, waar.top, naam_breedte, stap_zijde}, 13, theme_role::lesson_word, naam);
+    if (naam_breedte > 0) woorden({waar.left, waar.top, naam_breedte, stap_zijde}, 12, theme_role::lesson_word, naam);
     const auto maak = [&](int x, button::sign face, const char* richting, int verschil) {
         button* pressed =
             &knop("stap " + naam, {x, waar.top, stap_zijde, stap_zijde}, theme_role::stepper, naam + richting,
