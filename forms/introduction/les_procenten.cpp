@@ -36,20 +36,20 @@ protected:
         const breuk deel{aantal_, 100};
         const std::string procent = regel(kaal(aantal_), " %");
         const std::string komma = regel(kaal(komma_kort(aantal_, 2)));
-        constexpr int x = 3960;
+        constexpr int x = 3720;
         druk(blad, 28, donker, x, 150, procent);
         druk(blad, 13, inkt, x, 790, "dat is");
-        blad.text_size = 24;
+        blad.text_size = 20;
         blad.fore_colour = donker;
         const int end = teken_breuk(blad, x, 1590, 0, aantal_, 100);
         if (deel.vereenvoudigbaar()) {
-            druk(blad, 18, inkt, end + 130, 1590 - halve_regel(18), "=");
+            druk(blad, 18, inkt, end + 120, 1590 - halve_regel(18), "=");
             blad.text_size = 18;
             const breuk kort = deel.vereenvoudigd();
             if (kort.noemer == 1)
-                blad.print_at(end + 420, 1590 - halve_regel(18), kaal(kort.teller));
+                blad.print_at(end + 390, 1590 - halve_regel(18), kaal(kort.teller));
             else
-                teken_breuk(blad, end + 420, 1590, 0, kort.teller, kort.noemer);
+                teken_breuk(blad, end + 390, 1590, 0, kort.teller, kort.noemer);
         }
         druk(blad, 13, inkt, x, 2290, "en dat is");
         druk(blad, 28, donker, x, 2620, komma);
@@ -59,8 +59,8 @@ protected:
 
 private:
     static vlak hokje(int n) {
-        constexpr int zijde = 370;
-        return {40 + (n - 1) % 10 * zijde, 280 + (n - 1) / 10 * zijde, zijde, zijde};
+        constexpr int zijde = 350;
+        return {60 + (n - 1) % 10 * zijde, 280 + (n - 1) / 10 * zijde, zijde, zijde};
     }
 
     int aantal_ = 25;
@@ -152,7 +152,7 @@ const lesreeks les_procenten{{
      nieuw<een_procent_eerst>},
     {"Handige procenten",
      {"Sommige procenten ken je al als breuk.",
-      "50 % is de helft, 25 % is een kwart, 20 % is een vijfde en 10 % is een tiende.",
+      "50 % is de helft, 25 % is een kwart, 20 % een vijfde en 10 % een tiende.",
       "Dan hoef je niet eerst 1 % te nemen."},
      {onthoud, "10 % nemen is delen door 10. 1 % nemen is delen door 100."},
      nieuw<prent<handige_procenten>>},
