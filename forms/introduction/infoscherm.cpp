@@ -11,7 +11,7 @@ namespace cijferwerf {
 namespace {
 
 constexpr place tekstkolom{480, 1080, 4950, 5430};
-constexpr place voorbeeldplaats{5850, 1080, voorbeeld::breedte, voorbeeld::hoogte};
+constexpr place voorbeeldplaats{5850, 1080, voorbeeld::paneel_breedte, voorbeeld::paneel_hoogte};
 constexpr double tekst_punten = 13, kader_punten = 11.25;
 
 // In lines of at most this width. A number stays on one line with what it counts.
@@ -47,6 +47,7 @@ infoscherm::infoscherm(outside& with, formulieren& forms, int boekje, int nummer
     caption = booklet_set;
     add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
     add(terug, "terug", {120, 150, 1140, 420}, action, "terug");
+    add(merk, "merk", {1440, 120, 480, 480}, heading);
     add(opschriftbalk, "opschriftbalk", {2070, 150, 6300, 420}, heading);
     opschriftbalk.font_size = 15;
     leg_tekst_neer();
@@ -135,7 +136,7 @@ void infoscherm::toon_voor(int boekje) {
     boekje_ = boekje;
     const catalogue_list& list = catalogue()[static_cast<std::size_t>(boekje - 1)];
     opschriftbalk.caption = list.heading;
-    opschriftbalk.mark = merkteken(list.key);
+    merk.mark = merkteken(list.key);
     about = onderwerp(list.key);
     voorbeeld_->kleur_naar(about);
     show();

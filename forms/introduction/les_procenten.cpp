@@ -71,7 +71,7 @@ class een_procent_eerst : public voorbeeld {
 public:
     een_procent_eerst() {
         maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 1020, "bedrag", honderd_euro_, 100, 900, 100);
+        stappen({180, 4740, 2790, 570}, 960, "bedrag", honderd_euro_, 100, 900, 100);
         stappen({3210, 4740, 2790, 570}, 1020, "procent", procent_, 1, 100);
     }
 

@@ -17,7 +17,7 @@ const kleurtabel& voorbeeldkleuren(subject about);
 class voorbeeld {
 public:
     // Of the panel, in twips. All places here are counted from its top-left corner.
-    static constexpr int breedte = 6180, hoogte = 5430;
+    static constexpr int paneel_breedte = 6180, paneel_hoogte = 5430;
 
     voorbeeld() = default;
     voorbeeld(const voorbeeld&) = delete;

@@ -1,4 +1,5 @@
 // Where the controls of the practice screen stand, and the keys of its calculator.
+#include "calculator/toetsen.h"
 #include "forms/practice/layout.h"
 #include "forms/practice/mama.h"
 
@@ -6,33 +7,6 @@ namespace cijferwerf {
 
 namespace {
 
-// The keys of the calculator by index: face, keys of the keyboard, and what a screen reader says.
-struct toets {
-    std::string_view face, keys, spoken;
-};
-constexpr toets toetsen[calculator::keys]{
-    {"0", "0", ""},
-    {"1", "1", ""},
-    {"2", "2", ""},
-    {"3", "3", ""},
-    {"4", "4", ""},
-    {"5", "5", ""},
-    {"6", "6", ""},
-    {"7", "7", ""},
-    {"8", "8", ""},
-    {"9", "9", ""},
-    {",", ",.", "komma"},
-    {"C", "C\x1b", "wis invoer"},
-    {"AC", "\x7f", "wis alles"},
-    {"+", "+", "plus"},
-    {"-", "-", "min"},
-    {"x", "*X", "keer"},
-    {"/", "/:", "gedeeld door"},
-    {"M+", "M", "in geheugen optellen"},
-    {"MR", "R", "geheugen"},
-    {"%", "%", "procent"},
-    {"=", "=\r", "is"},
-};
 constexpr int toetsenbord[3][7]{
     {7, 8, 9, 16, 19, 17, 18},
     {4, 5, 6, 15, 14, 11, 12},
@@ -120,11 +94,11 @@ void mama::leg_toetsen_neer() {
     for (int row = 0; row < 3; ++row)
         for (int column = 0; column < 7; ++column) {
             const int i = toetsenbord[row][column];
-            add(k[i], "k", {6935 + column * 742, 3795 + row * 405, 718, 360}, i <= 10 ? key : operator_key,
-                std::string(toetsen[i].face));
-            k[i].keys = toetsen[i].keys;
+            add(k[i], "k", {6935 + column * 742, 3795 + row * 405, 718, 360}, is_cijfertoets(i) ? key : operator_key,
+                std::string(rekentoetsen[i].face));
+            k[i].keys = rekentoetsen[i].keys;
             k[i].keeps_enter = false; // Enter is "=" on every key
-            k[i].accessible_name = toetsen[i].spoken;
+            k[i].accessible_name = rekentoetsen[i].spoken;
             k[i].click = [this, i] { k_click(i); };
         }
 }

@@ -4,6 +4,7 @@
 #include "tests/support/ink.h"
 #include "tests/support/operation_text.h"
 #include "tests/support/practising.h"
+#include "tests/support/sums.h"
 
 #include <set>
 
@@ -79,7 +80,7 @@ TEST_F(introduction, leads_through_three_screens_and_back_and_leaves_the_practic
             };
             const auto go = [&](int from, bool on) {
                 infoscherm& shown = page(booklet, from);
-                EXPECT_TRUE(keyboard ? pupil.press(shown, on ? '\r' : '\x1b')
+                EXPECT_TRUE(keyboard ? shown.key(on ? '\r' : '\x1b', on ? &shown.verder : nullptr)
                                      : pupil.click(on ? shown.verder : shown.terug));
             };
             pupil.click(screen.info);
@@ -147,6 +148,28 @@ TEST_F(introduction, has_controls_that_can_be_reached) {
     });
 }
 
+// The sums that it writes out hold, and each number of its sentence is to be read on the panel too.
+void check_numbers(infoscherm& on) {
+    std::string read;
+    for (const drawing_op& op : on.bij().getekend().operations())
+        if (const auto* text = std::get_if<text_op>(&op)) {
+            for (const std::string& wrong : check_sums(text->text).wrong) ADD_FAILURE() << wrong;
+            read += ' ' + text->text + ' ';
+        }
+    for (const control* each : on.bij().controls()) read += ' ' + each->caption + ' ';
+    const std::string& sentence = on.bij().zin();
+    for (const std::string& wrong : check_sums(sentence).wrong) ADD_FAILURE() << wrong;
+    const std::string digits = "0123456789";
+    for (std::size_t at = sentence.find_first_of(digits); at != std::string::npos;
+         at = sentence.find_first_of(digits, at)) {
+        const std::size_t end = std::min(sentence.find_first_not_of(digits + ".,", at), sentence.size());
+        std::string number = sentence.substr(at, end - at);
+        while (number.back() == '.' || number.back() == ',') number.pop_back();
+        EXPECT_NE(read.find(number), std::string::npos) << number << " of: " << sentence;
+        at = end;
+    }
+}
+
 // Each control is pressed until it gives up, or forty times; what a press did, its opposite undoes.
 TEST_F(introduction, has_examples_that_answer_to_each_control_and_stay_legible) {
     on_every_page([&](infoscherm& shown, int) {
@@ -167,6 +190,7 @@ TEST_F(introduction, has_examples_that_answer_to_each_control_and_stay_legible) 
                 EXPECT_LE(bold_text_width(each->caption, each->font_size), each->width) << each->caption;
             }
             EXPECT_FALSE(shown.bij().zin().empty());
+            check_numbers(shown);
         };
         check();
         for (control* each : shown.bij().controls()) {
