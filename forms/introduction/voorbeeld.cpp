@@ -119,7 +119,8 @@ void voorbeeld::verdeel_over_stroken() {
         shown.ground = blad.ground;
         shown.colours = blad.colours;
         for (const drawing_op& op : blad.operations()) std::visit(strook{shown, up}, op);
-        shown.description = zin_;
+        // Read as one picture, by its sentence.
+        shown.spoken = {{0, shown.operations().size(), up == 0 ? zin_ : ""}};
         up += drawing::inner_height;
     }
 }
