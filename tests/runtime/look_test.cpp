@@ -47,7 +47,7 @@ struct screens : testing::Test {
                &forms.get<menucl>(),
                &forms.get<colofoncl>(),
                &forms.get<scoreblad>(),
-               &forms.get<infoscherm>()};
+               &forms.get<infoscherm>(3, 2)};
     }
 
     void look_at(const form& shown, control_state now, look_settings with) {
