@@ -36,4 +36,18 @@ void teken_vak(drawing& on, const vlak& waar, kleur vulling, kleur rand, int dik
     on.box(waar.links, waar.boven, waar.breedte, waar.hoogte, rand);
 }
 
+void teken_sprong(drawing& on, int van, int naar, int y, int hoogte, schrift in, std::string_view tekst) {
+    constexpr int stukjes = 24, punt = 90;
+    const zelfde_stand bewaard(on, 3);
+    const point midden{(van + naar) / 2, y};
+    const double straal = (naar - van) / 2.0;
+    const auto op_boog = [&](int i) {
+        const point op = op_cirkel({0, 0}, 1000, 180.0 - 180.0 * i / stukjes);
+        return point{midden.x + static_cast<int>(straal * op.x / 1000), y + hoogte * op.y / 1000};
+    };
+    for (int i = 0; i < stukjes; ++i) on.line(op_boog(i).x, op_boog(i).y, op_boog(i + 1).x, op_boog(i + 1).y, in.met);
+    on.polygon({{naar, y}, {naar - punt / 2, y - punt}, {naar + punt / 2, y - punt}}, in.met, true);
+    schrijf_midden(on, in, {midden.x, y - hoogte - 60 - halve_regel(in.punten)}, tekst);
+}
+
 } // namespace cijferwerf

@@ -20,4 +20,7 @@ void schrijf_rechts(drawing& on, schrift in, point rechtsboven, std::string_view
 // A box with an edge, so many pixels wide.
 void teken_vak(drawing& on, const vlak& waar, kleur vulling, kleur rand, int dikte = 2);
 
+// A jump along a line from one x to another, over so much height, with its words on top.
+void teken_sprong(drawing& on, int van, int naar, int y, int hoogte, schrift in, std::string_view tekst);
+
 } // namespace cijferwerf

@@ -14,6 +14,7 @@ constexpr kleurtabel kleuren_bij(const subject_colours& about) {
     colours[donker] = about.dark;
     colours[half] = about.mid;
     colours[licht] = about.tint;
+    colours[blauw] = 0x2F66C9;
     colours[groen] = 0x17703A;
     colours[rood] = 0xA8261F;
     colours[geel] = 0xF3CE5E;
@@ -90,7 +91,7 @@ void voorbeeld::ververs() {
     zin_ = toon();
     verdeel_over_stroken();
     for (const stapper& each : stappers_) {
-        each.getal->caption = std::to_string(*each.waarde);
+        each.getal->caption = each.vorm != nullptr ? each.vorm(*each.waarde) : std::to_string(*each.waarde);
         each.min->enabled = *each.waarde > each.van;
         each.plus->enabled = *each.waarde < each.tot;
         each.min->description = each.plus->description = each.getal->caption;

@@ -11,7 +11,7 @@ namespace cijferwerf {
 
 // What the palette's indices mean in the drawing of an example: the colours of its subject. Green, red, yellow and the
 // greys are toned down to go with them, and black is ink; the others are what they are everywhere.
-inline constexpr kleur inkt = zwart, donker = donkerblauw, half = blauw, licht = lichtcyaan;
+inline constexpr kleur inkt = zwart, donker = donkerblauw, half = paars, licht = lichtcyaan;
 const kleurtabel& voorbeeldkleuren(subject about);
 
 class voorbeeld {
@@ -40,6 +40,7 @@ protected:
         int van, tot, stap;
         button *min, *plus;
         label* getal;
+        std::string (*vorm)(int) = nullptr; // how the value is written, where not as a whole number
     };
 
     // Puts the state into words, labels and the drawing, which is empty; returns the sentence. A stepper's `van` and
