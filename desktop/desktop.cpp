@@ -88,7 +88,6 @@ private:
 class desktop::shade : public QWidget {
 public:
     explicit shade(form_page& over) : QWidget(&over), had_focus_(over.focusWidget()) {
-        setFocusPolicy(Qt::StrongFocus);
         over.installEventFilter(this);
         setGeometry(over.rect());
         show();

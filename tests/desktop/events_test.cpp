@@ -98,7 +98,7 @@ TEST_F(events, a_message_box_lets_nothing_through_but_its_answer) {
         ASSERT_NE(outside.box_page(), nullptr);
         QTest::qWait(80);
         form_page* page = outside.page(screen);
-        EXPECT_NE(page->childAt(widget("uitgang").geometry().center()), &widget("uitgang"));
+        click(*page->childAt(widget("uitgang").geometry().center())); // beside the box
         widget<QPushButton>("uitgang").click();
         type(outside, screen, Qt::Key_K); // the button's, while no box is open
         for (int tabs = 0; tabs < 4; ++tabs) {
