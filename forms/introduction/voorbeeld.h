@@ -9,8 +9,8 @@
 
 namespace cijferwerf {
 
-// What the palette's indices mean in the drawing of an example: the colours of its subject. Green, red, yellow and the
-// greys are toned down to go with them, and black is ink; the others are what they are everywhere.
+// What the palette's indices mean in the drawing of an example: the colours of its subject. Blue, green, red, yellow
+// and the greys are toned down to go with them, and black is ink; the others are what they are everywhere.
 inline constexpr kleur inkt = zwart, donker = donkerblauw, half = paars, licht = lichtcyaan;
 const kleurtabel& voorbeeldkleuren(subject about);
 
