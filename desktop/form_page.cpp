@@ -117,6 +117,10 @@ void form_page::make_widget(control& shown) {
 
 void form_page::update_widgets() {
     updating_ = true;
+    if (const backdrop behind = backdrop_of(form_, settings()); behind != behind_) {
+        behind_ = behind;
+        update();
+    }
     for (placed_control& placed : placed_) {
         copy(placed);
         tell(*placed.widget, placed.shown);
@@ -199,12 +203,11 @@ void form_page::resizeEvent(QResizeEvent*) {
 // The bar goes on to the edges of the window, where that is wider or higher than the form.
 void form_page::paintEvent(QPaintEvent*) {
     if (form_.overlay) return;
-    const backdrop behind = backdrop_of(form_, settings());
     QPainter on(this);
-    on.fillRect(rect(), theme::colour(behind.ground));
-    if (behind.bar_height > 0)
-        on.fillRect(0, 0, width(), static_cast<int>(std::lround(corner_.y() + behind.bar_height * unit_)),
-                    theme::colour(behind.bar));
+    on.fillRect(rect(), theme::colour(behind_.ground));
+    if (behind_.bar_height > 0)
+        on.fillRect(0, 0, width(), static_cast<int>(std::lround(corner_.y() + behind_.bar_height * unit_)),
+                    theme::colour(behind_.bar));
 }
 
 void form_page::paint(QWidget& widget, const scene& face, const control& shown, picture_cache& pictures) const {

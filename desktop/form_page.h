@@ -3,8 +3,8 @@
 // update_widgets().
 #pragma once
 
+#include "desktop/appearance.h"
 #include "desktop/picture_painter.h"
-#include "runtime/look.h"
 
 #include <QWidget>
 
@@ -28,7 +28,7 @@ public:
     QWidget* widget(const control* shown) const;
     double unit() const { return unit_; } // pixels per twip
     QPoint place_of(point on_form) const { return (corner_ + QPointF(on_form.x, on_form.y) * unit_).toPoint(); }
-    look_settings settings() const { return {}; }
+    look_settings settings() const { return desktop_settings(); }
     // Paints the face of a control on its widget.
     void paint(QWidget& widget, const scene& face, const control& shown, picture_cache& pictures) const;
     // Copies what has changed in the controls since the last time, and moves the focus where the form wants it.
@@ -56,6 +56,7 @@ private:
     form& form_;
     event_runner run_;
     std::vector<placed_control> placed_;
+    backdrop behind_{};
     double unit_ = 1.0 / 15;
     QPointF corner_;             // the top-left corner of the form on the page
     QObject* pressed_ = nullptr; // what the pointer pressed last; only compared

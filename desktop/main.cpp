@@ -14,5 +14,6 @@ int main(int argc, char** argv) {
     desktop outside;
     formulieren forms(outside);
     outside.run([&forms] { forms.get<achtergrond>().open(); });
+    follow_desktop_settings([&outside] { outside.run([] {}); });
     return QApplication::exec();
 }

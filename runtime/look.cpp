@@ -89,9 +89,9 @@ void add_mark(scene& to, const std::optional<drawing>& mark, place in, int most_
     to.emplace_back(scene_drawing{at, &*mark, false});
 }
 
-void add_focus(scene& to, place at, int radius) {
-    add_box(to, at, radius, none, dark, focus_edge);
-    add_box(to, at.inset(focus_edge), std::max(0, radius - focus_edge), none, paper, focus_gap);
+void add_focus(scene& to, place at, int radius, int thick) {
+    add_box(to, at, radius, none, dark, thick);
+    add_box(to, at.inset(thick), std::max(0, radius - thick), none, paper, focus_gap);
 }
 
 // ---- texts ----
@@ -226,7 +226,12 @@ private:
     void text(place in, std::string_view caption, const type& set, align at = align::left, char mnemonic = 0) {
         add_text(made_, in, caption, set, at, mnemonic);
     }
+    void ring(int radius) {
+        if (now_.focused) add_focus(made_, box_, radius, with_.high_contrast ? 2 * focus_edge : focus_edge);
+    }
     bool active() const { return now_.hovered || now_.pressed; }
+    template<class Fits>
+    double grown(double own_points, Fits fits) const;
     double points(bool bold, int room) const;
     bool on_bar() const;
 
@@ -255,21 +260,26 @@ private:
     scene made_;
 };
 
-// The size of the control's text: its own, or, where the desktop asks for larger text, as many steps up as there is
-// room for in all controls of its name.
+// A size of text: this one, or, where the desktop asks for larger text, as many steps up as there is room for.
+template<class Fits>
+double painter::grown(double own_points, Fits fits) const {
+    if (with_.larger_text)
+        for (const double step : {1.3, 1.2, 1.1})
+            if (fits(own_points * step)) return own_points * step;
+    return own_points;
+}
+
+// Of the control's text: as large as all controls of its name have room for.
 double painter::points(bool bold, int room) const {
-    if (!with_.larger_text) return shown_.font_size;
-    for (const double step : {1.3, 1.2, 1.1}) {
-        const type set{shown_.font_size * step, bold};
-        const bool all_fit = std::ranges::all_of(form_.controls(), [&](const control* each) {
+    return grown(shown_.font_size, [&](double tried) {
+        const type set{tried, bold};
+        return std::ranges::all_of(form_.controls(), [&](const control* each) {
             if (each->name != shown_.name) return true;
             const auto lines = lines_of(each->caption, set, 0);
-            return static_cast<int>(lines.size()) * text_height(set.points) <= each->height &&
+            return static_cast<int>(lines.size()) * text_height(tried) <= each->height &&
                    std::ranges::all_of(lines, [&](const std::string& line) { return width_in(line, set) <= room; });
         });
-        if (all_fit) return set.points;
-    }
-    return shown_.font_size;
+    });
 }
 
 bool painter::on_bar() const {
@@ -317,7 +327,7 @@ void painter::paint_label(const label& shown) {
         add_verdict(made_, {radius, box_.height / 2}, radius, blank(shown.caption) ? tone::neutral : shown.tone);
         place words = box_;
         if (shown.tone != tone::neutral) words = {beside, 0, box_.width - beside, box_.height};
-        return text(words, shown.caption, {shown.font_size, true, colour_of(shown.tone, ink)});
+        return text(words, shown.caption, {points(true, box_.width - beside), true, colour_of(shown.tone, ink)});
     }
     case lesson_title: return text(box_, shown.caption, set(true, ink), at);
     case lesson_word: return text(box_, shown.caption, set(true, colours_.dark), at);
@@ -426,9 +436,14 @@ void painter::paint_row(const list_box& list, int row, bool hovered) {
     } else if (hovered && list.enabled)
         box(row_box, row_corner, tint);
 
-    const int left = row_box.left + 75;
-    text({left, row_box.top, row_box.right() - 75 - left, row_box.height}, list.items[at],
-         {list.font_size, false, words});
+    const int left = row_box.left + 75, width = row_box.right() - 75 - left;
+    constexpr int mark_room = 240;
+    const double points = grown(list.font_size, [&](double tried) {
+        return text_height(tried) <= row_box.height && std::ranges::all_of(list.items, [&](const std::string& item) {
+                   return text_width(item, tried, 1.0) <= width - mark_room;
+               });
+    });
+    text({left, row_box.top, width, row_box.height}, list.items[at], {points, false, words});
     const auto mark = at < list.marks.size() ? list.marks[at] : list_box::item_mark::none;
     const point centre{list.width - 195, row_box.top + row_box.height / 2};
     const bool inverted = chosen && list.enabled;
@@ -487,7 +502,7 @@ void painter::paint_plain_button(const button& shown) {
     const bool is_key = shown.role == key || shown.role == operator_key;
     const int radius = sign || shown.role == stepper ? box_.height / 2 : is_key ? key_corner : button_corner;
     if (worn.fill || worn.edge) box(box_, radius, worn.fill, worn.edge, worn.thick);
-    if (now_.focused) add_focus(made_, box_, radius);
+    ring(radius);
     const point centre{box_.width / 2, box_.height / 2};
     if (sign) {
         add_sign(made_, centre, box_.height / 2, {{{-46, 0}, {46, 0}}}, worn.text, 66);
@@ -526,7 +541,7 @@ void painter::paint_answer(const button& shown) {
         }
     }
     box(box_, panel_corner, card.fill, card.edge, card.thick);
-    if (now_.focused) add_focus(made_, box_, panel_corner);
+    ring(panel_corner);
     box(letter_box, letter_corner, mark.fill, mark.edge, mark.thick);
     text(letter_box, shown.caption, {wide ? 14.0 : 12.5, true, mark.text}, align::middle);
     if (shown.enabled || (shown.result != answer_result::tried && shown.result != answer_result::right)) return;
@@ -550,7 +565,7 @@ void painter::paint_menu_card(const button& shown) {
     box(tile, menu_corner, tile_fill, none, 0, wide ? round_corners::left : round_corners::top);
     box(box_, menu_corner, none, active() ? own.dark : edge, active() ? hovered_edge : hairline);
     add_mark(made_, shown.mark, tile, wide ? 1080 : 1020, wide ? 960 : tile.height - 150);
-    if (now_.focused) add_focus(made_, box_, menu_corner);
+    ring(menu_corner);
 
     const int left = wide ? tile.width + 195 : 150, width = box_.width - left - 90;
     const type small{wide ? 9.75 : 8.25, true, own.dark, 12}, large{shown.font_size, true, ink};
@@ -582,7 +597,7 @@ void painter::paint_option(const option_button& shown) {
         shown.selected ? chosen_edge
         : active()     ? hovered_edge
                        : hairline);
-    if (now_.focused) add_focus(made_, box_, button_corner);
+    ring(button_corner);
     text(box_, shown.caption, {points(shown.selected, box_.width - 120), shown.selected, words}, align::middle);
 }
 
@@ -598,7 +613,7 @@ void painter::paint_start_card(const option_button& shown) {
         shown.selected ? chosen_edge
         : now_.hovered ? hovered_edge
                        : hairline);
-    if (now_.focused) add_focus(made_, box_, start_corner);
+    ring(start_corner);
 
     constexpr int left = 720;
     const place name{left, tile.height + 210, box_.width - left - 120, 420};
@@ -616,9 +631,10 @@ void heighten(scene& shown) {
     for (scene_op& op : shown) {
         if (auto* box = std::get_if<scene_box>(&op)) {
             if (box->fill && contrast(*box->fill, paper) < 1.6) box->fill = paper;
-            const bool ring = box->edge && (*box->edge == paper || (*box->edge == dark && box->thick == focus_edge));
+            const bool ring = box->thick == 2 * focus_edge || box->thick == focus_gap;
             if (box->edge && !ring) {
-                if (*box->edge != green && *box->edge != red && *box->edge != accent) box->edge = ink;
+                if (*box->edge != green && *box->edge != red && *box->edge != accent && *box->edge != paper)
+                    box->edge = ink;
                 box->thick += hairline;
             }
         }

@@ -53,6 +53,7 @@ scene full_face_of(const form& on, const control& shown, look_settings with = {}
 struct backdrop {
     rgb24 ground, bar;
     int bar_height; // twips from the form's top, 0 where there is none
+    bool operator==(const backdrop&) const = default;
 };
 backdrop backdrop_of(const form& of, look_settings with = {});
 
