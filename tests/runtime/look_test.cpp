@@ -3,6 +3,7 @@
 #include "forms/introduction/infoscherm.h"
 #include "forms/practice/mama.h"
 #include "forms/practice/scoreblad.h"
+#include "forms/shell/berichtvenster.h"
 #include "forms/shell/codering.h"
 #include "forms/shell/colofon.h"
 #include "forms/shell/menu.h"
@@ -32,6 +33,7 @@ rgb24 colour_at(const scene& painted, point at) {
 struct screens : testing::Test {
     fake_outside outside;
     formulieren forms{outside};
+    berichtvenster message{outside, {}};
     std::vector<form*> all;
     int texts = 0, edges = 0;
 
@@ -42,9 +44,12 @@ struct screens : testing::Test {
         practice.open();
         practice.presentatielijst.selected = 4;
         practice.presentatielijst_click();
+        message.leg_voor({"Wil je echt stoppen?", "Cijferwerf", box_buttons::yes_no});
         all = {&practice,
+               &message,
                &forms.get<codering>(),
                &forms.get<menucl>(),
+               &forms.get<menusw>(),
                &forms.get<colofoncl>(),
                &forms.get<scoreblad>(),
                &forms.get<infoscherm>(3, 2)};
