@@ -168,7 +168,7 @@ void form_page::copy(placed_control& placed) {
             list->clear();
             for (const std::string& item : now.items) list->addItem(QString::fromStdString(item));
         }
-        list->setCurrentRow(now.selected);
+        list->setCurrentIndex(list->model()->index(now.selected, 0)); // none is a choice too: the focus selects nothing
     }
     placed.widget->update();
 }

@@ -25,4 +25,12 @@ void GLOBALEN::tel_uitslag(int poging) {
     ++scoretabel[static_cast<std::size_t>(slot - titellijst.begin())][static_cast<std::size_t>(poging - 1)];
 }
 
+int GLOBALEN::beste_poging(std::string_view titel) const {
+    const auto slot = std::ranges::find(titellijst, titel);
+    if (slot == titellijst.end()) return 0;
+    const auto& counts = scoretabel[static_cast<std::size_t>(slot - titellijst.begin())];
+    const auto best = std::ranges::find_if(counts, [](int count) { return count != 0; });
+    return best == counts.end() ? 0 : static_cast<int>(best - counts.begin()) + 1;
+}
+
 } // namespace cijferwerf

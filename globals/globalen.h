@@ -35,6 +35,9 @@ struct GLOBALEN {
     // they came. With every slot taken by another title, or an attempt outside 1 to 4, nothing is counted and a
     // checked_error is thrown.
     void tel_uitslag(int poging);
+
+    // The earliest attempt at which this title ever ended, 1 to 4; 0 where none was counted.
+    int beste_poging(std::string_view titel) const;
 };
 
 } // namespace cijferwerf

@@ -19,27 +19,29 @@ double grootste(std::span<const double> stappen, Past past) {
 
 constexpr int links = 2445, boven = 3270;
 
-// The card of one answer: its letter in a box at the left, and its text.
+// The card of one answer: left of the text is the letter, right of the room for it the word right or wrong.
 struct kaart {
-    int breedte, hoogte, letter_links, letter, tekst_links, ruimte;
+    int breedte, hoogte, tekst_links, ruimte;
 };
-constexpr kaart naast_elkaar{4820, 840, 165, 480, 810, 2600};
-constexpr kaart smalle_kolom{4240, 405, 48, 309, 477, 2600};
-constexpr kaart brede_kolom{9765, 405, 48, 309, 477, 8125};
+constexpr kaart naast_elkaar{4820, 840, 810, 2600};
+constexpr kaart smalle_kolom{4240, 405, 477, 2600};
+constexpr kaart brede_kolom{9765, 405, 477, 8125};
 
 antwoordindeling indeling(const kaart& vorm, int kolommen, int naar_rechts, int omlaag) {
-    antwoordindeling made{.punten = antwoord_stappen[0], .ruimte = vorm.ruimte, .letters = {}, .teksten = {}};
+    antwoordindeling made{.punten = antwoord_stappen[0], .ruimte = vorm.ruimte, .kaarten = {}, .teksten = {}};
     for (int i = 0; i < 4; ++i) {
         const int left = links + i % kolommen * naar_rechts;
         const int top = boven + i / kolommen * omlaag;
         const auto at = static_cast<std::size_t>(i);
-        made.letters[at] = {left + vorm.letter_links, top + (vorm.hoogte - vorm.letter) / 2, vorm.letter, vorm.letter};
+        made.kaarten[at] = {left, top, vorm.breedte, vorm.hoogte};
         made.teksten[at] = {left + vorm.tekst_links, top, vorm.breedte - vorm.tekst_links, vorm.hoogte};
     }
     return made;
 }
 
 } // namespace
+
+int rij_hoogte(std::size_t titels) { return std::min(420, 6690 / std::max(1, static_cast<int>(titels))); }
 
 double vraag_punten(const tekstregels& regels) {
     return grootste(vraag_stappen, [&](double punten) {

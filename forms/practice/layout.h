@@ -18,13 +18,16 @@ inline constexpr int display_breedte = 4960; // within the edges of the display
 // "A" to "D".
 inline std::string antwoordletter(int plaats) { return std::string(1, static_cast<char>('A' + plaats - 1)); }
 
+// The height of a title's row, so that all of them have room in the list.
+int rij_hoogte(std::size_t titels);
+
 // The size in points of all lines of a question.
 double vraag_punten(const tekstregels& regels);
 
 struct antwoordindeling {
     double punten;
     int ruimte; // for a line of an answer, measured in bold; the rest of its card is for the word right or wrong
-    std::array<place, 4> letters, teksten;
+    std::array<place, 4> kaarten, teksten; // a card has the letter at its left and the text on it
 
     bool past(std::string_view antwoord) const;
 };

@@ -1,10 +1,12 @@
 #include "forms/practice/mama.h"
 
 #include "forms/introduction/infoscherm.h"
+#include "forms/marks.h"
 #include "forms/practice/explanation.h"
 #include "forms/practice/layout.h"
 #include "forms/practice/scoreblad.h"
 #include "forms/shell/menu.h"
+#include "runtime/picture_reading.h"
 
 namespace cijferwerf {
 
@@ -39,6 +41,16 @@ constexpr int balk_per_tik = 200;
 
 int balk_links(int limiet) { return balk_midden - limiet * balk_per_tik / 2; }
 
+// What these lines say, as one text.
+template<class Lines>
+std::string in_een_zin(const Lines& lines) {
+    std::string said;
+    for (const std::string& line : lines)
+        if (const std::string_view words = kaal(line); !words.empty())
+            said.append(said.empty() ? "" : " ").append(words);
+    return said;
+}
+
 } // namespace
 
 mama::mama(outside& with, formulieren& forms)
@@ -59,37 +71,60 @@ void mama::zet_opschrift(std::string heading, std::string title, bool info_allow
 // ---- loading and activation ----
 
 void mama::load() {
+    about = onderwerp(globalen_.gekozen_onderdeel);
+    merk.mark = kies_opgave.mark = merkteken(globalen_.gekozen_onderdeel);
+    toon_opgave(false);
+    zet_toon(tone::neutral);
     plaatje.reset();
-    wis_berichten(0);
+    wis_berichten(0, leeg);
     info.visible = globalen_.booklets();
     info.enabled = info_allowed_;
     score.enabled = true;
     taakkiezen_label.visible = false;
     uitleggeven.visible = false;
-    uitleg_bericht.caption = leeg;
+    uitleg_bericht.caption.clear();
     Timer1.stop();
     Timer2.stop();
     toon_rekenmachine(false);
-    for (label& line : vraag) line.caption = leeg;
+    for (label& line : vraag) line.caption.clear();
     for (int i = 1; i <= 4; ++i) {
-        knop[i].enabled = alternatief[i].enabled = false;
+        sluit_keuze(i, answer_result::open);
         knop[i].accessible_name.clear();
         alternatief[i].caption.clear();
     }
+    vul_lijst();
+    focus = &presentatielijst;
+}
 
+// With the titles of the list that is chosen, as far as there is an exercise for them; none is selected.
+void mama::vul_lijst() {
     presentatielijst.items.clear();
     presentatielijst.selected = -1;
     presentatielijst.enabled = true;
+    presentatielijst.description = kies_opgave.caption;
     lijst_ = zoek_lijst(globalen_.gekozen_pakket, globalen_.gekozen_onderdeel);
     if (lijst_ != nullptr)
-        for (const std::string_view title : titels(*lijst_, toeval)) presentatielijst.items.emplace_back(title);
-    focus = &presentatielijst;
+        for (int position = 0; const std::string_view title : titels(*lijst_, toeval))
+            if (zoek_generator(*lijst_, position++, title)) presentatielijst.items.emplace_back(title);
+    presentatielijst.row_height = rij_hoogte(presentatielijst.items.size());
+    merk_titels();
+}
+
+// Marks what became of each title so far.
+void mama::merk_titels() {
+    using enum list_box::item_mark;
+    presentatielijst.marks.clear();
+    for (const std::string& title : presentatielijst.items) {
+        const int best = globalen_.beste_poging(title);
+        presentatielijst.marks.push_back(best == 0 ? none : best == 1 ? first : later);
+    }
 }
 
 void mama::activate() {
     globalen_.wis_score();
+    merk_titels();
     plaatje.clear();
-    wis_berichten(1);
+    wis_berichten(1, leeg);
     score_bekeken = "nee";
 }
 
@@ -103,11 +138,14 @@ void mama::presentatielijst_click() {
     const auto selected = static_cast<std::size_t>(presentatielijst.selected);
     if (selected >= presentatielijst.items.size()) return;
 
+    toon_opgave(true);
     uitleg_bericht.colour = donkerblauw;
     uitleg_bericht.caption = "UITLEG/BERICHT";
     uitleggeven.visible = false;
-    wis_berichten(0);
+    zet_toon(tone::neutral);
+    wis_berichten(0, "");
 
+    presentatielijst.description.clear();
     globalen_.gekozen_oefening = presentatielijst.items[selected];
     maak(lijst_ == nullptr ? std::nullopt
                            : zoek_generator(*lijst_, presentatielijst.selected, globalen_.gekozen_oefening));
@@ -143,8 +181,11 @@ void mama::plaats_antwoorden() {
         alternatief[i].caption = antwoord(juiste_positie == 0 ? getoond_antwoord(i, right) : i);
         alternatief[i].visible = true;
         knop[i].enabled = alternatief[i].enabled = true;
+        knop[i].result = answer_result::open;
         knop[i].accessible_name = antwoordletter(i) + ":" + alternatief[i].caption;
     }
+    const std::string gevraagd = in_een_zin(std::array{in_een_zin(vraagregels), read_picture(plaatje)});
+    for (button& each : knop) each.description = gevraagd;
     leg_antwoorden_neer({antwoord_1, antwoord_2, antwoord_3, antwoord_4}, hulpmiddel == "REKENMACHINE");
 }
 
@@ -180,11 +221,13 @@ void mama::knop_click(int i) {
 
     if (i == right) {
         sluit_opgave();
+        announcement = bericht[0].caption;
         focus = &uitleggeven;
         return;
     }
     uitleg_bericht.caption = "BERICHT";
     uitleg_bericht.colour = bericht[0].colour = kleur_fout;
+    zet_toon(tone::wrong);
     if (!tips)
         schrijf_berichten(foutregels(getoond_antwoord(i, right)), kleur_fout);
     else if (pogingen == 1)
@@ -192,33 +235,54 @@ void mama::knop_click(int i) {
     else if (pogingen == 2)
         schrijf_berichten(tipregels_2, kleur_fout);
     else if (pogingen == 3) {
-        wis_berichten(1);
+        wis_berichten(1, leeg);
         bericht[1].colour = kleur_fout;
         bericht[1].caption = nog_een_over[i - 1];
     }
-    sluit_keuze(i);
+    sluit_keuze(i, answer_result::tried);
+    announcement = gesproken_berichten(0);
 }
 
 // The exercise has ended, by the right answer or by the clock: what is left is its explanation, or the next title.
 void mama::sluit_opgave() {
     uitleg_bericht.caption = "UITLEG";
     uitleg_bericht.colour = bericht[0].colour = kleur_goed;
-    for (int i = 1; i <= 4; ++i) sluit_keuze(i);
+    zet_toon(tone::right);
+    for (int i = 1; i <= 4; ++i)
+        if (knop[i].result == answer_result::open)
+            sluit_keuze(i, antwoordletter(i) == juiste_letter ? answer_result::right : answer_result::unused);
+    for (int i = 1; i <= 6; ++i) bericht[i].subdued = true;
     presentatielijst.enabled = uitleggeven.visible = true;
 }
 
-void mama::sluit_keuze(int i) { knop[i].enabled = alternatief[i].enabled = false; }
+void mama::sluit_keuze(int i, answer_result as) {
+    knop[i].enabled = alternatief[i].enabled = false;
+    knop[i].result = as;
+    knop[i].accessible_name += as == answer_result::tried ? ", fout" : as == answer_result::right ? ", goed" : "";
+}
 
-void mama::wis_berichten(int first) {
-    for (int i = first; i <= 6; ++i) bericht[i].caption = leeg;
+void mama::zet_toon(tone of_answer) {
+    berichtvlak.tone = uitleg_bericht.tone = bericht[0].tone = of_answer;
+    berichtvlak.quiet = of_answer == tone::neutral;
+}
+
+void mama::wis_berichten(int first, std::string_view with) {
+    for (int i = first; i <= 6; ++i) bericht[i].caption = with;
 }
 
 // The first six lines; the seventh of an array is never shown.
 void mama::schrijf_berichten(const tekstregels& lines, kleur colour) {
     for (int i = 1; i <= 6; ++i) {
         bericht[i].colour = colour;
+        bericht[i].subdued = false;
         bericht[i].caption = lines[static_cast<std::size_t>(i - 1)];
     }
+}
+
+std::string mama::gesproken_berichten(int first) {
+    std::vector<std::string> lines;
+    for (int i = first; i <= 6; ++i) lines.push_back(bericht[i].caption);
+    return in_een_zin(lines);
 }
 
 // ---- explanation and score ----
@@ -227,8 +291,10 @@ void mama::uitleggeven_click() {
     Timer1.stop();
     teken_opdrachten(plaatje, uitlegopdrachten);
     schrijf_berichten(uitlegregels, kleur_uitleg);
+    announcement = gesproken_berichten(1);
 
     globalen_.tel_uitslag(pogingen);
+    merk_titels();
     presentatielijst.enabled = true;
     score.enabled = true;
     info.enabled = info_allowed_;
@@ -242,6 +308,9 @@ void mama::Timer1_tick() {
     if (tijdteller < tijdlimiet) {
         plaatje.style = line_style::inside_solid;
         plaatje.filled_box(balk_links(tijdlimiet), balk_boven, tijdteller * balk_per_tik, 350, zwart);
+        const int left = tijdlimiet - tijdteller;
+        if (!uitleggeven.visible && (left == 3 || (left > 3 && left == tijdlimiet / 2)))
+            announcement = regel("Nog", left, " tellen.");
         return;
     }
     plaatje.text_size = 20;
@@ -255,6 +324,7 @@ void mama::Timer1_tick() {
     // and gone on is left be.
     if (!uitleggeven.visible) focus = &uitleg_bericht;
     sluit_opgave();
+    announcement = regel("De tijd is om. Het goede antwoord was ", juiste_letter, ".");
 }
 
 // ---- leaving ----

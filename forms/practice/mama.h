@@ -42,7 +42,7 @@ public:
 
     frame kopbalk, vraagvlak, berichtvlak, rekenmachine;
     button terug, info, score, stopteken, uitleggeven;
-    label opschriftbalk, taakkiezen_label, uitleg_bericht, display;
+    label merk, opschriftbalk, kies_opgave, taakkiezen_label, uitleg_bericht, display;
     list_box presentatielijst;
     control_array<label, 1, 7> vraag;
     control_array<button, 1, 4> knop;
@@ -60,15 +60,22 @@ private:
     void leg_controls_neer();
     void leg_toetsen_neer();
     void leg_antwoorden_neer(const std::array<std::string, 4>& antwoorden, bool naast_rekenmachine);
+    // An exercise, or else the sentence that asks to choose one.
+    void toon_opgave(bool shown);
 
-    void wis_berichten(int first);
+    void vul_lijst();
+    void merk_titels();
+    void zet_toon(tone of_answer);
+    void wis_berichten(int first, std::string_view with);
     void schrijf_berichten(const tekstregels& lines, kleur colour);
+    // What is shown from this element of bericht on, as a screen reader says it.
+    std::string gesproken_berichten(int first);
     void plaats_antwoorden();
     void ga_terug();
     void toon_rekenmachine(bool shown);
     void ververs_display();
     void sluit_opgave();
-    void sluit_keuze(int i);
+    void sluit_keuze(int i, answer_result as);
 
     formulieren& forms_;
     GLOBALEN& globalen_;

@@ -20,6 +20,7 @@ void mama::leg_controls_neer() {
     using enum theme_role;
     add(kopbalk, "kopbalk", {0, 0, 12480, 720}, heading_bar);
     add(terug, "terug", {120, 150, 1140, 420}, action, "terug");
+    add(merk, "merk", {1440, 120, 480, 480}, heading);
     add(opschriftbalk, "opschriftbalk", {2070, 150, 6300, 420}, heading);
     opschriftbalk.font_size = 15;
     add(info, "info", {8700, 150, 1140, 420}, action, "info");
@@ -28,8 +29,11 @@ void mama::leg_controls_neer() {
 
     add(presentatielijst, "presentatielijst", {120, 840, 2040, 6840}, list);
     presentatielijst.accessible_name = "opgaven";
+    presentatielijst.mark_words = {"", "eerste poging goed", "al gedaan"};
 
-    add(vraagvlak, "vraagvlak", {2280, 840, 10080, 4350}, panel);
+    add(vraagvlak, "vraagvlak", {}, panel);
+    add(kies_opgave, "kies_opgave", {3720, 2550, 7200, 3060}, prompt, "Kies links een opgave");
+    kies_opgave.font_size = 18;
     for (int i = 1; i <= 7; ++i) add(vraag[i], "vraag", {2445, 960 + (i - 1) * 300, vraag_breedte, 300}, question);
     add(plaatje, "plaatje", {6830, 990, drawing::inner_width, drawing::inner_height}, picture);
     plaatje.accessible_name = "plaatje bij de opgave";
@@ -38,17 +42,20 @@ void mama::leg_controls_neer() {
         knop[i].font_size = 13;
         knop[i].keeps_enter = false;
         add(alternatief[i], "alternatief", {}, answer);
+        alternatief[i].card = &knop[i];
         knop[i].click = [this, i] { knop_click(i); };
         alternatief[i].click = [this, i] { alternatief_click(i); };
     }
     leg_antwoorden_neer({}, false);
+    toon_opgave(false);
     leg_toetsen_neer();
 
     add(berichtvlak, "berichtvlak", {2280, 5310, 10080, 2370}, panel);
+    berichtvlak.header_height = 465;
     add(uitleg_bericht, "uitleg_bericht", {2445, 5318, 1800, 465}, message_heading); // UITLEG/BERICHT stands alone
     add(uitleggeven, "uitleggeven", {10410, 5355, 1800, 375}, main_action, "uitleg");
     uitleggeven.font_size = 11.25;
-    add(bericht[0], "bericht", {3990, 5318, 6300, 465}, verdict);
+    add(bericht[0], "bericht", {3600, 5318, 6690, 465}, verdict);
     bericht[0].font_size = 13;
     for (int i = 1; i <= 6; ++i) {
         add(bericht[i], "bericht", {2445, 5850 + (i - 1) * 300, bericht_breedte, 300}, message);
@@ -103,11 +110,20 @@ void mama::leg_toetsen_neer() {
         }
 }
 
+void mama::toon_opgave(bool shown) {
+    put(vraagvlak, {2280, 840, 10080, shown ? 4350 : 6840});
+    kies_opgave.visible = !shown;
+    plaatje.visible = berichtvlak.visible = uitleg_bericht.visible = shown;
+    for (int i = 1; i <= 4; ++i) knop[i].visible = alternatief[i].visible = shown;
+    for (label& line : vraag) line.visible = shown;
+    for (label& line : bericht) line.visible = shown;
+}
+
 void mama::leg_antwoorden_neer(const std::array<std::string, 4>& antwoorden, bool naast_rekenmachine) {
     const antwoordindeling indeling = leg_antwoorden(antwoorden, naast_rekenmachine);
     for (int i = 1; i <= 4; ++i) {
         const auto at = static_cast<std::size_t>(i - 1);
-        put(knop[i], indeling.letters[at]);
+        put(knop[i], indeling.kaarten[at]);
         put(alternatief[i], indeling.teksten[at]);
         alternatief[i].font_size = indeling.punten;
     }

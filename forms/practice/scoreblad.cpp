@@ -9,13 +9,14 @@ scoreblad::scoreblad(outside& with, formulieren& forms) : form(with, "scoreblad"
     using enum theme_role;
     caption = "SCORE";
     width = 6000;
-    height = 4500;
+    height = 4020;
     side_window = true;
+    wanted_place = point{6360, 780}; // over the picture, never over the messages
 
-    add(kopbalk, "kopbalk", {0, 0, 6000, 720}, heading_bar);
-    add(opschriftbalk, "opschriftbalk", {240, 150, 5520, 420}, heading, "SCORE");
+    add(kopbalk, "kopbalk", {0, 0, 6000, 600}, heading_bar);
+    add(opschriftbalk, "opschriftbalk", {240, 90, 5520, 420}, heading, "SCORE");
     opschriftbalk.font_size = 12;
-    add(vlak, "vlak", {240, 900, 5520, 2500}, panel);
+    add(vlak, "vlak", {240, 735, 5520, 2415}, panel);
 
     struct row {
         const char* text;
@@ -30,19 +31,22 @@ scoreblad::scoreblad(outside& with, formulieren& forms) : form(with, "scoreblad"
     };
     int i = 0;
     for (const row& shown : rows) {
-        const int top = 1050 + i * 570;
+        const int top = 790 + i * 575;
         ++i;
-        add(omschrijving[i], "omschrijving", {480, top, 3600, 480}, body, shown.text);
+        add(omschrijving[i], "omschrijving", {435, top, 2790, 575}, body, shown.text);
         omschrijving[i].index = i;
         omschrijving[i].font_size = 12;
-        add(shown.value, shown.name, {4200, top, 1320, 480}, value);
-        shown.value.font_size = 14;
+        omschrijving[i].caption_of = &shown.value;
+        add(shown.value, shown.name, {3270, top, 2295, 575}, value);
+        shown.value.font_size = 15;
         shown.value.right_aligned = true;
     }
 
-    add(afdrukken, "afdrukken", {240, 3660, 1440, 540}, action, "afdrukken");
-    add(Command1, "Command1", {1800, 3660, 2400, 540}, action, "aantalopgavengedaan");
-    add(sluiten, "sluiten", {4320, 3660, 1440, 540}, main_action, "sluiten");
+    add(afdrukken, "afdrukken", {240, 3330, 1650, 480}, action, "afdrukken");
+    add(Command1, "Command1", {1980, 3330, 2040, 480}, action, "aantalopgavengedaan");
+    Command1.quiet = true;
+    Command1.font_size = 9;
+    add(sluiten, "sluiten", {4110, 3330, 1650, 480}, main_action, "sluiten");
     afdrukken.mnemonic = 'a';
     sluiten.mnemonic = 's';
     sluiten.keys = "\x1b";
@@ -53,11 +57,16 @@ scoreblad::scoreblad(outside& with, formulieren& forms) : form(with, "scoreblad"
 
 void scoreblad::load() {
     const GLOBALEN& score = forms_.globalen;
+    about = forms_.get<mama>().about;
     opschriftbalk.caption = forms_.get<mama>().opschriftbalk.caption;
-    aantal_label.caption = regel(score.aantalvragengedaan);
-    nulfout_label.caption = regel(score.goed_poging_1);
-    eenfout_label.caption = regel(score.goed_poging_2);
-    tweefout_label.caption = regel(score.goed_poging_3);
+    const auto toon = [all = score.aantalvragengedaan](label& value, int count) {
+        value.caption = regel(count);
+        value.share = all == 0 ? 0 : 1.0 * count / all;
+    };
+    toon(aantal_label, score.aantalvragengedaan);
+    toon(nulfout_label, score.goed_poging_1);
+    toon(eenfout_label, score.goed_poging_2);
+    toon(tweefout_label, score.goed_poging_3);
     focus = &sluiten;
 }
 

@@ -36,8 +36,10 @@ protected:
 };
 
 TEST_F(practice_screen, is_worked_with_the_keyboard_alone) {
-    for (int i = 0; i < 6; ++i) press(Qt::Key_Down);
-    EXPECT_TRUE(screen.vraagregels[1] == leeg) << "arrow keys only move";
+    EXPECT_EQ(outside.page(screen)->focusWidget(), &list());
+    EXPECT_EQ(screen.presentatielijst.selected, -1) << "the focus selects nothing";
+    for (int i = 0; i < 7; ++i) press(Qt::Key_Down);
+    EXPECT_TRUE(screen.kies_opgave.visible) << "arrow keys only move";
     press(Qt::Key_Return);
     EXPECT_EQ(forms.globalen.gekozen_oefening, "voetbal");
     EXPECT_EQ(text("vraag2"), "Bij een wedstrijd tussen");
@@ -78,7 +80,7 @@ TEST_F(practice_screen, is_worked_with_the_mouse_alone) {
 }
 
 TEST_F(practice_screen, focus_stays_among_the_answers_after_a_wrong_one) {
-    press(Qt::Key_Return);
+    click(*list().viewport(), row(0));
     for (int i = 4; i >= 1; --i) {
         if (i == right()) continue;
         widget("knop" + std::to_string(i)).setFocus();
@@ -111,9 +113,10 @@ TEST_F(practice_screen, stopping_asks_first) {
 }
 
 TEST_F(practice_screen, a_screen_reader_hears_every_control) {
-    press(Qt::Key_Return);
+    click(*list().viewport(), row(0));
     for (const control* shown : screen.controls()) {
         if (shown->kind == control_kind::timer || shown->kind == control_kind::frame || !shown->visible) continue;
+        if (shown->kind == control_kind::label && kaal(shown->caption).empty()) continue; // nothing to hear
         const std::string name = shown->name + (shown->index ? std::to_string(*shown->index) : "");
         EXPECT_FALSE(widget(name).accessibleName().isEmpty()) << name;
     }

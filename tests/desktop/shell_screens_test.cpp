@@ -37,6 +37,7 @@ TEST_F(shell_screens, the_keyboard_alone_goes_from_the_start_to_an_exercise_and_
     ASSERT_TRUE(screen.loaded());
     EXPECT_EQ(title(screen), "TELMORA's CIJFERLOOP");
 
+    type(outside, screen, Qt::Key_Down);
     type(outside, screen, Qt::Key_Return); // on the first title
     EXPECT_EQ(forms.globalen.gekozen_oefening, "alcohol");
     for (const Qt::Key answer : {Qt::Key_A, Qt::Key_B, Qt::Key_C, Qt::Key_D}) type(outside, screen, answer);

@@ -5,6 +5,7 @@
 
 #include "tests/support/practising.h"
 
+#include <map>
 #include <sstream>
 
 namespace cijferwerf {
@@ -26,55 +27,46 @@ using lines = std::vector<std::string>;
 
 constexpr local_time new_year{2005, 1, 2, 3, 4};
 
-TEST(score_report, with_nothing_done_has_its_totals_and_an_empty_analysis) {
+TEST(score_report, has_totals_and_a_row_for_every_title_that_ended_at_some_attempt_in_the_order_in_which_they_came) {
     GLOBALEN score;
     score.gekozen_pakket = "SOMMENWERF";
-    EXPECT_EQ(as_lines(score_report(score, "HERHALING TAAK 1 t/m 4", new_year)),
-              (lines{
-                  "20| 0:SOMMENWERF",
-                  "20|",
-                  "20|",
-                  "9| 0:Datum: 02/01/05 03:04 u",
-                  "15| 0:HERHALING TAAK 1 T/M 4",
-                  "9|",
-                  "9| 0:Aantal opgaven gedaan 30: 0",
-                  "9| 0:bij eerste poging goed 30: 0",
-                  "9| 4:tweede poging goed 30: 0",
-                  "9| 4:derde poging goed 30: 0",
-                  "9| 4:vierde poging goed 30: 0",
-                  "9|",
-                  "15| 0:Analyse",
-                  "9|",
-                  "9| 0:titel opgave    goed bij... 30:1e 35:2e 40:3e 45:4e",
-              }));
-}
-
-TEST(score_report, has_a_row_for_every_title_that_ended_at_some_attempt_in_the_order_in_which_they_came) {
-    GLOBALEN score;
-    const auto ended = [&score](const char* title, int attempt) {
+    const auto ended = [&score](const std::string& title, int attempt) {
         score.gekozen_oefening = title;
         score.tel_uitslag(attempt);
     };
-    ended("rente", 1);
+    for (const int attempt : {1, 3, 1}) ended("rente", attempt);
     ended("snel!", 4);
-    ended("rente", 3);
-    ended("rente", 1);
+    EXPECT_EQ(score.beste_poging("rente"), 1);
+    EXPECT_EQ(score.beste_poging("snel!"), 4);
+    EXPECT_EQ(score.beste_poging("datum"), 0);
     ++score.goed_poging_4;        // a time-out
     score.titellijst[2] = "leeg"; // a title without counts
-    for (int i = 3; i < 99; ++i) ended(("t" + std::to_string(i)).c_str(), 2);
+    for (int i = 3; i < 99; ++i) ended("t" + std::to_string(i), 2);
 
-    const lines printed = as_lines(score_report(score, "", new_year));
-    EXPECT_EQ(lines(printed.begin() + 6, printed.begin() + 11), (lines{
-                                                                    "9| 0:Aantal opgaven gedaan 30: 100",
-                                                                    "9| 0:bij eerste poging goed 30: 2",
-                                                                    "9| 4:tweede poging goed 30: 96",
-                                                                    "9| 4:derde poging goed 30: 1",
-                                                                    "9| 4:vierde poging goed 30: 2",
-                                                                }));
-    ASSERT_EQ(printed.size(), 15U + 2 + 96);
-    EXPECT_EQ(printed[15], "9| 0:rente 30:2 35:0 40:1 45:0");
-    EXPECT_EQ(printed[16], "9| 0:snel! 30:0 35:0 40:0 45:1");
+    const lines printed = as_lines(score_report(score, "HERHALING TAAK 1 t/m 4", {2005, 1, 2, 3, 4}));
+    const lines expected{
+        "20| 0:SOMMENWERF",
+        "20|",
+        "20|",
+        "9| 0:Datum: 02/01/05 03:04 u",
+        "15| 0:HERHALING TAAK 1 T/M 4",
+        "9|",
+        "9| 0:Aantal opgaven gedaan 30: 100",
+        "9| 0:bij eerste poging goed 30: 2",
+        "9| 4:tweede poging goed 30: 96",
+        "9| 4:derde poging goed 30: 1",
+        "9| 4:vierde poging goed 30: 2",
+        "9|",
+        "15| 0:Analyse",
+        "9|",
+        "9| 0:titel opgave    goed bij... 30:1e 35:2e 40:3e 45:4e",
+        "9| 0:rente 30:2 35:0 40:1 45:0",
+        "9| 0:snel! 30:0 35:0 40:0 45:1",
+    };
+    ASSERT_EQ(printed.size(), expected.size() + 96);
+    EXPECT_EQ(lines(printed.begin(), printed.begin() + 17), expected);
     EXPECT_EQ(printed.back(), "9| 0:t98 30:0 35:1 40:0 45:0");
+    EXPECT_EQ(score_report({}, "", {}).lines.size(), 15U) << "nothing done, nothing analysed";
 }
 
 class score : public practising {
@@ -85,62 +77,54 @@ protected:
                 sheet.tweefout_label.caption};
     }
 
-    // Goes past the time of the exercise that is open.
-    void time_out() { pupil.wait(1000 * screen.tijdlimiet); }
-
     scoreblad& sheet = forms.get<scoreblad>();
 };
 
-TEST_F(score, the_sheet_shows_the_counts_of_the_moment_it_is_opened) {
+TEST_F(score, the_sheet_shows_the_counts_of_the_moment_it_is_opened_and_leaves_the_exercise_as_it_is) {
     ASSERT_TRUE(pupil.click(screen.score));
-    EXPECT_EQ(screen.score_bekeken, "ja");
-    EXPECT_TRUE(sheet.loaded() && screen.loaded());
-    EXPECT_TRUE(sheet.side_window);
+    EXPECT_TRUE(sheet.side_window && screen.loaded());
     EXPECT_EQ(sheet.caption, "SCORE");
-    EXPECT_EQ(values(), (lines{" 0", " 0", " 0", " 0"}));
-
     present("rente");
     answer(wrong());
     answer_right();
     explain();
     EXPECT_EQ(values(), (lines{" 0", " 0", " 0", " 0"}));
+    EXPECT_EQ(sheet.aantal_label.share, 0);
+    present("rente");
+    answer_right();
+    explain();
     pupil.click(screen.score); // while it is open still
-    EXPECT_EQ(values(), (lines{" 1", " 0", " 1", " 0"}));
-    EXPECT_TRUE(sheet.loaded());
-    pupil.click(sheet.sluiten);
-    EXPECT_FALSE(sheet.loaded());
-}
+    EXPECT_EQ(values(), (lines{" 2", " 1", " 1", " 0"}));
+    EXPECT_EQ(sheet.aantal_label.share, 1);
+    EXPECT_EQ(sheet.eenfout_label.share, 0.5);
 
-TEST_F(score, the_sheet_beside_an_exercise_leaves_it_as_it_is) {
-    pupil.click(screen.score);
     present("snel!");
     pupil.wait(2000);
     answer(wrong());
     pupil.close(sheet);
-    EXPECT_FALSE(sheet.loaded());
+    EXPECT_FALSE(sheet.loaded() || pupil.ended);
     pupil.wait(1000);
     EXPECT_EQ(screen.pogingen, 1);
     EXPECT_EQ(screen.tijdteller, 3);
-    EXPECT_FALSE(pupil.ended);
 }
 
-TEST_F(score, a_time_out_that_is_explained_counts_twice_in_the_fourth_total_and_once_for_its_title) {
+TEST_F(score, the_sheet_hides_neither_the_messages_nor_the_bar_and_names_each_value) {
+    const place on_screen{sheet.wanted_place->x, sheet.wanted_place->y, sheet.width, sheet.height};
+    EXPECT_GE(on_screen.top, screen.kopbalk.top + screen.kopbalk.height);
+    EXPECT_LE(on_screen.top + on_screen.height, screen.berichtvlak.top);
+    EXPECT_LE(on_screen.left + on_screen.width, screen.width);
+    std::map<const control*, std::string> captions;
+    for (label& text : sheet.omschrijving) captions[text.caption_of] += text.caption;
+    EXPECT_EQ(captions[&sheet.aantal_label], "aantal opgaven gedaan");
+    EXPECT_EQ(captions[&sheet.nulfout_label], "eerste poging goed");
+    EXPECT_EQ(captions[&sheet.eenfout_label], "tweede poging goed");
+    EXPECT_EQ(captions[&sheet.tweefout_label], "derde poging goed");
+}
+
+TEST_F(score, printing_sends_the_report_of_this_practice_and_tells_how_it_went) {
     present("snel!");
-    time_out();
+    pupil.wait(60'000);
     explain();
-    pupil.click(screen.score);
-    EXPECT_EQ(values(), (lines{" 1", " 0", " 0", " 0"}));
-    pupil.click(sheet.afdrukken);
-    ASSERT_EQ(pupil.printed.size(), 1U);
-    const lines printed = as_lines(pupil.printed[0]);
-    EXPECT_EQ(printed.at(0), "20| 0:TELMORA's CIJFERLOOP");
-    EXPECT_EQ(printed.at(3), "9| 0:Datum: 09/03/24 14:05 u");
-    EXPECT_EQ(printed.at(4), "15| 0:BOEKJE 1 - PROCENTEN");
-    EXPECT_EQ(printed.at(10), "9| 4:vierde poging goed 30: 2");
-    EXPECT_EQ(printed.back(), "9| 0:snel! 30:0 35:0 40:0 45:1");
-}
-
-TEST_F(score, printing_tells_how_it_went) {
     using enum print_result::outcome;
     const std::pair<print_result, const char*> rows[]{
         {{printed, ""}, "Het rapport is naar de printer gestuurd."},
@@ -154,78 +138,46 @@ TEST_F(score, printing_tells_how_it_went) {
         EXPECT_EQ(pupil.boxes.back().text, told);
     }
     EXPECT_EQ(pupil.boxes.size(), std::size(rows));
-}
+    const lines sent = as_lines(pupil.printed.at(0));
+    EXPECT_EQ(sent.at(0), "20| 0:TELMORA's CIJFERLOOP");
+    EXPECT_EQ(sent.at(3), "9| 0:Datum: 09/03/24 14:05 u");
+    EXPECT_EQ(sent.at(4), "15| 0:BOEKJE 1 - PROCENTEN");
+    EXPECT_EQ(sent.at(10), "9| 4:vierde poging goed 30: 2") << "once when the time was up";
+    EXPECT_EQ(sent.back(), "9| 0:snel! 30:0 35:0 40:0 45:1");
 
-TEST_F(score, the_diagnostics_of_sheet_and_screen_tell_the_count) {
-    present("rente");
-    answer_right();
-    explain();
-    explain();
-    pupil.click(screen.score);
     pupil.click(sheet.Command1);
     pupil.run([this] { screen.toon_aantalvragengedaan(); });
-    EXPECT_EQ(pupil.boxes.at(0).text, "aantalvragengedaan = 2");
-    EXPECT_EQ(pupil.boxes.at(1).text, "aantalvragengedaan = 2");
+    for (const std::size_t box : {3U, 4U}) EXPECT_EQ(pupil.boxes.at(box).text, "aantalvragengedaan = 1");
 }
 
-// ---- leaving, whatever stands on the screen ----
+// ---- leaving ----
 
-class leaving : public score {
-protected:
-    // Runs the check at every moment of an exercise, each on a screen of its own.
-    template<class Check>
-    void at_every_moment(Check check) {
-        const auto asked = [this] { present("snel!"); };
-        const auto wronged = [=, this] { asked(), answer(wrong()); };
-        const auto righted = [=, this] { asked(), answer_right(); };
-        const auto explained = [=, this] { righted(), explain(); };
-        const auto timed_out = [=, this] { asked(), time_out(); };
-        const std::pair<const char*, std::function<void()>> moments[]{
-            {"nothing presented", [] {}},     {"before an answer", asked},     {"after a wrong one", wronged},
-            {"after the right one", righted}, {"after a time-out", timed_out}, {"after the explanation", explained},
-        };
-        for (const auto& [name, reach] : moments) {
-            SCOPED_TRACE(name);
-            pupil.boxes.clear();
-            open();
-            reach();
-            check();
-        }
-    }
-};
+TEST_F(score, asking_to_stop_and_staying_changes_nothing_and_back_takes_clock_and_sheet_along_unasked) {
+    sheet.show();
+    present("snel!");
+    answer(wrong());
+    const auto seen = [this] {
+        lines all{std::to_string(screen.pogingen), std::to_string(screen.tijdteller)};
+        for (const control* each : screen.controls())
+            all.push_back(regel(each->name, each->caption, int{each->enabled}, int{each->visible}));
+        return all;
+    };
+    const auto before = seen();
+    ASSERT_TRUE(pupil.click(screen.stopteken));
+    EXPECT_EQ(seen(), before);
+    pupil.wait(1000);
+    EXPECT_EQ(screen.tijdteller, 1);
+    EXPECT_EQ(pupil.boxes.size(), 1U);
 
-TEST_F(leaving, back_goes_to_the_menu_unasked_and_takes_clock_and_sheet_along) {
-    at_every_moment([this] {
-        sheet.show();
-        const int ended = forms.globalen.goed_poging_4;
-        ASSERT_TRUE(pupil.click(screen.terug));
-        EXPECT_TRUE(pupil.boxes.empty());
-        EXPECT_TRUE(forms.get<menucl>().loaded());
-        EXPECT_FALSE(screen.loaded());
-        EXPECT_FALSE(sheet.loaded());
-        pupil.wait(60'000);
-        EXPECT_EQ(forms.globalen.goed_poging_4, ended);
-        forms.get<menucl>().unload();
-    });
+    ASSERT_TRUE(pupil.click(screen.terug));
+    EXPECT_EQ(pupil.boxes.size(), 1U);
+    EXPECT_FALSE(pupil.ended || screen.loaded() || sheet.loaded());
+    EXPECT_TRUE(forms.get<menucl>().loaded());
+    pupil.wait(60'000);
+    EXPECT_EQ(forms.globalen.goed_poging_4, 0);
     open(task_set, "taak01");
     pupil.click(screen.terug);
     EXPECT_TRUE(forms.get<menusw>().loaded());
-}
-
-TEST_F(leaving, asking_to_stop_and_staying_changes_nothing) {
-    at_every_moment([this] {
-        const auto seen = [this] {
-            lines all{std::to_string(screen.pogingen), std::to_string(screen.tijdteller)};
-            for (const control* each : screen.controls())
-                all.push_back(regel(each->name, each->caption, int{each->enabled}, int{each->visible}));
-            return all;
-        };
-        const auto before = seen();
-        ASSERT_TRUE(pupil.click(screen.stopteken));
-        EXPECT_EQ(pupil.boxes.size(), 1U);
-        EXPECT_EQ(seen(), before);
-        EXPECT_FALSE(pupil.ended);
-    });
 }
 
 } // namespace
