@@ -42,6 +42,8 @@ scoreblad::scoreblad(outside& with, formulieren& forms) : form(with, "scoreblad"
         shown.value.right_aligned = true;
     }
 
+    aantal_label.subdued = true; // the whole of which the others are shares
+
     add(afdrukken, "afdrukken", {240, 3330, 1650, 480}, action, "afdrukken");
     add(Command1, "Command1", {1980, 3330, 2040, 480}, action, "aantalopgavengedaan");
     Command1.quiet = true;
