@@ -123,7 +123,6 @@ struct list_box : control {
     std::vector<std::string> items;
     enum class item_mark : std::uint8_t { none, first, later }; // solved at the first attempt, or later
     std::vector<item_mark> marks;                               // as long as items, or empty
-    std::array<std::string, 3> mark_words;                      // what each kind of mark says, for a screen reader
     int row_height = 0;                                         // twips; 0 leaves it to the look
     int selected = -1;                 // position in items, or -1; the front end sets it before it calls a handler
     std::function<void(int)> keypress; // a key code: 13 is Enter

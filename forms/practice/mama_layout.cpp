@@ -29,7 +29,6 @@ void mama::leg_controls_neer() {
 
     add(presentatielijst, "presentatielijst", {120, 840, 2040, 6840}, list);
     presentatielijst.accessible_name = "opgaven";
-    presentatielijst.mark_words = {"", "eerste poging goed", "al gedaan"};
 
     add(vraagvlak, "vraagvlak", {}, panel);
     add(kies_opgave, "kies_opgave", {3720, 2550, 7200, 3060}, prompt, "Kies links een opgave");
