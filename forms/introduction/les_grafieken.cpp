@@ -125,7 +125,7 @@ protected:
         blad.line_width = 3;
         blad.line(plot.links, as.y(mm), as.x(maand_ * 10 - 8), as.y(mm), rood);
         blad.line_width = 1;
-        const std::string zin = regel("In ", maanden[maand_ - 1], " viel er ", kaal(mm), " mm regen.");
+        std::string zin = regel("In ", maanden[maand_ - 1], " viel er ", kaal(mm), " mm regen.");
         schrijf_midden(blad, {16, donker}, {plot.midden().x, 300}, zin);
         return zin;
     }

@@ -111,8 +111,8 @@ protected:
             teken_sprong(x, 640 + 2 * rijhoogte + 40, 260, stap);
         }
 
-        constexpr int links = 160, per_liter = 420, y = 3080;
-        schrijf(blad, {14, inkt}, {links, 2420},
+        constexpr int links = 160, per_liter = 420, y = 3040;
+        schrijf(blad, {14, inkt}, {links, 2510},
                 regel(kaal(liter_), " x ", kaal(km_per_liter), " km = ", kaal(km), " km"));
         for (int i = 0; i < 12; ++i) {
             const vlak vak{links + i * per_liter, y, per_liter, 420};

@@ -99,8 +99,8 @@ void voorbeeld::ververs() {
 }
 
 void voorbeeld::maak_blad(int links, int boven, int getoonde_breedte, int stroken) {
-    constexpr double shape = static_cast<double>(drawing::inner_height) / drawing::inner_width;
-    blad_plaats_ = {links, boven, getoonde_breedte, static_cast<int>(getoonde_breedte * shape + 0.5)};
+    const int hoog = (getoonde_breedte * drawing::inner_height + drawing::inner_width / 2) / drawing::inner_width;
+    blad_plaats_ = {links, boven, getoonde_breedte, hoog};
     for (int i = 0; i < stroken; ++i) {
         const place waar{links, boven + i * blad_plaats_.height, getoonde_breedte, blad_plaats_.height};
         neem_op(stroken_, "plaatje", waar, theme_role::illustration, {}).accessible_name = "plaatje bij de uitleg";
@@ -129,30 +129,30 @@ void voorbeeld::verdeel_over_stroken() {
 // ---- controls ----
 
 template<class Control>
-Control& voorbeeld::neem_op(std::deque<Control>& soort, std::string naam, place waar, theme_role rol,
-                            std::string opschrift) {
+Control& voorbeeld::neem_op(std::deque<Control>& soort, const std::string& naam, place waar, theme_role rol,
+                            const std::string& opschrift) {
     Control& made = soort.emplace_back();
-    made.name = std::move(naam);
+    made.name = naam;
     made.left = waar.left;
     made.top = waar.top;
     made.width = waar.width;
     made.height = waar.height;
     made.role = rol;
-    made.caption = std::move(opschrift);
+    made.caption = opschrift;
     controls_.push_back(&made);
     return made;
 }
 
-label& voorbeeld::woorden(place waar, double punten, theme_role rol, std::string tekst) {
-    label& made = neem_op(woorden_, "woorden", waar, rol, std::move(tekst));
+label& voorbeeld::woorden(place waar, double punten, theme_role rol, const std::string& tekst) {
+    label& made = neem_op(woorden_, "woorden", waar, rol, tekst);
     made.index = static_cast<int>(woorden_.size());
     made.font_size = punten;
     return made;
 }
 
-button& voorbeeld::knop(std::string naam, place waar, theme_role rol, std::string opschrift,
+button& voorbeeld::knop(const std::string& naam, place waar, theme_role rol, const std::string& opschrift,
                         std::function<void()> click) {
-    button& made = neem_op(knoppen_, std::move(naam), waar, rol, std::move(opschrift));
+    button& made = neem_op(knoppen_, naam, waar, rol, opschrift);
     made.font_size = 12;
     made.click = [this, then = std::move(click)] {
         then();
@@ -161,16 +161,17 @@ button& voorbeeld::knop(std::string naam, place waar, theme_role rol, std::strin
     return made;
 }
 
-button& voorbeeld::cel(std::string naam, int nummer, const vlak& deel, std::string gesproken,
+button& voorbeeld::cel(const std::string& naam, int nummer, const vlak& deel, std::string gesproken,
                        std::function<void()> click) {
-    button& made = knop(std::move(naam), op_blad(deel), theme_role::cell, {}, std::move(click));
+    button& made = knop(naam, op_blad(deel), theme_role::cell, {}, std::move(click));
     made.index = nummer;
     made.accessible_name = std::move(gesproken);
     return made;
 }
 
-option_button& voorbeeld::keuze(std::string naam, place waar, std::string opschrift, std::function<void()> click) {
-    option_button& made = neem_op(keuzes_, std::move(naam), waar, theme_role::toggle, std::move(opschrift));
+option_button& voorbeeld::keuze(const std::string& naam, place waar, const std::string& opschrift,
+                                std::function<void()> click) {
+    option_button& made = neem_op(keuzes_, naam, waar, theme_role::toggle, opschrift);
     made.index = static_cast<int>(keuzes_.size());
     made.selected = keuzes_.size() == 1;
     made.font_size = 12;
@@ -182,9 +183,9 @@ option_button& voorbeeld::keuze(std::string naam, place waar, std::string opschr
 }
 
 // Both buttons have one name, so that at the end of the range the keyboard's focus goes to the other.
-voorbeeld::stapper& voorbeeld::stappen(place waar, int naam_breedte, std::string naam, int& waarde, int van, int tot,
-                                       int stap) {
-    stapper& made = stappers_.emplace_back(&waarde, van, tot, stap, nullptr, nullptr, nullptr);
+voorbeeld::stapper& voorbeeld::stappen(place waar, int naam_breedte, const std::string& naam, int& waarde, int van,
+                                       int tot, int stap) {
+    stapper& made = stappers_.emplace_back(stapper{&waarde, van, tot, stap, nullptr, nullptr, nullptr});
     const int links = waar.left + naam_breedte;
     const int plus = waar.left + waar.width - stap_zijde;
     if (naam_breedte > 0) woorden({waar.left, waar.top, naam_breedte, stap_zijde}, 12, theme_role::lesson_word, naam);

@@ -54,21 +54,26 @@ protected:
     place op_blad(const vlak& deel) const;
 
     // A line of words, or of a number.
-    label& woorden(place waar, double punten, theme_role rol = theme_role::body, std::string tekst = {});
+    label& woorden(place waar, double punten, theme_role rol = theme_role::body, const std::string& tekst = {});
     // 570 high. The number is in bold, in the middle of what the name leaves free.
-    stapper& stappen(place waar, int naam_breedte, std::string naam, int& waarde, int van, int tot, int stap = 1);
+    stapper& stappen(place waar, int naam_breedte, const std::string& naam, int& waarde, int van, int tot,
+                     int stap = 1);
     // A button; its caption is spoken too unless another text is.
-    button& knop(std::string naam, place waar, theme_role rol, std::string opschrift, std::function<void()> click);
+    button& knop(const std::string& naam, place waar, theme_role rol, const std::string& opschrift,
+                 std::function<void()> click);
     // A part of the drawing that can be clicked; nothing of it is seen but the pointer's and the keyboard's ring.
-    button& cel(std::string naam, int nummer, const vlak& deel, std::string gesproken, std::function<void()> click);
+    button& cel(const std::string& naam, int nummer, const vlak& deel, std::string gesproken,
+                std::function<void()> click);
     // One of a few that exclude one another; the first that is made is chosen at first.
-    option_button& keuze(std::string naam, place waar, std::string opschrift, std::function<void()> click);
+    option_button& keuze(const std::string& naam, place waar, const std::string& opschrift,
+                         std::function<void()> click);
 
     drawing blad;
 
 private:
     template<class Control>
-    Control& neem_op(std::deque<Control>& soort, std::string naam, place waar, theme_role rol, std::string opschrift);
+    Control& neem_op(std::deque<Control>& soort, const std::string& naam, place waar, theme_role rol,
+                     const std::string& opschrift);
     void verdeel_over_stroken();
 
     place blad_plaats_{};
