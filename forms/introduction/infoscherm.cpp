@@ -143,9 +143,11 @@ void infoscherm::toon_voor(int boekje) {
 }
 
 void infoscherm::ga_naar(int nummer) {
-    if (nummer < 1 || nummer > aantal)
-        forms_.get<mama>().show();
-    else
+    if (nummer < 1 || nummer > aantal) {
+        auto& oefenscherm = forms_.get<mama>();
+        oefenscherm.focus = &oefenscherm.presentatielijst;
+        oefenscherm.show();
+    } else
         forms_.get<infoscherm>(inleiding_.boekje, nummer).toon_voor(boekje_);
     unload();
 }
