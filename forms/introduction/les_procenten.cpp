@@ -20,8 +20,8 @@ class honderdveld : public voorbeeld {
 public:
     honderdveld() {
         maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 1020, "hokjes", aantal_, 0, 100);
-        stappen({3210, 4740, 2790, 570}, 1020, "per tien", aantal_, 0, 100, 10);
+        stappen({180, 4740, 2790, 570}, 900, "hokjes", aantal_, 0, 100);
+        stappen({3210, 4740, 2790, 570}, 960, "per tien", aantal_, 0, 100, 10);
         for (int n = 1; n <= 100; ++n)
             cel("hokje", n, hokje(n), regel(kaal(n), " procent"), [this, n] { aantal_ = aantal_ == n ? n - 1 : n; });
     }
@@ -71,8 +71,8 @@ class een_procent_eerst : public voorbeeld {
 public:
     een_procent_eerst() {
         maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 960, "bedrag", honderd_euro_, 100, 900, 100);
-        stappen({3210, 4740, 2790, 570}, 1020, "procent", procent_, 1, 100);
+        stappen({180, 4740, 2790, 570}, 870, "bedrag", honderd_euro_, 100, 900, 100);
+        stappen({3210, 4740, 2790, 570}, 975, "procent", procent_, 1, 100);
     }
 
 protected:

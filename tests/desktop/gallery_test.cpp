@@ -59,6 +59,14 @@ TEST(exercise_gallery, writes_the_question_and_the_explanation_of_every_variant)
         << "the same seed, other pictures";
 }
 
+TEST(exercise_gallery, writes_three_introduction_screens_of_each_set) {
+    const QTemporaryDir folder;
+    ASSERT_EQ(gallery({"--out", folder.path(), "--introductions"}).status, 0);
+    const QDir written(folder.path());
+    EXPECT_EQ(written.entryList(QDir::Files).size(), 33);
+    EXPECT_TRUE(written.exists("info3_boekje12.png"));
+}
+
 TEST(exercise_gallery, says_what_is_wrong) {
     const struct {
         QStringList arguments;

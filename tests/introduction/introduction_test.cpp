@@ -94,6 +94,7 @@ TEST_F(introduction, leads_through_three_screens_and_back_and_leaves_the_practic
             go(3, false), at(2);
             go(2, true), go(3, true), at(0);
             EXPECT_EQ(pupil.shown.back(), &screen);
+            EXPECT_EQ(screen.focus, &screen.presentatielijst);
             EXPECT_EQ(seen(), before);
             EXPECT_EQ(as_texts(screen.plaatje), drawn);
         }
