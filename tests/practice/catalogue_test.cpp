@@ -108,6 +108,7 @@ TEST(catalogue, a_title_runs_the_generator_that_is_named_after_it) {
         for (int i = 0; const catalogue_entry& entry : list.entries) {
             EXPECT_EQ(naam(entry.generator), generator_of(entry.title, list.key)) << list.key;
             EXPECT_EQ(zoek_generator(list, i++, "another title"), entry.generator);
+            EXPECT_LE(text_width(entry.title, 9.75, 1.0), 1590) << entry.title << " has no room beside its mark";
             offered.insert(entry.generator);
         }
     EXPECT_EQ(offered.size(), alle_oefeningen().size()) << "an exercise that nobody can pick";
