@@ -1,6 +1,6 @@
 #include "calculator/decimal.h"
 
-#include "runtime/checked_error.h"
+#include "runtime/stop_run.h"
 
 #include <algorithm>
 
@@ -67,7 +67,7 @@ decimal operator*(const decimal& a, const decimal& b) {
 
 // Long division, digit by digit, of the magnitudes without their points.
 decimal operator/(const decimal& a, const decimal& b) {
-    if (b.zero()) throw checked_error("a decimal divided by zero");
+    if (b.zero()) stop_run("a decimal divided by zero");
     const decimal divisor(b.digits_, 0);
     std::vector<int> dividend(quotient_decimals + b.decimals_);
     dividend.insert(dividend.end(), a.digits_.begin(), a.digits_.end());

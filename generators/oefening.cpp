@@ -2,6 +2,7 @@
 
 #include "generators/gedeeld/opdracht.h"
 #include "generators/gedeeld/tekening_macht.h"
+#include "runtime/stop_run.h"
 
 #include <numeric>
 
@@ -44,7 +45,7 @@ void oefening::opdracht(std::string line) {
             slot = std::move(line);
             return;
         }
-    throw checked_error("an eighth drawing command: " + line);
+    stop_run("an eighth drawing command: " + line);
 }
 
 void oefening::druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som,
@@ -71,7 +72,7 @@ void oefening::druk_antwoord_over_stippen(int x, int y, kleur in, std::string_vi
 }
 
 int oefening::trek_eronder(int lager, int hoger) {
-    if (lager + hoger < 3) throw checked_error("fewer than three different mistakes");
+    if (lager + hoger < 3) stop_run("fewer than three different mistakes");
     return trek_van(std::max(0, 3 - hoger), std::min(3, lager));
 }
 
@@ -95,7 +96,7 @@ void oefening::fout_met(std::string text, const melding& feedback) {
 }
 
 oefening::vier_keuzes oefening::verdeeld(std::span<const keuze<>> opties) {
-    if (opties.size() != 4) throw checked_error("four options are needed, not " + std::to_string(opties.size()));
+    if (opties.size() != 4) stop_run("four options are needed, not " + std::to_string(opties.size()));
     const vier_keuzes verdeling = geschud(vier_keuzes{&opties[0], &opties[1], &opties[2], &opties[3]});
     juist_op(static_cast<int>(std::find(verdeling.begin(), verdeling.end(), &opties[0]) - verdeling.begin()) + 1);
     return verdeling;
@@ -155,7 +156,7 @@ std::string& oefening::antwoord(int which) {
     case 2: return antwoord_2;
     case 3: return antwoord_3;
     case 4: return antwoord_4;
-    default: throw checked_error("no answer number " + std::to_string(which));
+    default: stop_run("no answer number " + std::to_string(which));
     }
 }
 
@@ -164,7 +165,7 @@ tekstregels& oefening::foutregels(int which) {
     case 2: return foutregels_2;
     case 3: return foutregels_3;
     case 4: return foutregels_4;
-    default: throw checked_error("no feedback for answer number " + std::to_string(which));
+    default: stop_run("no feedback for answer number " + std::to_string(which));
     }
 }
 

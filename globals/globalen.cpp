@@ -1,6 +1,6 @@
 #include "globals/globalen.h"
 
-#include "runtime/checked_error.h"
+#include "runtime/stop_run.h"
 
 #include <algorithm>
 
@@ -15,9 +15,8 @@ void GLOBALEN::wis_score() {
 void GLOBALEN::tel_uitslag(int poging) {
     const auto slot = std::ranges::find_if(
         titellijst, [this](const std::string& title) { return title == gekozen_oefening || title.empty(); });
-    if (slot == titellijst.end()) throw checked_error("De scorelijst is vol: er is geen plaats voor een nieuwe titel.");
-    if (poging < 1 || poging > attempts)
-        throw checked_error("De score kent geen poging nummer " + std::to_string(poging) + ".");
+    if (slot == titellijst.end()) stop_run("De scorelijst is vol: er is geen plaats voor een nieuwe titel.");
+    if (poging < 1 || poging > attempts) stop_run("De score kent geen poging nummer " + std::to_string(poging) + ".");
 
     *slot = gekozen_oefening;
     ++aantalvragengedaan;

@@ -1,6 +1,6 @@
 #include "generators/gedeeld/tekening_blad.h"
 
-#include "runtime/checked_error.h"
+#include "runtime/stop_run.h"
 
 #include <algorithm>
 
@@ -58,7 +58,7 @@ int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view 
 }
 
 void teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& regels) {
-    if (nummer < 1 || nummer > 4) throw checked_error("no advertisement " + std::to_string(nummer));
+    if (nummer < 1 || nummer > 4) stop_run("no advertisement " + std::to_string(nummer));
     const zelfde_stand bewaard(on);
     constexpr int rand = 12;
     const int width = drawing::inner_width / 2, height = drawing::inner_height / 2;

@@ -2,7 +2,7 @@
 
 #include "generators/gedeeld/telwoord.h"
 
-#include "runtime/checked_error.h"
+#include "runtime/stop_run.h"
 
 #include <algorithm>
 
@@ -12,7 +12,7 @@ int roosterfiguur::omtrek() const {
     int som = 0;
     for (std::size_t i = 0; i < hoeken_.size(); ++i) {
         const point &van = hoeken_[i], &naar = hoeken_[(i + 1) % hoeken_.size()];
-        if (van.x != naar.x && van.y != naar.y) throw checked_error("the perimeter of a figure with a slanting side");
+        if (van.x != naar.x && van.y != naar.y) stop_run("the perimeter of a figure with a slanting side");
         som += std::abs(naar.x - van.x) + std::abs(naar.y - van.y);
     }
     return som;
@@ -28,7 +28,7 @@ int roosterfiguur::halve_hokjes() const {
 }
 
 int roosterfiguur::oppervlakte() const {
-    if (halve_hokjes() % 2 != 0) throw checked_error("a figure with half a square left");
+    if (halve_hokjes() % 2 != 0) stop_run("a figure with half a square left");
     return halve_hokjes() / 2;
 }
 

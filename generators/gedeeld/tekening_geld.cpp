@@ -1,6 +1,6 @@
 #include "generators/gedeeld/tekening_geld.h"
 
-#include "runtime/checked_error.h"
+#include "runtime/stop_run.h"
 
 #include <algorithm>
 #include <array>
@@ -34,7 +34,7 @@ constexpr std::array<briefsoort, 7> briefjes{
 
 void teken_munt(drawing& on, point midden, int straal, int cent) {
     const auto* soort = std::ranges::find(munten, cent, &muntsoort::cent);
-    if (soort == munten.end()) throw checked_error("no coin of " + std::to_string(cent) + " cents");
+    if (soort == munten.end()) stop_run("no coin of " + std::to_string(cent) + " cents");
     const zelfde_stand bewaard(on);
     const int grootste = munten.back().middellijn;
     const int buiten = straal * (soort->middellijn + grootste) / (2 * grootste);
@@ -50,7 +50,7 @@ void teken_munt(drawing& on, point midden, int straal, int cent) {
 
 void teken_briefje(drawing& on, int links, int boven, int breedte, int euro) {
     const auto* soort = std::ranges::find(briefjes, euro, &briefsoort::euro);
-    if (soort == briefjes.end()) throw checked_error("no note of " + std::to_string(euro) + " euros");
+    if (soort == briefjes.end()) stop_run("no note of " + std::to_string(euro) + " euros");
     const zelfde_stand bewaard(on);
     const int hoogte = breedte / 2, rand = breedte / 16;
     on.filled_box(links, boven, breedte, hoogte, soort->tint);

@@ -1,7 +1,7 @@
 #include "generators/gedeeld/tekening_grafiek.h"
 
 #include "generators/gedeeld/telwoord.h"
-#include "runtime/checked_error.h"
+#include "runtime/stop_run.h"
 
 #include <algorithm>
 #include <array>
@@ -38,7 +38,7 @@ assen::assen(drawing& on, const vlak& plot, asschaal langs_x, asschaal langs_y)
     cijferwerf::vertel(on, "");
     if (langs_x.tot <= langs_x.van || langs_y.tot <= langs_y.van || langs_x.stap < 1 || langs_y.stap < 1 ||
         langs_x.een < 1 || langs_y.een < 1)
-        throw checked_error("an axis without length");
+        stop_run("an axis without length");
     const zelfde_stand bewaard(on);
     on.filled_box(plot.links, plot.boven, plot.breedte, plot.hoogte, wit);
     on.line_width = 2;

@@ -1,6 +1,6 @@
 #include "generators/gedeeld/tekening_tabel.h"
 
-#include "runtime/checked_error.h"
+#include "runtime/stop_run.h"
 
 #include <algorithm>
 
@@ -22,7 +22,7 @@ tabel::tabel(drawing& on, int links, int boven, int breedte, int rijhoogte, std:
 }
 
 void tabel::cel(std::size_t column, std::string_view tekst) {
-    if (column >= kolommen_.size()) throw checked_error("a row has more cells than the table has columns");
+    if (column >= kolommen_.size()) stop_run("a row has more cells than the table has columns");
     const int top = y_ + rijhoogte_ / 2 - halve_regel(on_.text_size);
     while (tekst.starts_with(' ')) tekst.remove_prefix(1);
     if (kolommen_[column].rechts)

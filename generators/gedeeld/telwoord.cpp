@@ -1,6 +1,6 @@
 #include "generators/gedeeld/telwoord.h"
 
-#include "runtime/checked_error.h"
+#include "runtime/stop_run.h"
 
 #include <array>
 #include <string_view>
@@ -50,7 +50,7 @@ std::string groep(int n, spelling schrijfwijze) {
 } // namespace
 
 std::vector<std::string> telwoord_in_groepen(int getal, spelling schrijfwijze) {
-    if (getal < 0 || getal > 999'999'999) throw checked_error("a number without words");
+    if (getal < 0 || getal > 999'999'999) stop_run("a number without words");
     if (getal == 0) return {"nul"};
     std::vector<std::string> groepen;
     if (const int miljoenen = getal / 1'000'000; miljoenen > 0)
@@ -80,7 +80,7 @@ std::string Telwoord(int getal) {
 }
 
 std::string rangtelwoord(int getal) {
-    if (getal < 1 || getal > 999) throw checked_error("a number without a ranking word");
+    if (getal < 1 || getal > 999) stop_run("a number without a ranking word");
     const int eind = getal % 100;
     if (eind == 1 || eind == 3)
         return (getal > 100 ? honderdtal(getal - eind, {}) : "") + (eind == 1 ? "eerste" : "derde");
