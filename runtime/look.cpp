@@ -319,7 +319,7 @@ void painter::paint_label(const label& shown) {
         const bool open = card == nullptr ? shown.enabled : card->enabled;
         type words = set(result == answer_result::right, ink);
         words.colour = result == answer_result::right || open ? ink : grey;
-        return text(box_, shown.caption, words, at);
+        return text(box_, kaal(std::string_view(shown.caption)), words, at); // the blank in front is no indentation
     }
     case message_heading: return text(box_, shown.caption, {shown.font_size, true, colour_of(shown.tone, soft), 12});
     case verdict: {
