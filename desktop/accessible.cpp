@@ -91,6 +91,11 @@ public:
         const form* of = shown();
         return widget()->isWindow() || (of != nullptr && of->overlay) ? QAccessible::Dialog : QAccessible::Pane;
     }
+    QAccessible::State state() const override {
+        QAccessible::State now = QAccessibleWidget::state();
+        now.modal = shown() != nullptr && shown()->overlay;
+        return now;
+    }
     QString text(QAccessible::Text of) const override {
         const form* named = of == QAccessible::Name ? shown() : nullptr;
         return named != nullptr ? QString::fromStdString(named->caption) : QAccessibleWidget::text(of);

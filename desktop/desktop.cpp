@@ -136,8 +136,14 @@ desktop::desktop() : front_end(steady_now), window_(std::make_unique<main_window
     QObject::connect(&wake_up_, &QTimer::timeout, [this] { tick(); });
 }
 
-desktop::~desktop() {
-    for (form_page* page : side_pages_) delete page;
+desktop::~desktop() { close(); }
+
+void desktop::close() {
+    for (form_page* page : std::exchange(side_pages_, {})) delete page;
+    pages_.clear();
+    shades_.clear();
+    box_page_ = nullptr;
+    window_.reset();
 }
 
 // ---- events ----

@@ -17,6 +17,9 @@ public:
     desktop();
     ~desktop() override;
 
+    // Takes everything off the screen for good, while the forms are there: a screen reader asks until the last moment.
+    void close();
+
     // The page of a form that is shown, or null.
     form_page* page(const form& of) const;
     // The page of the message box that is open, or null.

@@ -15,5 +15,7 @@ int main(int argc, char** argv) {
     formulieren forms(outside);
     outside.run([&forms] { forms.get<achtergrond>().open(); });
     follow_desktop_settings([&outside] { outside.run([] {}); });
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    outside.close();
+    return status;
 }

@@ -9,7 +9,7 @@ namespace cijferwerf {
 std::string spoken_name(const control& told) {
     std::string name = told.accessible_name.empty() ? told.caption : told.accessible_name;
     std::ranges::replace(name, '\r', ' ');
-    return name;
+    return name.erase(0, name.find_first_not_of(' '));
 }
 
 std::string spoken_description(const control& told) {
@@ -25,7 +25,7 @@ std::string spoken_item(const list_box& told, std::size_t item) {
 }
 
 bool silent(const control& told) {
-    const bool no_words = spoken_name(told).find_first_not_of(' ') == std::string::npos;
+    const bool no_words = spoken_name(told).empty();
     if (told.kind == control_kind::frame) return no_words;
     return told.kind == control_kind::label && (no_words || static_cast<const label&>(told).card != nullptr);
 }

@@ -20,6 +20,7 @@ void oefeningen::B_chocolade_03_03_click() {
         trek_tot([this] { return trek(11) + 2; }, [&](int drawn) { return std::gcd(drawn, kinderen) == 1; });
 
     bord(wit, zwart, 12);
+    vertel(plaatje, regel(Telwoord(repen), " repen chocola, en eronder ", telwoord(kinderen), " kinderen."));
     const int stap_reep = std::min(5000 / repen, 600);
     for (int i = 0; i < repen; ++i) {
         const int links = drawing::inner_width / 2 + (2 * i - repen + 1) * stap_reep / 2 - 150;

@@ -2,6 +2,7 @@
 // sub-variants, and read as a pupil would.
 #include "forms/practice/layout.h"
 #include "generators/gedeeld/kleuren.h"
+#include "runtime/picture_reading.h"
 
 #include "tests/support/crossing.h"
 #include "tests/support/exceptions.h"
@@ -281,6 +282,7 @@ TEST_P(every_exercise, reads_its_picture_aloud_without_giving_away_the_answer) {
         const bool tells_all = std::ranges::all_of(all, [&](const std::string& each) { return names(said, each); });
         std::string apart = exercise.right; // as a fraction is printed
         std::ranges::replace(apart, '/', ' ');
+        EXPECT_NE(read_picture(made.plaatje), "");
         EXPECT_TRUE(tells_all || names(exercise.sheet(), apart) || !names(said, exercise.right))
             << exercise.right << " | " << said;
     });

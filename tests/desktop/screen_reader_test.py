@@ -1,0 +1,170 @@
+"""The program as a screen reader meets it, from the start to the question whether to stop: on a display and a session
+bus of its own, walked by keys and by the reader's actions. Fails where there is no bus. usage: PROGRAM"""
+import atexit
+import os
+import subprocess
+import sys
+import time
+
+
+def start(*command, told=True):
+    """A process that ends with this one, and the first line that it writes."""
+    process = subprocess.Popen(command, stdout=subprocess.PIPE if told else None, text=True)
+    atexit.register(process.kill)
+    return process, process.stdout.readline().strip() if told else ""
+
+
+# The display first: whatever the bus starts is to find it.
+os.environ["DISPLAY"] = ":" + start("Xvfb", "-displayfd", "1", "-screen", "0", "1366x768x24", "-noreset")[1]
+os.environ["DBUS_SESSION_BUS_ADDRESS"] = start("dbus-daemon", "--session", "--nofork", "--print-address")[1]
+os.environ |= {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb"}
+
+import gi  # noqa: E402
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+HEARD = (Atspi.Role.HEADING, Atspi.Role.LABEL, Atspi.Role.PUSH_BUTTON, Atspi.Role.LIST, Atspi.Role.LIST_ITEM)
+PATIENCE = 15  # seconds for whatever is waited for
+Relation, Role, State = Atspi.RelationType, Atspi.Role, Atspi.StateType
+announced = []  # the names of notifications that began to show
+
+
+def on_event(event):
+    try:
+        if event.detail1 == 1 and event.source.get_role() == Role.NOTIFICATION:
+            announced.append(event.source.get_name())
+    except GLib.Error:
+        pass  # its object has gone already
+
+
+def wait_for(what, look):
+    """What look() returns as soon as that is something; meanwhile events come in."""
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        while GLib.MainContext.default().iteration(False):
+            pass
+        try:
+            if found := look():
+                return found
+        except GLib.Error:
+            pass  # the tree changed while it was read
+        time.sleep(0.02)
+    sys.exit(f"no {what}; announced: {announced}; the tree:\n" + "\n".join(tree()))
+
+
+def children(of):
+    return [child for i in range(of.get_child_count()) if (child := of.get_child_at_index(i))]
+
+
+def everything(of):
+    """All that shows, from the top down."""
+    if of.get_state_set().contains(State.SHOWING):
+        yield of
+        for child in children(of):
+            yield from everything(child)
+
+
+def application():
+    return next((each for each in children(Atspi.get_desktop(0)) if each.get_process_id() == program.pid), None)
+
+
+def tree():
+    return [f"{o.get_role_name()} '{o.get_name()}' {o.get_description()}" for o in everything(application())]
+
+
+def shown(role, name="", having=State.SHOWING):
+    """Objects of this role whose names begin like this, that have this state."""
+    return [o for o in everything(application())
+            if o.get_role() == role and o.get_name().startswith(name) and o.get_state_set().contains(having)]
+
+
+def one(role, name="", having=State.SHOWING):
+    return wait_for(f"{role.value_nick} '{name}' {having.value_nick}", lambda: shown(role, name, having))[0]
+
+
+def act(role, name=""):
+    one(role, name, State.ENABLED).do_action(0)
+
+
+def key(name):
+    subprocess.run(["xdotool", "key", name], check=True)
+
+
+def check(holds, what):
+    if not holds:
+        sys.exit(f"{what}; the tree:\n" + "\n".join(tree()))
+
+
+def related(to, relation):
+    return [each.get_target(0).get_name() for each in to.get_relation_set() if each.get_relation_type() == relation]
+
+
+if Atspi.init() not in (0, 1) or Atspi.get_desktop(0) is None:
+    sys.exit("no accessibility bus")
+listener = Atspi.EventListener.new(on_event)
+listener.register("object:state-changed:showing")
+program, _ = start(sys.argv[1], told=False)
+wait_for("program on the bus", application)
+
+# The start: a window with two options, one of which is chosen.
+one(Role.FRAME, "", State.ACTIVE)
+act(Role.RADIO_BUTTON, "TELMORA")
+one(Role.RADIO_BUTTON, "TELMORA", State.CHECKED)
+check(len(shown(Role.RADIO_BUTTON)) == 2 and len(shown(Role.RADIO_BUTTON, "", State.CHECKED)) == 1, "one chosen of two")
+act(Role.PUSH_BUTTON, "verder")
+act(Role.PUSH_BUTTON, "verder")  # of the credits
+act(Role.PUSH_BUTTON, "BOEKJE 5")
+
+# An exercise: whoever comes upon an answer hears the question and what the picture shows.
+one(Role.LIST, "", State.FOCUSED)
+verdicts = set()
+for attempt in range(12):
+    if len(verdicts) == 2:
+        break
+    key("Home")
+    key("Return")
+    answer = one(Role.PUSH_BUTTON, "A: ", State.FOCUSED)
+    picture = one(Role.IMAGE).get_description()
+    labels = [o.get_name() for o in shown(Role.LABEL)]
+    check(picture and picture in answer.get_description(), "the picture is read with the answer")
+    check(sum(label.strip() in answer.get_description() for label in labels) >= 3, "the question is read with it")
+    check(all(o.get_name().strip() for o in everything(application()) if o.get_role() in HEARD), "a nameless control")
+    texts = [o.get_name()[3:] for letter in "ABCD" for o in shown(Role.PUSH_BUTTON, letter + ": ")]
+    check(len(texts) == 4 and not set(texts) & {label.strip() for label in labels}, "an answer shows twice")
+    for letter in "ABCD":
+        before = len(announced)
+        act(Role.PUSH_BUTTON, letter + ": ")
+        wait_for("announcement of the verdict", lambda: len(announced) > before)
+        said = announced[-1]
+        check(any(said.startswith(o.get_name()) for o in shown(Role.LABEL)), f"'{said}' is no verdict on the screen")
+        right = bool(shown(Role.PUSH_BUTTON, "uitleg"))
+        verdicts.add(right)
+        tried = one(Role.PUSH_BUTTON, letter + ": ").get_name()
+        check(tried.endswith(", goed" if right else ", fout"), f"'{tried}' does not say what became of it")
+        if right:
+            break
+    before = len(announced)
+    act(Role.PUSH_BUTTON, "uitleg")
+    wait_for("announcement of the explanation", lambda: len(announced) > before)
+    one(Role.LIST, "", State.FOCUSED)
+check(len(verdicts) == 2, "a right answer and a wrong one")
+check(", " in one(Role.LIST_ITEM).get_name(), "the title says what became of it")
+
+# The score sheet: each value belongs to its caption.
+act(Role.PUSH_BUTTON, "score")
+sheet = one(Role.DIALOG)
+values = wait_for("values", lambda: [o for o in everything(sheet) if related(o, Relation.LABELLED_BY)])
+check(len(values) == 4 and all(o.get_name().strip().isdigit() for o in values), "four values with captions")
+check("eerste poging goed" in str([related(o, Relation.LABELLED_BY) for o in values]), "the first attempts")
+check(len([o for o in everything(sheet) if related(o, Relation.LABEL_FOR)]) == 4, "four captions of values")
+act(Role.PUSH_BUTTON, "sluiten")
+wait_for("end of the score sheet", lambda: not shown(Role.DIALOG))
+
+# The question whether to stop, where No is where the keyboard is.
+act(Role.PUSH_BUTTON, "stoppen")
+one(Role.DIALOG)
+no = one(Role.PUSH_BUTTON, "Nee", State.FOCUSED)
+check("stoppen" in no.get_description(), "the question is read with its answer")
+act(Role.PUSH_BUTTON, "Ja")
+check(program.wait(PATIENCE) == 0, "the program ends well")
