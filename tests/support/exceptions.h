@@ -1,14 +1,8 @@
-// What the properties of every exercise are not asked of, and why: a family lists its own in exceptions.cpp beside its
-// tests, by generator, and the program of the properties is built with all those lists. It judges nothing.
-//
-//     const exceptions listed{
-//         {rank_forced, L_voetbal_01_08_click, "mistakes: the other club's supporters, more than all the spectators"},
-//     };
+// What the properties of every exercise are not asked of, and why: a family lists its own in exceptions.def beside its
+// tests, {kind, exercise, reason} on a line. It judges nothing.
 #pragma once
 
 #include "generators/oefeningen.h"
-
-#include <initializer_list>
 
 namespace cijferwerf {
 
@@ -24,15 +18,6 @@ enum class exception_kind {
     step_not_exact,          // an arithmetic step that is not meant to be exact, or is quoted as a mistake
     tip_gives_more,          // the first tip has numbers that the second one lacks
     crossing_line_meant,     // a line of the picture is meant to cross a word
-};
-
-struct exceptions {
-    struct row {
-        exception_kind kind;
-        oefening_id generator;
-        const char* reason;
-    };
-    exceptions(std::initializer_list<row> rows);
 };
 
 bool excepted(exception_kind kind, oefening_id generator);

@@ -1,10 +1,5 @@
 #include "tests/support/exercise_rows.h"
 
-#include "tests/support/pattern.h"
-
-#include <map>
-#include <set>
-
 namespace cijferwerf {
 
 namespace {

@@ -1,7 +1,7 @@
 // A family's test as a table: a row tells what an exercise draws and how its answers follow from that, and at least 840
 // exercises (up to 30,000, until all that the row names has occurred) are held against it. What no row can say -
 // clocks, graphs - is a function in the row's check. Rows stand in tests/generators/<family>/<family>_test.cpp, as many
-// files as the family has, and what the properties of every exercise are not to ask of an exercise in exceptions.cpp
+// files as the family has, and what the properties of every exercise are not to ask of an exercise in exceptions.def
 // beside them (exceptions.h).
 //
 //     const exercise_rows percentages([] {
@@ -20,14 +20,19 @@
 // numbers of a table by hand and compute another way than the generator does.
 #pragma once
 
+#include "tests/support/pattern.h"
 #include "tests/support/seen.h"
+#include "tests/support/sums.h"
 
 #include <cmath>
 #include <functional>
-#include <initializer_list>
+#include <map>
+#include <set>
 #include <variant>
 
 namespace cijferwerf {
+
+using enum oefening_id;
 
 // What `reads` found in one exercise.
 struct reading {

@@ -2,16 +2,10 @@
 // mistake that its feedback names.
 #include "tests/support/exercise_rows.h"
 #include "tests/support/ink.h"
-#include "tests/support/pattern.h"
 #include "tests/support/rows_of.h"
-
-#include <map>
-#include <set>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 int divisor(const reading& n, std::size_t a, std::size_t b) {
     return std::gcd(static_cast<int>(n[a]), static_cast<int>(n[b]));

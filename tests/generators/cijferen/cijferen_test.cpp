@@ -2,14 +2,9 @@
 // mistake that its feedback names. The keys of the calculator are pressed as the explanation tells.
 #include "calculator/calculator.h"
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
-
-#include <set>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 // Counted from 1 at the right.
 formula digit(const formula& number, int place) {

@@ -5,8 +5,6 @@
 namespace cijferwerf {
 namespace {
 
-using enum oefening_id;
-
 // Metres between "3  0  8  0, 8" and another counter.
 double ride(const reading& n) {
     const auto counter = [](std::string digits) { return std::erase(digits, ' '), decimal(digits); };

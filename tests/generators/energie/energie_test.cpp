@@ -5,8 +5,6 @@
 namespace cijferwerf {
 namespace {
 
-using enum oefening_id;
-
 // Four answers in a row: each neighbour up to three steps away.
 row_part neighbours(const formula& right, int step = 1) {
     return wrong("", right - 3 * step, right - 2 * step, right - step, right + step, right + 2 * step,

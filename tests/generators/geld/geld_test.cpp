@@ -1,14 +1,9 @@
 // Money: what is drawn, the answers worked out again from what a pupil sees, and each wrong answer as the mistake that
 // its feedback names.
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
-
-#include <set>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 const row_part either_side = wrong("", lies::below, lies::above);
 

@@ -2,15 +2,11 @@
 // mistake that its feedback names.
 #include "generators/gedeeld/telwoord.h"
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
 
-#include <set>
 #include <sstream>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 int right_end(const text_op& text) { return text.x + text_width(text.text, text.size); }
 int middle(const text_op& text) { return text.x + text_width(text.text, text.size) / 2; }

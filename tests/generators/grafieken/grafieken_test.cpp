@@ -3,16 +3,12 @@
 #include "generators/gedeeld/kalender.h"
 #include "generators/gedeeld/tekening.h"
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
 
-#include <map>
 #include <numeric>
-#include <set>
 
 namespace cijferwerf {
 namespace {
 
-using enum oefening_id;
 using numbers = std::vector<double>;
 
 template<class Operation>

@@ -1,11 +1,8 @@
 // Mental arithmetic against the clock: each sum is read back from the picture and worked out again.
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 // Nothing is told beside a wrong answer.
 std::vector<mistake> one_of(std::initializer_list<formula> values) {

@@ -1,14 +1,8 @@
 // Estimates: what is drawn, or stands in a table, a letter or on a counter, is read back and rounded again.
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
-#include "tests/support/sums.h"
-
-#include <set>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 // The last thing of a kind that is drawn.
 template<class Operation>

@@ -1,13 +1,8 @@
 // Powers and growth: each power is read back from the picture or the question and worked out again.
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
-
-#include <set>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 double worked_out(const formula& wanted, const reading& n) { return std::get<double>(wanted(n)); }
 formula power(const formula& base, const formula& exponent) {

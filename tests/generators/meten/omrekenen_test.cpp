@@ -1,12 +1,8 @@
 // Measures in another unit: the numbers, read back from the picture, are compared in the smallest unit of their kind.
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
-#include "tests/support/sums.h"
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 double in_smallest(const std::string& unit) { return unit == "dag" ? 1e4 : find_unit(unit).value().size; }
 // How many of one unit go into another, as words[i] names them.

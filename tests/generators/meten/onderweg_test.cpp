@@ -1,17 +1,11 @@
 // Distances and times on the road, dials, jobs whose last pot or roll is used only in part, and sizes that everyone
 // knows.
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
-#include "tests/support/sums.h"
 
-#include <map>
 #include <numbers>
-#include <set>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 // Where the red needle points, on a scale from 0 to 200 that runs clockwise over 270 degrees from the lower left.
 double needle(const reading& n) {

@@ -1,13 +1,8 @@
 // Pieces of land and figures: measured again from what is drawn.
 #include "tests/support/exercise_rows.h"
 
-#include <map>
-#include <set>
-
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 // The corners of the figures on the grid, in squares.
 std::vector<std::vector<point>> figures(const reading& n) {

@@ -1,13 +1,8 @@
 // Rectangles, boxes and pieces of land: measured again from what is drawn.
 #include "tests/support/exercise_rows.h"
-#include "tests/support/sums.h"
-
-#include <set>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 // One completion is of the kind asked for, and each other is told what it is instead.
 void check_kinds(const reading& n, const std::string& asked) {

@@ -2,13 +2,8 @@
 // mistake that its feedback names.
 #include "tests/support/exercise_rows.h"
 
-#include <map>
-#include <set>
-
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 // The legend's parts are those of one pie alone.
 void check_pies(const reading& n) {

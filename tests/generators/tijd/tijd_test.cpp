@@ -3,14 +3,9 @@
 #include "generators/gedeeld/kalender.h"
 
 #include "tests/support/exercise_rows.h"
-#include "tests/support/pattern.h"
-
-#include <set>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 // What a table says for the sub-variant.
 formula by_variant(std::vector<double> values) {

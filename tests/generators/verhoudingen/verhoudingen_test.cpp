@@ -4,14 +4,10 @@
 #include "generators/gedeeld/telwoord.h"
 #include "tests/support/exercise_rows.h"
 
-#include <map>
 #include <numeric>
-#include <set>
 
 namespace cijferwerf {
 namespace {
-
-using enum oefening_id;
 
 template<class Operation, class Wanted>
 std::vector<Operation> operations(const seen& e, Wanted wanted) {
