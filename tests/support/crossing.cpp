@@ -95,4 +95,59 @@ std::optional<std::string> line_through_word(const drawing& drawn) {
     return {};
 }
 
+namespace {
+
+// What an operation leaves on the picture, with the first of its words.
+std::optional<ink> extent(const drawing_op& operation, kleur ground) {
+    std::vector<ink> parts;
+    if (const auto* text = std::get_if<text_op>(&operation)) add_words(parts, *text, 0);
+    for (const auto& [x, y] : path_of(operation, ground)) parts.push_back({1.0 * x, 1.0 * y, 1.0 * x, 1.0 * y, ""});
+    if (parts.empty()) return {};
+    ink all = parts[0];
+    for (const ink& part : parts)
+        all = {std::min(all.left, part.left), std::min(all.top, part.top), std::max(all.right, part.right),
+               std::max(all.bottom, part.bottom), all.word};
+    return all;
+}
+bool holds(const ink& outer, const ink& inner, double slack = 0) {
+    return inner.within(outer.left - slack, outer.top - slack, outer.right - outer.left + 2 * slack,
+                        outer.bottom - outer.top + 2 * slack);
+}
+double distance(const ink& a, const ink& b) {
+    return std::max({b.left - a.right, a.left - b.right, b.top - a.bottom, a.top - b.bottom});
+}
+
+} // namespace
+
+std::optional<std::string> out_of_place(const drawing& drawn) {
+    constexpr int width = drawing::inner_width, height = drawing::inner_height;
+    std::vector<ink> all, boxes;
+    bool file = false;
+    for (const drawing_op& operation : drawn.operations()) {
+        file |= std::holds_alternative<picture_op>(operation);
+        const auto found = extent(operation, drawn.ground);
+        if (!found) continue;
+        if (!found->within(0, 0, width + 1, height + 1)) return "a shape or \"" + found->word + "\" leaves the picture";
+        all.push_back(*found);
+        if (std::holds_alternative<box_op>(operation)) boxes.push_back(*found);
+    }
+    for (const ink& text : all) {
+        if (text.word.empty()) continue;
+        if (!text.within(30, 10, width - 60, height - 30)) return "\"" + text.word + "\" at the edge";
+        const auto beside = [&](const ink& other) {
+            const bool behind = holds(other, text) && other.right - other.left > 1600; // a panel
+            return distance(other, text) < 400 && !behind && &other != &text;
+        };
+        if (!file && all.size() > 1 && std::ranges::none_of(all, beside)) return "\"" + text.word + "\" stands alone";
+    }
+    for (const ink& one : boxes) {
+        const auto half_over = [&](const ink& other) {
+            const bool shadow = std::abs(other.left - one.left) == 45 && std::abs(other.right - one.right) == 45;
+            return distance(one, other) < -25 && !holds(one, other, 25) && !holds(other, one, 25) && !shadow;
+        };
+        if (std::ranges::any_of(boxes, half_over)) return "a box half over another";
+    }
+    return {};
+}
+
 } // namespace cijferwerf

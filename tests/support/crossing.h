@@ -1,4 +1,5 @@
-// Lines of a picture that run through its words. Which of them are meant is the test's to know.
+// What stands wrongly in a picture: lines that run through its words, and words and boxes that look as if they slipped.
+// Which of them are meant is the test's to know.
 #pragma once
 
 #include "tests/support/ink.h"
@@ -16,5 +17,9 @@ std::vector<point> path_of(const drawing_op& operation, kleur ground);
 // The first word through whose ink a line, or the edge of a box or polygon, is seen to run; or nothing. What is filled
 // after the line and before the word hides it.
 std::optional<std::string> line_through_word(const drawing& drawn);
+
+// The first thing that leaves the picture, text that touches its edge or stands alone, or box that lies half over
+// another which is not its shadow; or nothing.
+std::optional<std::string> out_of_place(const drawing& drawn);
 
 } // namespace cijferwerf

@@ -19,6 +19,7 @@ bool excepted(exception_kind kind, oefening_id generator) {
 #include "tests/generators/cirkels/exceptions.def"
 #include "tests/generators/energie/exceptions.def"
 #include "tests/generators/geld/exceptions.def"
+#include "tests/generators/getalkennis/exceptions.def"
 #include "tests/generators/hoofdrekenen/exceptions.def"
 #include "tests/generators/machten/exceptions.def"
 #include "tests/generators/meten/exceptions.def"

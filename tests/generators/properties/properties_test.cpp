@@ -491,6 +491,13 @@ TEST_P(every_exercise, draws_no_line_across_a_word) {
     });
 }
 
+TEST_P(every_exercise, leaves_nothing_in_its_picture_that_looks_as_if_it_slipped) {
+    each([&](const oefening& made) {
+        const auto slipped = out_of_place(made.plaatje);
+        EXPECT_TRUE(allowed(loose_place_meant, !slipped)) << slipped.value_or("");
+    });
+}
+
 // ---- commands ----
 
 // What is wrong with a drawing command, or nothing.
