@@ -27,6 +27,7 @@ std::string spoken_item(const list_box& told, std::size_t item) {
 bool silent(const control& told) {
     const bool no_words = spoken_name(told).empty();
     if (told.kind == control_kind::frame) return no_words;
+    if (told.kind == control_kind::picture_box) return spoken_description(told).empty();
     return told.kind == control_kind::label && (no_words || static_cast<const label&>(told).card != nullptr);
 }
 

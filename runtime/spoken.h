@@ -11,7 +11,7 @@ std::string spoken_name(const control& told);
 std::string spoken_description(const control& told);
 // A title with what became of it.
 std::string spoken_item(const list_box& told, std::size_t item);
-// An empty text, a text that its button says already, an empty panel.
+// An empty text, a text that its button says already, a panel without a name, a picture of which nothing is said.
 bool silent(const control& told);
 
 } // namespace cijferwerf
