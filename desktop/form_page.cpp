@@ -204,7 +204,13 @@ void form_page::resizeEvent(QResizeEvent*) {
 void form_page::paintEvent(QPaintEvent*) {
     if (form_.overlay) return;
     QPainter on(this);
-    on.fillRect(rect(), theme::colour(behind_.ground));
+    QRegion seen(rect()); // without what panels cover
+    const int corners = static_cast<int>(std::ceil(look::largest_corner * unit_)) + 1;
+    for (const placed_control& placed : placed_)
+        if (placed.shown.visible &&
+            (placed.shown.role == theme_role::panel || placed.shown.kind == control_kind::list_box))
+            seen -= placed.widget->geometry().adjusted(corners, corners, -corners, -corners);
+    for (const QRect& part : seen) on.fillRect(part, theme::colour(behind_.ground));
     if (behind_.bar_height > 0)
         on.fillRect(0, 0, width(), static_cast<int>(std::lround(corner_.y() + behind_.bar_height * unit_)),
                     theme::colour(behind_.bar));

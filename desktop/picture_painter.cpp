@@ -4,6 +4,7 @@
 #include "runtime/drawn.h"
 
 #include <QFontMetricsF>
+#include <QHash>
 
 #include <algorithm>
 #include <cmath>
@@ -138,14 +139,18 @@ private:
 
 } // namespace
 
+// Each font is made once, and what it finds out about itself is then found out once too. They outlive the application.
 QFont twip_font(double points, bool bold) {
+    static auto& made = *new QHash<std::pair<int, bool>, QFont>;
+    const int size = std::max(1, static_cast<int>(std::lround(points * 20)));
+    if (const auto found = made.constFind({size, bold}); found != made.constEnd()) return *found;
     QFont font(faces);
     font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(points * 20))));
+    font.setPixelSize(size);
     font.setBold(bold);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setKerning(false); // lines are laid out by adding up widths
-    return font;
+    return *made.insert({size, bold}, font);
 }
 
 const QImage& picture_cache::scaled(const std::string& file, QSize size) {

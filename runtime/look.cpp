@@ -332,7 +332,11 @@ void painter::paint_label(const label& shown) {
     case lesson_title: return text(box_, shown.caption, set(true, ink), at);
     case lesson_word: return text(box_, shown.caption, set(true, colours_.dark), at);
     case lesson_value: return text(box_, shown.caption, set(true, ink), align::middle);
-    default: return text(box_, shown.caption, set(false, ink), at);
+    default: {
+        const auto* names = static_cast<const label*>(shown.caption_of);
+        const bool whole = names != nullptr && names->subdued; // the value of which others are a part
+        return text(box_, shown.caption, set(whole, ink), at);
+    }
     }
 }
 

@@ -100,7 +100,6 @@ TEST_F(screens, can_be_read_in_every_state_and_colour) {
     const control_state states[]{{}, {.hovered = true}, {.hovered = true, .pressed = true}, {.focused = true}};
     for (int round = 0; round < 3; ++round) {
         for (int i = 1; i <= 4; ++i) practice.knop[i].result = results[(i + round) % 4];
-        for (button& each : practice.knop) each.width = 4240;
         for (int i = 1; i <= 4; ++i) practice.knop[i].enabled = practice.knop[i].result == answer_result::open;
         practice.berichtvlak.tone = practice.uitleg_bericht.tone = practice.bericht[0].tone = static_cast<tone>(round);
         practice.berichtvlak.header_height = 465;
