@@ -298,7 +298,6 @@ void dress_application() {
     load_shipped_face();
     qApp->installEventFilter(new held_keys(qApp));
     install_accessibility();
-    QApplication::setPalette(theme::palette());
     QFont font = twip_font(box_points);
     font.setPixelSize(14);
     QApplication::setFont(font);

@@ -97,18 +97,6 @@ private:
 
 } // namespace
 
-QPalette palette() {
-    const QColor ink = colour(look::ink), paper = colour(look::paper);
-    QPalette colours(paper, ground);
-    colours.setColor(QPalette::WindowText, ink);
-    colours.setColor(QPalette::Text, ink);
-    colours.setColor(QPalette::ButtonText, ink);
-    colours.setColor(QPalette::Base, paper);
-    colours.setColor(QPalette::Highlight, colour(look::accent));
-    colours.setColor(QPalette::HighlightedText, paper);
-    return colours;
-}
-
 void paint(QPainter& on, const scene& shown, QPointF origin, double unit, picture_cache& pictures) {
     on.setRenderHint(QPainter::Antialiasing);
     replay each(on, origin, unit, pictures);

@@ -5,15 +5,10 @@
 #include "desktop/picture_painter.h"
 #include "runtime/look.h"
 
-#include <QPalette>
-
 namespace cijferwerf::theme {
 
 inline QColor colour(rgb24 of) { return QColor::fromRgb(of); }
 inline const QColor ground = colour(look::ground);
-
-// What message boxes and scroll bars are coloured with.
-QPalette palette();
 
 // The scene's origin is in the painter's coordinates; unit is how many of them there are to a twip.
 void paint(QPainter& on, const scene& shown, QPointF origin, double unit, picture_cache& pictures);

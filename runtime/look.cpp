@@ -15,7 +15,8 @@ namespace {
 using fill_colour = std::optional<rgb24>;
 constexpr std::nullopt_t none = std::nullopt;
 
-constexpr int hairline = 15, hovered_edge = 30, chosen_edge = 45, box_edge = 22, focus_edge = 42, focus_gap = 24;
+constexpr int hairline = 15, hovered_edge = 30, chosen_edge = 45, box_edge = 22, focus_edge = 42,
+              strong_focus_edge = 63, focus_gap = 24;
 constexpr int panel_corner = 120, button_corner = 105, menu_corner = 150, start_corner = 180, letter_corner = 90,
               key_corner = 75, row_corner = 75;
 constexpr int button_padding = 105;
@@ -227,7 +228,7 @@ private:
         add_text(made_, in, caption, set, at, mnemonic);
     }
     void ring(int radius) {
-        if (now_.focused) add_focus(made_, box_, radius, with_.high_contrast ? 2 * focus_edge : focus_edge);
+        if (now_.focused) add_focus(made_, box_, radius, with_.high_contrast ? strong_focus_edge : focus_edge);
     }
     bool active() const { return now_.hovered || now_.pressed; }
     template<class Fits>
@@ -635,7 +636,7 @@ void heighten(scene& shown) {
     for (scene_op& op : shown) {
         if (auto* box = std::get_if<scene_box>(&op)) {
             if (box->fill && contrast(*box->fill, paper) < 1.6) box->fill = paper;
-            const bool ring = box->thick == 2 * focus_edge || box->thick == focus_gap;
+            const bool ring = box->thick == strong_focus_edge || box->thick == focus_gap;
             if (box->edge && !ring) {
                 if (*box->edge != green && *box->edge != red && *box->edge != accent && *box->edge != paper)
                     box->edge = ink;
