@@ -37,6 +37,8 @@ TEST(layout, lays_answers_two_by_two_where_they_fit_and_in_a_column_where_they_m
         EXPECT_EQ(made.teksten[3].left, row.last_left) << row.widest;
         EXPECT_EQ(made.teksten[3].top, row.last_top) << row.widest;
         EXPECT_EQ(made.past(row.widest), row.fits) << row.widest;
+        const place card = made.kaarten[3], text = made.teksten[3];
+        EXPECT_TRUE(card.top == text.top && card.left + card.width == text.left + text.width) << row.widest;
     }
 }
 
