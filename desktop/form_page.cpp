@@ -218,8 +218,7 @@ void form_page::paintEvent(QPaintEvent*) {
 
 void form_page::paint(QWidget& widget, const scene& face, const control& shown, picture_cache& pictures) const {
     QPainter on(&widget);
-    const QPointF origin = corner_ + QPointF(shown.left, shown.top) * unit_ - widget.pos();
-    theme::paint(on, face, origin, unit_, pictures);
+    theme::paint(on, face, origin_of(shown, widget.pos()), unit_, pictures);
 }
 
 // ---- from the widgets to the handlers ----

@@ -29,6 +29,10 @@ public:
     double unit() const { return unit_; } // pixels per twip
     QPoint place_of(point on_form) const { return (corner_ + QPointF(on_form.x, on_form.y) * unit_).toPoint(); }
     look_settings settings() const { return desktop_settings(); }
+    // Where a control begins, to the fraction of a pixel, on a widget whose corner is here on the page.
+    QPointF origin_of(const control& shown, QPoint corner) const {
+        return corner_ + QPointF(shown.left, shown.top) * unit_ - corner;
+    }
     // Paints the face of a control on its widget.
     void paint(QWidget& widget, const scene& face, const control& shown, picture_cache& pictures) const;
     // Copies what has changed in the controls since the last time, and moves the focus where the form wants it.

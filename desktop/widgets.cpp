@@ -5,6 +5,7 @@
 #include <QEvent>
 #include <QStyledItemDelegate>
 
+#include <algorithm>
 #include <cmath>
 
 namespace cijferwerf {
@@ -27,9 +28,10 @@ public:
         const place row = row_place(list_.shown_, index.row());
         const bool hovered = (option.state & QStyle::State_MouseOver) != 0;
         const double unit = list_.page_.unit();
+        const double left = list_.page_.origin_of(list_.shown_, list_.pos() + list_.viewport()->pos()).x();
         on->save();
         theme::paint(*on, row_of(list_.page_.shown(), list_.shown_, index.row(), hovered, list_.page_.settings()),
-                     QPointF(option.rect.topLeft()) - QPointF(row.left, row.top) * unit, unit, list_.pictures_);
+                     QPointF(left, option.rect.top() - row.top * unit), unit, list_.pictures_);
         on->restore();
     }
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex& index) const override {
@@ -54,7 +56,8 @@ list_widget::list_widget(const list_box& shown, form_page& page) : QListWidget(&
 
 void list_widget::lay_out() {
     const place first = row_place(shown_, 0);
-    const int aside = static_cast<int>(std::lround(first.left * page_.unit()));
+    const int aside =
+        std::max(0, static_cast<int>(first.left * page_.unit()) - 1); // a row has room where it is rounded
     setViewportMargins(aside, static_cast<int>(std::lround(first.top * page_.unit())), aside, 0);
     doItemsLayout();
 }

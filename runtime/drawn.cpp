@@ -41,8 +41,8 @@ public:
             at(from);
             at(to);
         }
-        for (double quarter = whole ? 0 : std::ceil(from / 90) * 90; quarter <= (whole ? 270 : to); quarter += 90)
-            at(quarter);
+        const int first = static_cast<int>(std::ceil(from / 90));
+        for (int quarter = whole ? 0 : first; quarter <= (whole ? 3 : to / 90); ++quarter) at(quarter * 90);
     }
     void operator()(const polygon_op& op) {
         for (const point& corner : op.corners) take(corner, op.filled ? 0 : half(op.pen));

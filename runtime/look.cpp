@@ -457,9 +457,10 @@ void painter::paint_row(const list_box& list, int row, bool hovered) {
     if (mark == list_box::item_mark::later) add_disc(made_, centre, 58, inverted ? paper : soft);
 }
 
+// The edge comes last: where it is thinner than a pixel, it lies on the picture's.
 void painter::paint_picture(const picture_box& shown) {
-    if (shown.role == theme_role::picture) box(box_.inset(-hairline), 0, none, edge);
     made_.emplace_back(scene_drawing{box_, &shown, true});
+    if (shown.role == theme_role::picture) box(box_.inset(-hairline), 0, none, edge);
 }
 
 // ---- buttons ----
