@@ -84,10 +84,11 @@ private:
     desktop& of_;
 };
 
-// Over a page while a message box is open: darkens it and keeps pointer and keyboard from it.
+// Over a page while a message box is open: darkens it and keeps pointer and keyboard from it. Where the box lies in
+// another window, that one gets the keys again when the pupil points at this one.
 class desktop::shade : public QWidget {
 public:
-    explicit shade(form_page& over) : QWidget(&over), had_focus_(over.focusWidget()) {
+    shade(form_page& over, const desktop& of) : QWidget(&over), of_(of), had_focus_(over.focusWidget()) {
         over.installEventFilter(this);
         setGeometry(over.rect());
         show();
@@ -112,6 +113,7 @@ protected:
             setGeometry(parentWidget()->rect());
             place_box();
         }
+        if (event->type() == QEvent::WindowActivate && of_.box_page_ != nullptr) of_.box_page_->activateWindow();
         return false;
     }
     void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), QColor(0x17, 0x20, 0x2E, 0x73)); }
@@ -126,6 +128,7 @@ private:
         box_->setGeometry(QRect(rect().center() - QRect({}, size).center(), size));
     }
 
+    const desktop& of_;
     QPointer<QWidget> had_focus_;
     form_page* box_ = nullptr;
 };
@@ -256,7 +259,7 @@ void desktop::open_box(berichtvenster& box, const form& over) {
     if (!pages_.empty()) seen.push_back(pages_.back());
     const auto asking = std::ranges::find(seen, page(over));
     std::swap(seen.back(), asking == seen.end() ? seen.back() : *asking);
-    for (form_page* each : seen) shades_.push_back(new shade(*each));
+    for (form_page* each : seen) shades_.push_back(new shade(*each, *this));
 
     box_page_ = new form_page(
         box, [this](const auto& handler) { run_in_box(handler); }, shades_.back());
