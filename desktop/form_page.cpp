@@ -119,6 +119,7 @@ void form_page::update_widgets() {
     updating_ = true;
     if (const backdrop behind = backdrop_of(form_, settings()); behind != behind_) {
         behind_ = behind;
+        fit();
         update();
     }
     for (placed_control& placed : placed_) {
@@ -194,13 +195,14 @@ void form_page::lay_out(placed_control& placed) {
     if (auto* list = dynamic_cast<list_widget*>(placed.widget)) list->lay_out();
 }
 
-void form_page::resizeEvent(QResizeEvent*) {
+void form_page::fit() {
     unit_ = std::min(1.0 * width() / form_.width, 1.0 * height() / form_.height);
     corner_ = QPointF(width() - form_.width * unit_, height() - form_.height * unit_) / 2;
+    if (behind_.bar_height > 0) corner_.setY(0); // a bar stays at the top
     for (placed_control& placed : placed_) lay_out(placed);
 }
 
-// The bar goes on to the edges of the window, where that is wider or higher than the form.
+// The bar goes on to the edges of the window, where that is wider than the form.
 void form_page::paintEvent(QPaintEvent*) {
     if (form_.overlay) return;
     QPainter on(this);
@@ -212,7 +214,7 @@ void form_page::paintEvent(QPaintEvent*) {
             seen -= placed.widget->geometry().adjusted(corners, corners, -corners, -corners);
     for (const QRect& part : seen) on.fillRect(part, theme::colour(behind_.ground));
     if (behind_.bar_height > 0)
-        on.fillRect(0, 0, width(), static_cast<int>(std::lround(corner_.y() + behind_.bar_height * unit_)),
+        on.fillRect(0, 0, width(), static_cast<int>(std::lround(behind_.bar_height * unit_)),
                     theme::colour(behind_.bar));
 }
 

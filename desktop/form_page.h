@@ -40,7 +40,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override;
-    void resizeEvent(QResizeEvent*) override;
+    void resizeEvent(QResizeEvent*) override { fit(); }
     void keyPressEvent(QKeyEvent*) override;
     void closeEvent(QCloseEvent*) override;
     bool eventFilter(QObject*, QEvent*) override;
@@ -53,6 +53,7 @@ private:
     void copy(placed_control& placed);
     const placed_control* placed(const QObject* widget) const;
     void lay_out(placed_control& placed);
+    void fit();
     void clicked(control& on);
     bool key_pressed(control* focused, const QKeyEvent& event);
     bool stray_click(QObject* on, const QEvent& event);
