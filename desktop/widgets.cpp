@@ -69,4 +69,10 @@ bool list_widget::event(QEvent* event) {
     return true;
 }
 
+// While nothing is chosen the toolkit takes every key for the first row.
+QModelIndex list_widget::moveCursor(CursorAction action, Qt::KeyboardModifiers with) {
+    if (action == MoveEnd) return model()->index(count() - 1, 0);
+    return QListWidget::moveCursor(action, with);
+}
+
 } // namespace cijferwerf

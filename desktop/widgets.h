@@ -45,6 +45,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers with) override;
 
 private:
     class entry_painter;

@@ -270,12 +270,16 @@ double painter::grown(double own_points, Fits fits) const {
     return own_points;
 }
 
-// Of the control's text: as large as all controls of its name have room for.
+// Of the control's text: as large as all controls of its name have room for; options are all alike.
 double painter::points(bool bold, int room) const {
+    const auto alike = [this](const control& each) {
+        return each.name == shown_.name ||
+               (each.kind == control_kind::option_button && shown_.kind == control_kind::option_button);
+    };
     return grown(shown_.font_size, [&](double tried) {
         const type set{tried, bold};
         return std::ranges::all_of(form_.controls(), [&](const control* each) {
-            if (each->name != shown_.name) return true;
+            if (!alike(*each)) return true;
             const auto lines = lines_of(each->caption, set, 0);
             return static_cast<int>(lines.size()) * text_height(tried) <= each->height &&
                    std::ranges::all_of(lines, [&](const std::string& line) { return width_in(line, set) <= room; });
