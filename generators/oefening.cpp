@@ -11,8 +11,12 @@ namespace cijferwerf {
 void oefening::maak_leeg() {
     for (tekstregels* lines : {&vraagregels, &uitlegregels, &tipregels_1, &tipregels_2, &foutregels_2, &foutregels_3,
                                &foutregels_4, &uitlegopdrachten})
-        lines->fill(std::string(leeg));
+        for (std::string& line : *lines) { // each keeps its room for the next exercise
+            line.resize(1);
+            line[0] = ' ';
+        }
     for (int i = 1; i <= 4; ++i) antwoord(i).clear();
+    vergeet_plakregels();
     juiste_positie = 0;
     hulpmiddel = leeg;
     tijdlimiet = 0;
@@ -31,33 +35,32 @@ void oefening::snel_bord(int ticks, double size) {
     tijdlimiet = ticks;
 }
 
-void oefening::toon_snelle_som(int ticks, const std::string& som) {
+void oefening::toon_snelle_som(int ticks, std::string_view som) {
     constexpr int links = 500;
     const bool past = links + text_width(som, 20) <= drawing::inner_width - 200;
     snel_bord(ticks, past ? 20 : 15);
     druk(links, 300, som);
 }
 
-void oefening::opdracht(std::string line) {
+void oefening::opdracht(std::string_view line) {
     if (line.empty() || line == leeg) return;
     for (std::string& slot : uitlegopdrachten)
         if (slot == leeg) {
-            slot = std::move(line);
+            slot = line;
             return;
         }
-    stop_run("an eighth drawing command: " + line);
+    stop_run("an eighth drawing command: " + std::string(line));
 }
 
 void oefening::druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som,
-                                     const std::string& antwoord) {
+                                     std::string_view antwoord) {
     som = kaal(som);
     plaatje.text_size = punten;
     druk_machten(x - text_width(" ", punten) - breedte_met_machten(som, punten), y, som);
     opdracht(druk_opdracht(x, y, in, punten, kaal(antwoord)));
 }
 
-void oefening::druk_antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen,
-                                          const std::string& antwoord) {
+void oefening::druk_antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen, std::string_view antwoord) {
     const double punten = plaatje.text_size;
     const int breedte = text_width(stippen, punten);
     const int ruimte = std::max(breedte, text_width(kaal(antwoord), punten) + 2 * text_width(" ", punten));
@@ -76,23 +79,34 @@ int oefening::trek_eronder(int lager, int hoger) {
     return trek_van(std::max(0, 3 - hoger), std::min(3, lager));
 }
 
-void oefening::druk_delen(int x, int y, std::initializer_list<regeldeel> delen) { plaatje.print_at(x, y, plak(delen)); }
+void oefening::druk_delen(int x, int y, std::initializer_list<regeldeel> delen) {
+    plaatje.print_at(x, y, plak_even(delen));
+}
 
-void oefening::volgende_fout(regeldeel text, std::initializer_list<tekstregel> feedback) {
+void oefening::volgende_fout(regeldeel text, std::initializer_list<std::string_view> feedback) {
     const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
-    antwoord(which) = plak({text});
+    antwoord(which) = std::string_view(plak_even({text}));
     schrijf(foutregels(which), 0, feedback);
 }
 
-void oefening::zet_op_plaats(int plaats, regeldeel text, std::initializer_list<tekstregel> feedback) {
-    antwoord(plaats) = plak({text});
+void oefening::zet_op_plaats(int plaats, regeldeel text, std::initializer_list<std::string_view> feedback) {
+    antwoord(plaats) = std::string_view(plak_even({text}));
     if (plaats != juiste_positie) schrijf(foutregels(getoond_antwoord(plaats, juiste_positie)), 0, feedback);
 }
 
-void oefening::fout_met(std::string text, const melding& feedback) {
+void oefening::fout_met(std::string_view text, const melding& feedback) {
     const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
-    antwoord(which) = std::move(text);
+    antwoord(which) = text;
     schrijf_melding(foutregels(which), feedback);
+}
+
+void oefening::schrijf_melding(tekstregels& to, const melding& feedback) {
+    for (std::size_t i = 0; i < feedback.size(); ++i)
+        if (const std::string_view line = feedback[i]; !line.empty()) to[i] = line;
+}
+
+void oefening::schrijf(tekstregels& to, std::size_t first, std::initializer_list<std::string_view> lines) {
+    for (const std::string_view line : lines) to[first++] = line;
 }
 
 oefening::vier_keuzes oefening::verdeeld(std::span<const keuze<>> opties) {

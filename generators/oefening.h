@@ -21,24 +21,6 @@
 
 namespace cijferwerf {
 
-// A line on its way into a record: a glued one is moved there, any other is copied.
-class tekstregel {
-public:
-    tekstregel(std::string&& geplakt) : geplakt_(&geplakt) {}
-    template<std::convertible_to<std::string_view> Text>
-    tekstregel(const Text& vast) : vast_(vast) {}
-    void schrijf_in(std::string& slot) const {
-        if (geplakt_ != nullptr)
-            slot = std::move(*geplakt_);
-        else
-            slot = vast_;
-    }
-
-private:
-    std::string* geplakt_ = nullptr;
-    std::string_view vast_;
-};
-
 // Seven lines of text; a single blank is an empty line.
 using tekstregels = std::array<std::string, 7>;
 
@@ -88,7 +70,7 @@ protected:
     // Element n of a list, counted from 1 as sub-variants and places are; outside the list ends the run.
     template<class List>
     static auto& rij(List& list, int n) {
-        if (n < 1 || n > static_cast<int>(std::size(list))) throw checked_error("no row " + std::to_string(n));
+        if (n < 1 || n > static_cast<int>(std::size(list))) stop_run("no row " + std::to_string(n));
         return list[static_cast<std::size_t>(n - 1)];
     }
     // The result of the first draw that fits; the draw is meant to fit nearly always at once.
@@ -96,7 +78,7 @@ protected:
     auto trek_tot(Draw draw, Fits fits) {
         for (int tries = 0; tries < 10'000; ++tries)
             if (auto drawn = draw(); fits(drawn)) return drawn;
-        throw checked_error("an exercise found no draw that fits its condition");
+        stop_run("an exercise found no draw that fits its condition");
     }
     // The list in random order; so that its first few are different picks.
     template<class List>
@@ -104,6 +86,14 @@ protected:
         for (std::size_t left = std::size(list); left > 1; --left)
             std::swap(list[left - 1], list[static_cast<std::size_t>(trek(static_cast<int>(left)))]);
         return list;
+    }
+
+    // ---- lines ----
+
+    // Glues a line for this exercise only; in other respects it is the regel() of everyone.
+    template<line_part... Parts>
+    static plakregel regel(const Parts&... parts) {
+        return plak_even({regeldeel(parts)...});
     }
 
     // ---- picture ----
@@ -142,32 +132,32 @@ protected:
 
     // The question, from its second line on (the first always stays empty): at most six lines.
     template<class... Lines>
-    void vraag(Lines&&... lines) {
+    void vraag(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(vraagregels, 1, {tekstregel(std::forward<Lines>(lines))...});
+        schrijf(vraagregels, 1, {std::string_view(lines)...});
     }
     template<class... Lines>
-    void tip_1(Lines&&... lines) {
+    void tip_1(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(tipregels_1, 0, {tekstregel(std::forward<Lines>(lines))...});
+        schrijf(tipregels_1, 0, {std::string_view(lines)...});
     }
     template<class... Lines>
-    void tip_2(Lines&&... lines) {
+    void tip_2(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(tipregels_2, 0, {tekstregel(std::forward<Lines>(lines))...});
+        schrijf(tipregels_2, 0, {std::string_view(lines)...});
     }
     template<class... Lines>
-    void uitleg(Lines&&... lines) {
+    void uitleg(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(uitlegregels, 0, {tekstregel(std::forward<Lines>(lines))...});
+        schrijf(uitlegregels, 0, {std::string_view(lines)...});
     }
     // One more drawing command of the explanation, or several; an empty line is none. There are at most seven in all:
     // an eighth ends the run.
-    void opdracht(std::string line);
+    void opdracht(std::string_view line);
     template<class... Lines>
-    void opdrachten(Lines&&... lines) {
+    void opdrachten(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 7);
-        (opdracht(std::string(std::forward<Lines>(lines))), ...);
+        (opdracht(lines), ...);
     }
 
     // Draws a sum in the board's colour so that it ends a blank before (x, y), where the explanation prints the answer
@@ -189,13 +179,13 @@ protected:
     // The right answer, where the four are shuffled.
     template<line_part Text>
     void goed(const Text& text) {
-        antwoord_1 = regel(text);
+        antwoord_1 = std::string_view(regel(text));
     }
     // The next wrong answer; three in all, a fourth ends the run.
     template<line_part Text, class... Lines>
-    void fout(const Text& text, Lines&&... feedback) {
+    void fout(const Text& text, const Lines&... feedback) {
         static_assert(sizeof...(Lines) <= 6);
-        volgende_fout(text, {tekstregel(std::forward<Lines>(feedback))...});
+        volgende_fout(text, {std::string_view(feedback)...});
     }
 
     // For answers with fixed places: the place, 1 to 4, of the right one. Say this first.
@@ -203,9 +193,9 @@ protected:
     // The answer at this place, with what the pupil is told when it is picked and wrong (at the right place the
     // feedback is left out).
     template<line_part Text, class... Lines>
-    void op_plaats(int plaats, const Text& text, Lines&&... feedback) {
+    void op_plaats(int plaats, const Text& text, const Lines&... feedback) {
         static_assert(sizeof...(Lines) <= 6);
-        zet_op_plaats(plaats, text, {tekstregel(std::forward<Lines>(feedback))...});
+        zet_op_plaats(plaats, text, {std::string_view(feedback)...});
     }
     // Fixes the places of answers that were written with goed() and fout(): the right one stands at this place and
     // every button keeps the feedback of the answer that it shows.
@@ -294,22 +284,24 @@ private:
             if (!komt_voor && k.waarde != juist && (k.waarde > Value{} || !(juist > Value{}))) andere.push_back(&k);
         }
         andere = geschud(std::move(andere));
-        const auto hoger = std::stable_partition(andere.begin(), andere.end(),
-                                                 [&](const keuze<Value>* k) { return k->waarde < juist; });
-        const auto lager = static_cast<int>(hoger - andere.begin());
+        std::vector<const keuze<Value>*> op_rij(andere.size()); // those below the right one, then those above
+        const auto is_lager = [&juist](const keuze<Value>* k) { return k->waarde < juist; };
+        const auto hoger = std::copy_if(andere.begin(), andere.end(), op_rij.begin(), is_lager);
+        std::remove_copy_if(andere.begin(), andere.end(), hoger, is_lager);
+        const auto lager = static_cast<int>(hoger - op_rij.begin());
         const int eronder = trek_eronder(lager, static_cast<int>(andere.size()) - lager);
-        std::rotate(andere.begin() + eronder, hoger, andere.end()); // after those below come the first of those above
-        return geschud(std::array{andere[0], andere[1], andere[2]});
+        std::rotate(op_rij.begin() + eronder, hoger, op_rij.end());
+        return geschud(std::array{op_rij[0], op_rij[1], op_rij[2]});
     }
     // Draws how many of three mistakes lie below the right answer, when so many do and so many lie above it.
     int trek_eronder(int lager, int hoger);
-    void volgende_fout(regeldeel text, std::initializer_list<tekstregel> feedback);
-    void zet_op_plaats(int plaats, regeldeel text, std::initializer_list<tekstregel> feedback);
+    void volgende_fout(regeldeel text, std::initializer_list<std::string_view> feedback);
+    void zet_op_plaats(int plaats, regeldeel text, std::initializer_list<std::string_view> feedback);
     void druk_delen(int x, int y, std::initializer_list<regeldeel> delen);
-    void fout_met(std::string text, const melding& feedback);
-    void toon_snelle_som(int ticks, const std::string& som);
-    void druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som, const std::string& antwoord);
-    void druk_antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen, const std::string& antwoord);
+    void fout_met(std::string_view text, const melding& feedback);
+    void toon_snelle_som(int ticks, std::string_view som);
+    void druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som, std::string_view antwoord);
+    void druk_antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen, std::string_view antwoord);
     // Four options, the first of them right, in the order in which they will stand; sets the place of the right one.
     vier_keuzes verdeeld(std::span<const keuze<>> opties);
     // Draws each option behind its word, on a bar where there are bars, and makes the words the answers.
@@ -317,13 +309,8 @@ private:
                      const vier_keuzes& opties, const std::array<kleur, 4>* balken);
     void toon_kleurkeuze(point plaats, int regelhoogte, const std::array<kleur, 4>& kleuren, const vier_keuzes& opties);
 
-    static void schrijf_melding(tekstregels& to, const melding& feedback) {
-        for (std::size_t i = 0; i < feedback.size(); ++i)
-            if (const std::string_view line = feedback[i]; !line.empty()) to[i] = line;
-    }
-    static void schrijf(tekstregels& to, std::size_t first, std::initializer_list<tekstregel> lines) {
-        for (const tekstregel& line : lines) line.schrijf_in(to[first++]);
-    }
+    static void schrijf_melding(tekstregels& to, const melding& feedback);
+    static void schrijf(tekstregels& to, std::size_t first, std::initializer_list<std::string_view> lines);
 };
 
 } // namespace cijferwerf

@@ -2,8 +2,8 @@
 // They paint nothing and decide nothing; the form that owns them does.
 #pragma once
 
-#include "runtime/checked_error.h"
 #include "runtime/picture_box.h"
+#include "runtime/stop_run.h"
 #include "runtime/subject.h"
 
 #include <array>
@@ -167,8 +167,8 @@ class control_array {
 public:
     Control& operator[](int index) {
         if (index < First || index > Last)
-            throw checked_error("control array index " + std::to_string(index) + " outside " + std::to_string(First) +
-                                " to " + std::to_string(Last));
+            stop_run("control array index " + std::to_string(index) + " outside " + std::to_string(First) + " to " +
+                     std::to_string(Last));
         return elements_[static_cast<std::size_t>(index - First)];
     }
     auto begin() { return elements_.begin(); }

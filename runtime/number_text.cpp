@@ -1,6 +1,10 @@
 #include "runtime/number_text.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <memory>
+#include <vector>
 
 namespace cijferwerf {
 
@@ -119,26 +123,126 @@ number_text kaal(const number_text& number) {
 
 number_text kaal(long long number) { return kaal(tekst(number)); }
 
-void regeldeel::voeg_toe_aan(std::string& line) const {
-    if (soort_ == soort::geheel) {
-        std::array<char, 32> buffer{};
-        if (geheel_ < 0)
-            line += '-';
-        else if (!line.ends_with(' '))
-            line += ' ';
-        line += digits(magnitude(geheel_), buffer);
-    } else if (soort_ == soort::getal && tekst_.starts_with(' ') && line.ends_with(' '))
-        line += tekst_.substr(1);
-    else
-        line += tekst_;
+namespace {
+
+// Copies a text and returns the end of the copy. The lengths come as they like, which the library's copying, made for
+// long ones, guesses wrong at every step: here pieces overlap instead.
+char* copied(std::string_view text, char* to) {
+    const char* from = text.data();
+    const std::size_t length = text.size();
+    char* const end = to + length;
+    if (length >= 16) {
+        const char* const last = from + length - 16;
+        for (; from < last; from += 16, to += 16) std::memcpy(to, from, 16);
+        std::memcpy(end - 16, last, 16);
+    } else if (length >= 8) {
+        std::memcpy(to, from, 8);
+        std::memcpy(end - 8, from + length - 8, 8);
+    } else if (length >= 4) {
+        std::memcpy(to, from, 4);
+        std::memcpy(end - 4, from + length - 4, 4);
+    } else if (length > 0) {
+        to[0] = from[0];
+        to[length / 2] = from[length / 2];
+        end[-1] = from[length - 1];
+    }
+    return end;
 }
 
+} // namespace
+
+char* regeldeel::schrijf(const char* begin, char* end) const {
+    const bool after_blank = end != begin && end[-1] == ' ';
+    if (maat_ == geheel) {
+        if (geheel_ < 0)
+            *end++ = '-';
+        else if (!after_blank)
+            *end++ = ' ';
+        std::array<char, 32> buffer;
+        const std::string_view all = digits(magnitude(geheel_), buffer);
+        return copied(all, end);
+    }
+    std::string_view text = tekst();
+    if ((maat_ & getal) != 0 && after_blank && text.starts_with(' ')) text.remove_prefix(1);
+    return copied(text, end);
+}
+
+char* regeldeel::schrijf_kaal(char* end) const {
+    const number_text number = maat_ == geheel ? cijferwerf::tekst(geheel_) : number_text();
+    const std::string_view text = kaal(maat_ == geheel ? std::string_view(number) : tekst());
+    return copied(text, end);
+}
+
+namespace {
+
+// Characters for which there must be room, with a separator each.
+std::size_t room_for(std::initializer_list<regeldeel> delen) {
+    std::size_t room = 0;
+    for (const regeldeel& deel : delen) room += deel.hoogstens() + 1;
+    return room;
+}
+
+char* schrijf(std::initializer_list<regeldeel> delen, char* const begin) {
+    char* end = begin;
+    for (const regeldeel& deel : delen) end = deel.schrijf(begin, end);
+    return end;
+}
+
+// Where the lines of one exercise stand: one piece of memory that serves each anew, and more pieces once it is full.
+class scratch_pad {
+public:
+    // Where the next line is to be written.
+    char* room(std::size_t characters) {
+        if (left_ < characters) {
+            left_ = std::max(characters, first_.size());
+            next_ = more_.emplace_back(std::make_unique<char[]>(left_)).get();
+        }
+        return next_;
+    }
+    // The line that was written there, up to this end.
+    plakregel written(char* end) {
+        const std::string_view line(next_, static_cast<std::size_t>(end - next_));
+        left_ -= line.size();
+        next_ = end;
+        return plakregel(line);
+    }
+    void clear() {
+        more_.clear();
+        next_ = first_.data();
+        left_ = first_.size();
+    }
+
+private:
+    std::array<char, 16'384> first_;
+    std::vector<std::unique_ptr<char[]>> more_;
+    char* next_ = first_.data();
+    std::size_t left_ = first_.size();
+};
+thread_local scratch_pad this_exercise;
+
+} // namespace
+
 std::string plak(std::initializer_list<regeldeel> delen) {
-    std::string line;
-    line.reserve(64);
-    for (const regeldeel& deel : delen) deel.voeg_toe_aan(line);
+    std::string line(room_for(delen), ' ');
+    line.resize(static_cast<std::size_t>(schrijf(delen, line.data()) - line.data()));
     return line;
 }
+
+plakregel plak_even(std::initializer_list<regeldeel> delen) {
+    return this_exercise.written(schrijf(delen, this_exercise.room(room_for(delen))));
+}
+
+plakregel plak_velden(std::initializer_list<regeldeel> delen) {
+    char* const begin = this_exercise.room(room_for(delen));
+    char* end = begin;
+    for (const regeldeel& deel : delen) {
+        if (end != begin) *end++ = '_';
+        end = deel.schrijf_kaal(end);
+    }
+    return this_exercise.written(end);
+}
+
+void vergeet_plakregels() { this_exercise.clear(); }
 
 double lees_getal(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));

@@ -84,22 +84,52 @@ public:
     constexpr regeldeel(const Part& part) {
         if constexpr (whole_number<Part>) {
             geheel_ = static_cast<long long>(part);
-            soort_ = soort::geheel;
+            maat_ = geheel;
         } else {
-            tekst_ = part;
-            if constexpr (std::same_as<Part, number_text>) soort_ = soort::getal;
+            const std::string_view text = part;
+            tekst_ = text.data();
+            maat_ = std::same_as<Part, number_text> ? text.size() | getal : text.size();
         }
     }
-    void voeg_toe_aan(std::string& line) const;
+
+    // Writes itself behind the line that stands from `begin` to `end`, where there is room for it, and returns the new
+    // end; `kaal` without blanks around it.
+    char* schrijf(const char* begin, char* end) const;
+    char* schrijf_kaal(char* end) const;
+    std::size_t hoogstens() const { return maat_ == geheel ? 21 : tekst().size(); } // characters
 
 private:
-    enum class soort : std::uint8_t { tekst, geheel, getal };
+    // Beside the length of a text stands what it is: as small as can be, because the exercises are full of them.
+    static constexpr std::size_t getal = 1U << 30;
+    static constexpr std::size_t geheel = 1U << 29;
 
-    std::string_view tekst_;
-    long long geheel_ = 0;
-    soort soort_ = soort::tekst;
+    std::string_view tekst() const { return {tekst_, maat_ & ~getal}; }
+
+    union {
+        const char* tekst_;
+        long long geheel_;
+    };
+    std::size_t maat_;
 };
+
+// A line glued for the exercise under way. It is only looked at, costs nothing to hand on, and is gone when the next
+// exercise is begun: what lives longer keeps a std::string, into which it turns by itself.
+class plakregel {
+public:
+    explicit constexpr plakregel(std::string_view text) : text_(text) {}
+    constexpr plakregel(const char* literal) : text_(literal) {}
+    constexpr operator std::string_view() const { return text_; }
+    operator std::string() const { return std::string(text_); }
+    friend bool operator==(const plakregel& one, std::string_view other) { return one.text_ == other; }
+
+private:
+    std::string_view text_;
+};
+
 std::string plak(std::initializer_list<regeldeel> delen);
+plakregel plak_even(std::initializer_list<regeldeel> delen);
+plakregel plak_velden(std::initializer_list<regeldeel> delen);
+void vergeet_plakregels(); // an exercise is begun
 
 // Glues a line from its parts in the order in which they are read. A number, whole or in one of the forms above, has
 // its blank in front unless the line so far ends in one; texts go in as they stand.
@@ -110,14 +140,8 @@ std::string regel(const Parts&... parts) {
 
 // The fields of a drawing command joined by "_", numbers without a blank: velden(1, 2, 3) is "1_2_3".
 template<line_part... Parts>
-std::string velden(const Parts&... parts) {
-    std::string fields;
-    const auto add = [&fields](const auto& part) {
-        if (!fields.empty()) fields += '_';
-        fields += std::string_view(kaal(part));
-    };
-    (add(parts), ...);
-    return fields;
+plakregel velden(const Parts&... parts) {
+    return plak_velden({regeldeel(parts)...});
 }
 
 } // namespace cijferwerf

@@ -59,11 +59,18 @@ char32_t take_character(std::string_view& text) {
 int width_in(const face_widths& widths, std::string_view text, double points) {
     int units = 0;
     while (!text.empty()) {
+        if (const unsigned at = static_cast<unsigned char>(text.front()) - 0x20U; at < 0x60) {
+            units += widths[at];
+            text.remove_prefix(1);
+            continue;
+        }
         const char32_t character = take_character(text);
         const bool listed = character >= 0x20 && character < 0x20 + widths.size();
         units += listed ? widths[character - 0x20] : character == U'…' ? ellipsis_width : other_width;
     }
-    return static_cast<int>(std::lround(units / 2048.0 * points * 20));
+    const double width = units / 2048.0 * points * 20;
+    const int whole = static_cast<int>(width);
+    return width - whole < 0.5 ? whole : whole + 1;
 }
 
 } // namespace
@@ -84,23 +91,26 @@ void drawing::reset() {
     x = y = 0;
 }
 
-void drawing::print(std::string_view text) {
-    operations_.emplace_back(text_op{x, y, fore_colour, text_size, std::string(text)});
-    x += text_width(text, text_size);
+void drawing::print(std::string_view text) { print_at(x, y, text, text_width(text, text_size)); }
+
+void drawing::print_at(int left, int top, std::string_view text, int width) {
+    operations_.emplace_back(std::in_place_type<text_op>, left, top, fore_colour, text_size, std::string(text));
+    x = left + width;
+    y = top;
 }
 
 void drawing::print_at(int left, int top, std::string_view text) {
-    x = left;
-    y = top;
-    print(text);
+    print_at(left, top, text, text_width(text, text_size));
 }
 
 void drawing::print_centred(int middle, int top, std::string_view text) {
-    print_at(middle - text_width(text, text_size) / 2, top, text);
+    const int width = text_width(text, text_size);
+    print_at(middle - width / 2, top, text, width);
 }
 
 void drawing::print_right(int right, int top, std::string_view text) {
-    print_at(right - text_width(text, text_size), top, text);
+    const int width = text_width(text, text_size);
+    print_at(right - width, top, text, width);
 }
 
 void drawing::line(int x1, int y1, int x2, int y2, kleur with) {

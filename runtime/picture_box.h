@@ -141,6 +141,7 @@ public:
 
 private:
     cijferwerf::pen pen(kleur with) const { return {with, line_width, style}; }
+    void print_at(int left, int top, std::string_view text, int width);
     void add_box(int left, int top, int box_width, int box_height, kleur with, bool filled);
 
     std::vector<drawing_op> operations_;

@@ -2,26 +2,27 @@
 // Which of them are offered, and where they stand, is the exercise's.
 #pragma once
 
+#include "runtime/number_text.h"
+
 #include <array>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace cijferwerf {
 
-// A line that was glued for this exercise, or one that stands in the program as it is (and then is not copied).
+// A line that stands in the program as it is, or one that was glued for the exercise under way.
 class zin {
 public:
-    zin() = default;
-    zin(const char* literal) : vast_(literal) {}
+    constexpr zin() = default;
+    constexpr zin(const char* literal) : text_(literal) {}
     // The text must outlive the line, as the texts in a generator's tables do.
-    zin(std::string_view vast) : vast_(vast) {}
-    zin(std::string geplakt) : geplakt_(std::move(geplakt)) {}
-    operator std::string_view() const { return geplakt_.empty() ? vast_ : std::string_view(geplakt_); }
+    constexpr zin(std::string_view vast) : text_(vast) {}
+    constexpr zin(plakregel geplakt) : text_(geplakt) {}
+    zin(const std::string& text) : zin(plak_even({text})) {}
+    constexpr operator std::string_view() const { return text_; }
 
 private:
-    std::string geplakt_;
-    std::string_view vast_;
+    std::string_view text_;
 };
 
 using melding = std::array<zin, 6>; // lines; an empty one is not shown

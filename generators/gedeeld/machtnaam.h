@@ -2,8 +2,8 @@
 // What a power amounts to, and how it is drawn, is left to others.
 #pragma once
 
-#include "runtime/checked_error.h"
 #include "runtime/number_text.h"
+#include "runtime/stop_run.h"
 
 #include <array>
 
@@ -14,7 +14,7 @@ inline std::string_view machtnaam(int exponent) {
     static constexpr std::array<std::string_view, 8> namen{"in het kwadraat", "tot de derde",  "tot de vierde",
                                                            "tot de vijfde",   "tot de zesde",  "tot de zevende",
                                                            "tot de achtste",  "tot de negende"};
-    if (exponent < 2 || exponent > 9) throw checked_error(regel("no name for exponent", exponent));
+    if (exponent < 2 || exponent > 9) stop_run(regel("no name for exponent", exponent));
     return namen[static_cast<std::size_t>(exponent - 2)];
 }
 

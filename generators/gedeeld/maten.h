@@ -3,7 +3,7 @@
 #pragma once
 
 #include "generators/gedeeld/kommagetal.h"
-#include "runtime/checked_error.h"
+#include "runtime/stop_run.h"
 
 #include <array>
 #include <string>
@@ -72,13 +72,13 @@ consteval eenheid maat(std::string_view teken) {
     zoek_in(gewichtsmaten);
     zoek_in(inhoudsmaten);
     zoek_in(kubieke_maten);
-    if (gevonden.teken.empty()) throw checked_error("no unit with this sign");
+    if (gevonden.teken.empty()) stop_run("no unit with this sign");
     return gevonden;
 }
 
 // One of the first is 10 to this power of the second: 2 for m and cm, -2 for cm and m.
 constexpr int macht_tussen(const eenheid& van, const eenheid& naar) {
-    if (van.soort != naar.soort) throw checked_error("units of two quantities");
+    if (van.soort != naar.soort) stop_run("units of two quantities");
     return van.macht - naar.macht;
 }
 

@@ -6,13 +6,13 @@ namespace cijferwerf {
 
 namespace {
 
-std::string line(int x, int y, int dx, int dy, kleur in, std::string_view kind, line_style style) {
-    return regel("LINE_", velden(x, y, dx, dy, int{in}, kind, static_cast<int>(style)));
+plakregel line(int x, int y, int dx, int dy, kleur in, std::string_view kind, line_style style) {
+    return plak_even({"LINE_", velden(x, y, dx, dy, int{in}, kind, static_cast<int>(style))});
 }
 
 } // namespace
 
-std::string druk_opdracht(int y, kleur in, double points, std::initializer_list<stuk_tekst> stukken) {
+plakregel druk_opdracht(int y, kleur in, double points, std::initializer_list<stuk_tekst> stukken) {
     const double size = opdracht_punten(points);
     const double blank = text_width(std::string(100, ' '), size) / 100.0;
     const int start = stukken.size() == 0 ? 0 : stukken.begin()->x;
@@ -25,26 +25,26 @@ std::string druk_opdracht(int y, kleur in, double points, std::initializer_list<
     return druk_opdracht(start, y, in, points, text);
 }
 
-std::string vak_opdracht(int x, int y, int breedte, int hoogte, kleur in, line_style style) {
+plakregel vak_opdracht(int x, int y, int breedte, int hoogte, kleur in, line_style style) {
     return line(x, y, breedte, hoogte, in, "BF", style);
 }
 
-std::string kader_opdracht(int x, int y, int breedte, int hoogte, kleur in, line_style style) {
+plakregel kader_opdracht(int x, int y, int breedte, int hoogte, kleur in, line_style style) {
     return line(x, y, breedte, hoogte, in, "B", style);
 }
 
-std::string streep_opdracht(int x, int y, int dx, int dy, kleur in, line_style style) {
+plakregel streep_opdracht(int x, int y, int dx, int dy, kleur in, line_style style) {
     return line(x, y, dx, dy, in, "B", style);
 }
 
-std::string breuk_opdracht(int x, int y, int geheel, int teller, int noemer) {
-    return regel("BREUK1_", velden(x, y, geheel, teller, noemer));
+plakregel breuk_opdracht(int x, int y, int geheel, int teller, int noemer) {
+    return plak_even({"BREUK1_", velden(x, y, geheel, teller, noemer)});
 }
 
-std::string partjes_opdracht(int x, int y, int n) { return regel("PARTJES_", velden(x, y, n), "_"); }
+plakregel partjes_opdracht(int x, int y, int n) { return plak_even({"PARTJES_", velden(x, y, n), "_"}); }
 
-std::string doorstreep_opdracht(int x, int y, int px, int py, int getal) {
-    return regel("DOORSTREPEN_", velden(x, y, px, py, getal));
+plakregel doorstreep_opdracht(int x, int y, int px, int py, int getal) {
+    return plak_even({"DOORSTREPEN_", velden(x, y, px, py, getal)});
 }
 
 } // namespace cijferwerf

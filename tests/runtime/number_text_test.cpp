@@ -79,6 +79,17 @@ TEST(number_text, glues_a_line_with_the_blank_of_its_numbers_as_word_space) {
     EXPECT_EQ(velden("PRINT", 300, -40, punt(925, 2), "H o"), "PRINT_300_-40_9.25_H o");
 }
 
+TEST(number_text, keeps_every_line_of_an_exercise_until_it_is_forgotten) {
+    std::vector<std::pair<std::string, plakregel>> lines;
+    for (int length = 0; length < 300; ++length) {
+        std::string text;
+        for (int i = 0; i < length; ++i) text += static_cast<char>('a' + (length + i) % 26);
+        lines.emplace_back(text + " -5", plak_even({text, " ", -5}));
+    }
+    for (const auto& [text, line] : lines) EXPECT_EQ(std::string(line), text);
+    vergeet_plakregels();
+}
+
 TEST(number_text, reads_what_a_number_begins_with_and_never_fails) {
     const struct {
         std::string_view text;

@@ -142,7 +142,7 @@ void check_incomes(const reading& n) {
         const box_op green = bars(n.exercise)[2 * i + 1];
         EXPECT_EQ(green.x, 1420 + 900 * static_cast<int>(i));
         EXPECT_EQ(n.exercise.made.uitlegopdrachten[i],
-                  "LINE_" + velden(green.x, 1670, 300, -2 * green.height, 1) + "_B_1");
+                  regel("LINE_", velden(green.x, 1670, 300, -2 * green.height, 1), "_B_1"));
     }
 }
 
