@@ -67,14 +67,14 @@ TEST(mistakes, three_that_differ_are_drawn_with_their_own_feedback_and_no_rank_g
     };
     proef made;
     for (const auto& [right, pool, ranks, offered] : rows) {
-        std::vector<keuze<int>> mistakes;
-        std::set<int> seen_before;
-        for (const int value : pool)
-            mistakes.push_back({value, {seen_before.insert(value).second ? regel("fout", value) : "dubbel", "tweede"}});
         std::map<int, int> ranked;
         std::set<int> came, second; // answer 2 is not always on one side
         for (int round = 0; round < rounds; ++round) {
             made.begin();
+            std::vector<keuze<int>> mistakes; // lines glued for an exercise are gone with the next
+            std::set<int> before;
+            for (const int value : pool)
+                mistakes.push_back({value, {before.insert(value).second ? regel("fout", value) : "dubbel", "tweede"}});
             made.drie_andere(right, tekst, mistakes);
             ++ranked[made.rang()];
             EXPECT_EQ(made.antwoord_1, std::string(tekst(right)));
@@ -182,7 +182,7 @@ TEST(colours, have_letters_that_stand_out) {
 }
 
 TEST(four_options, stand_beside_the_word_that_answers_for_them) {
-    const std::string lang = "12.345,6 : 34,5 = 357,84 en dus niet 358";
+    constexpr std::string_view lang = "12.345,6 : 34,5 = 357,84 en dus niet 358";
     constexpr std::array<std::string_view, 4> namen{"Hr. Vermaat..... ", "Erna....... ", "Bep", "Mevr. Kroos.... "};
     constexpr std::array<std::string_view, 4> antwoorden{"Hr. Vermaat", "Erna", "Bep", "Mevr. Kroos"};
     constexpr std::array kleuren{rood, donkerblauw, wit, groen};
