@@ -68,15 +68,11 @@ protected:
     Widget& widget(const char* name) {
         return find<Widget>(outside, screen, name);
     }
+    std::string focused() { return outside.page(screen)->focusWidget()->objectName().toStdString(); }
 
     desktop outside;
     try_out screen{outside};
 };
-
-TEST_F(events, captions_arrive_whole) {
-    EXPECT_EQ(widget<QLabel>("tekst").text(), QString::fromUtf8("  één\ntwee & drie"));
-    EXPECT_EQ(widget<QPushButton>("knop").text(), "R && &B");
-}
 
 TEST_F(events, a_message_box_lets_nothing_through_but_its_answer) {
     screen.on_knop = [this] {
@@ -113,22 +109,40 @@ TEST_F(events, a_message_box_lets_nothing_through_but_its_answer) {
     }
 }
 
-TEST_F(events, clicks_while_a_handler_runs_are_not_let_in) {
-    screen.on_knop = [this] { widget<QPushButton>("knop").click(); };
-    click(widget("knop"));
-    EXPECT_EQ(screen.log, "knop ");
-}
-
-TEST_F(events, keys_go_to_the_form_with_what_has_the_focus) {
+TEST_F(events, keys_and_clicks_go_to_the_form_with_what_has_the_focus) {
+    EXPECT_EQ(widget<QLabel>("tekst").text(), QString::fromUtf8("  één\ntwee & drie"));
+    EXPECT_EQ(widget<QPushButton>("knop").text(), "R && &B");
     widget("lijst").setFocus();
     type(outside, screen, Qt::Key_Down);
     type(outside, screen, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(screen.lijst.selected, 0) << "the focus alone selects nothing";
     type(outside, screen, Qt::Key_K);
     widget("klik").setFocus();
     type(outside, screen, Qt::Key_Space);
     type(outside, screen, Qt::Key_Return); // the form lists Enter for the button
     EXPECT_EQ(screen.log, "toets13 knop klik knop ");
-    EXPECT_EQ(screen.lijst.selected, 0) << "the focus alone selects nothing";
+    std::string order;
+    for (int i = 0; i < 4; ++i) {
+        type(outside, screen, Qt::Key_Tab);
+        order += focused() + " ";
+    }
+    EXPECT_EQ(order, "knop lijst links rechts ");
+
+    screen.log = "";
+    for (const char* name : {"rechts", "links", "links"}) click(widget(name));
+    EXPECT_EQ(screen.log, "links links ");
+    EXPECT_TRUE(widget<QRadioButton>("links").isChecked() && !widget<QRadioButton>("rechts").isChecked());
+    EXPECT_EQ(focused(), "links");
+
+    const int before = screen.hovers;
+    QEnterEvent entered({5, 5}, {5, 5}, {5, 5});
+    QApplication::sendEvent(&widget("klik"), &entered);
+    QFocusEvent tabbed(QEvent::FocusIn, Qt::TabFocusReason);
+    QApplication::sendEvent(&widget("klik"), &tabbed);
+    EXPECT_EQ(screen.hovers, before + 2);
+    outside.run([this] { screen.focus = &screen.klik; });
+    EXPECT_EQ(screen.hovers, before + 2) << "a focus that is set is no hovering";
+    EXPECT_TRUE(focused() == "klik" && screen.focus == nullptr);
 }
 
 TEST_F(events, a_key_that_is_held_presses_once) {
@@ -161,16 +175,6 @@ TEST_F(events, a_key_that_is_held_presses_once) {
     answer_box(outside, "OK");
 }
 
-TEST_F(events, the_tab_key_goes_through_the_controls_in_the_order_of_the_form) {
-    widget("klik").setFocus();
-    QStringList order;
-    for (int i = 0; i < 4; ++i) {
-        type(outside, screen, Qt::Key_Tab);
-        order << outside.page(screen)->focusWidget()->objectName();
-    }
-    EXPECT_EQ(order, QStringList({"knop", "lijst", "links", "rechts"})) << order.join(' ').toStdString();
-}
-
 TEST_F(events, the_second_half_of_a_double_click_is_not_for_the_screen_that_the_first_opened) {
     const auto second_half = [](QWidget& on, QPoint at) {
         for (const auto type : {QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease}) {
@@ -188,76 +192,50 @@ TEST_F(events, the_second_half_of_a_double_click_is_not_for_the_screen_that_the_
     EXPECT_EQ(screen.log, "knop knop ");
 }
 
-TEST_F(events, an_option_that_is_clicked_again_stays_chosen) {
-    for (const char* name : {"rechts", "links", "links"}) click(widget(name));
-    EXPECT_EQ(screen.log, "links links ");
-    EXPECT_TRUE(widget<QRadioButton>("links").isChecked());
-    EXPECT_FALSE(widget<QRadioButton>("rechts").isChecked());
-    EXPECT_EQ(outside.page(screen)->focusWidget(), &widget("links"));
-}
-
-TEST_F(events, hovering_is_the_pointer_or_the_tab_key_but_not_a_focus_that_is_set) {
-    const int before = screen.hovers;
-    QEnterEvent entered({5, 5}, {5, 5}, {5, 5});
-    QApplication::sendEvent(&widget("klik"), &entered);
-    QFocusEvent tabbed(QEvent::FocusIn, Qt::TabFocusReason);
-    QApplication::sendEvent(&widget("klik"), &tabbed);
-    EXPECT_EQ(screen.hovers, before + 2);
-    outside.run([this] { screen.focus = &screen.klik; });
-    EXPECT_EQ(screen.hovers, before + 2);
-    EXPECT_EQ(outside.page(screen)->focusWidget(), &widget("klik"));
-    EXPECT_EQ(screen.focus, nullptr);
-}
-
-TEST_F(events, a_form_shown_over_another_is_uncovered_again) {
-    try_out above(outside, "above");
+TEST_F(events, a_form_covers_another_or_stands_beside_it_and_scales_with_it) {
+    try_out above(outside, "above"), side(outside, "side");
     outside.run([&] { above.show(); });
-    EXPECT_TRUE(outside.page(above)->isVisible());
-    EXPECT_FALSE(outside.page(screen)->isVisible());
+    EXPECT_TRUE(outside.page(above)->isVisible() && !outside.page(screen)->isVisible());
     outside.page(above)->window()->close();
-    EXPECT_EQ(above.log, "sluiten ");
-    EXPECT_EQ(screen.log, "");
+    EXPECT_EQ(above.log + screen.log, "sluiten ");
     outside.run([&] { above.unload(); });
     EXPECT_EQ(outside.page(above), nullptr);
-    EXPECT_TRUE(outside.page(screen)->isVisible());
-}
 
-TEST_F(events, a_side_window_is_a_window_of_its_own) {
-    try_out side(outside, "side");
     side.side_window = true;
     side.caption = "ernaast";
     side.wanted_place = {3000, 750};
     outside.run([&] { side.show(); });
-    ASSERT_NE(outside.page(side)->window(), outside.page(screen)->window());
-    EXPECT_EQ(outside.page(side)->windowTitle(), "ernaast");
+    QWidget& beside = *outside.page(side);
     const form_page& main = *outside.page(screen);
-    EXPECT_EQ(outside.page(side)->frameGeometry().topLeft(), main.mapToGlobal(main.place_of({3000, 750})));
+    ASSERT_NE(beside.window(), main.window());
+    EXPECT_EQ(beside.windowTitle(), "ernaast");
+    EXPECT_EQ(beside.frameGeometry().topLeft(), main.mapToGlobal(main.place_of({3000, 750})));
     EXPECT_EQ(outside.page(side)->unit(), main.unit());
-    EXPECT_TRUE(outside.page(screen)->isVisible());
+    EXPECT_TRUE(main.isVisible());
     click(widget("knop"));
     EXPECT_EQ(screen.log, "knop ") << "the main window stays usable";
-    outside.page(side)->close();
+    beside.close();
     EXPECT_EQ(side.log, "sluiten ");
-    EXPECT_TRUE(outside.page(side)->isVisible()) << "whether it closes is the form's to say";
+    EXPECT_TRUE(beside.isVisible()) << "whether it closes is the form's to say";
     outside.run([&] { side.unload(); });
-}
 
-TEST_F(events, the_screen_scales_as_a_whole) {
-    QWidget& window = *outside.page(screen)->window();
     for (const double scale : {1.0, 1.5, 2.0}) {
-        window.resize((QSizeF(832, 520) * scale).toSize());
+        main.window()->resize((QSizeF(832, 520) * scale).toSize());
         EXPECT_NEAR(widget("knop").x(), 200 / 15.0 * scale, 1);
         EXPECT_NEAR(widget("knop").width(), 3000 / 15.0 * scale, 1);
     }
-    window.resize(1664, 2000); // too tall: the form stands in the middle
+    main.window()->resize(1664, 2000); // too tall: the form stands in the middle
     EXPECT_NEAR(widget("grond").y(), (2000 - 1040) / 2 + 100 / 15.0 * 2, 1);
 }
 
 TEST_F(events, an_exception_ends_the_program_with_a_message_and_status_1) {
-    screen.on_knop = [] { throw checked_error("index 9 outside 1 to 4"); };
+    screen.on_knop = [this] {
+        widget<QPushButton>("knop").click(); // while a handler runs nothing is let in
+        throw checked_error("index 9 outside 1 to 4");
+    };
     click(widget("knop"));
-    const std::string told = answer_box(outside, "OK");
-    EXPECT_NE(told.find("index 9 outside 1 to 4"), std::string::npos) << told;
+    EXPECT_EQ(screen.log, "knop ");
+    EXPECT_NE(answer_box(outside, "OK").find("index 9 outside 1 to 4"), std::string::npos);
     EXPECT_EQ(run_program(), 1);
 }
 
