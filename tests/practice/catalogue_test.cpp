@@ -8,7 +8,7 @@
 namespace cijferwerf {
 namespace {
 
-// A line a list; of a review task a line more for each group, with its three choices.
+// A line a list; of a review task its groups, each of three choices.
 constexpr std::string_view written = R"(
 boekje01 BOEKJE 1 - PROCENTEN: alcohol, grasveld, bevolking, computer, examen, snel!, voetbal, blessures, hele procenten, rente, kommaprocenten
 boekje02 BOEKJE 2 - VERHOUDINGEN: huis, maatbeker, vakantie, cirkels, fietspad (1), museum, fietspad (2), tandwielen, brandstofverbruik, tuinman, uitgaven
@@ -26,37 +26,22 @@ taak01 TAAK 1 - GETALLEN: getallenlijn, inwoners (1), inwoners (2), letters, ond
 taak02 TAAK 2 - VERMENIGVULDIGEN EN DELEN: tafels, anders, door elkaar, haakjes, keer, controle, flesjes, maal, memory
 taak03 TAAK 3 - BREUKEN (1): chocolade, gestreept, helen, maatbeker, vlakjes, helen maken, marathon, prijzen, getallenlijn, grootste/kleinste, snel!
 taak04 TAAK 4 - TIJD: datum, wedstrijd, boeken, huren, wachten, kilometers, naar school, snel!, trein, wereldtijden
-taak05 HERHALING TAAK 1 t/m 4:
-na elkaar, optellen, grootste/kleinste, tabel | onder elkaar, schatten, waarde, aftrekken | getallenlijn, inwoners (1), inwoners (2), letters
-flesjes, maal, memory | haakjes, keer, controle | tafels, anders, door elkaar
-getallenlijn, grootste/kleinste | vlakjes, helen maken, marathon, prijzen | chocolade, gestreept, helen, maatbeker
-trein, wereldtijden | wachten, kilometers, naar school | datum, wedstrijd, boeken, huren
+taak05 HERHALING TAAK 1 t/m 4: na elkaar, optellen, grootste/kleinste, tabel | onder elkaar, schatten, waarde, aftrekken | getallenlijn, inwoners (1), inwoners (2), letters / flesjes, maal, memory | haakjes, keer, controle | tafels, anders, door elkaar / getallenlijn, grootste/kleinste | vlakjes, helen maken, marathon, prijzen | chocolade, gestreept, helen, maatbeker / trein, wereldtijden | wachten, kilometers, naar school | datum, wedstrijd, boeken, huren
 taak06 TAAK 6 - KOMMAGETALLEN: pijl (1), pijl (2), delen (1), na de komma, onder elkaar, pijlverwijzing, samenstellen, schoolbord, delen (2), dichtst bij, nullen, olievat, seconden, snel, komma
 taak07 TAAK 7 - GELD: spaarpot, wisselen, bijbetalen, krantenwijk, snel!, terugbetalen, vreemd geld (1), vreemd geld (2), boodschap, brandstof, CD's, computer, erfenis, niet gepast, rente, brandstofverbruik, huren, lenen, sponsorloop
 taak08 TAAK 8 - PROCENTEN: alcohol, grasveld, bevolking, computer, examen, snel!, voetbal, blessures, hele procenten, rente, BTW, kommaprocenten
 taak09 TAAK 9 - LENGTEMATEN: schatten (1), fietsen, optellen (1), optellen (2), schatten (2), snel! (1), snel! (2), vakantie, behangen, tuin, vliegtuig
-taak10 HERHALING TAAK 6 t/m 9:
-pijlverwijzing, samenstellen, schoolbord, dichtst bij, onder elkaar | nullen, olievat, seconden, komma | pijl (1), pijl (2), delen (1), delen (2), na de komma
-vreemd geld (1), vreemd geld (2), boodschap, brandstof, CD's, computer | erfenis, niet gepast, rente, brandstofverbruik, huren, lenen, sponsorloop | spaarpot, wisselen, bijbetalen, krantenwijk, terugbetalen
-examen, voetbal, blessures | hele procenten, rente, BTW, kommaprocenten | alcohol, grasveld, bevolking, computer
-vakantie, optellen (1), optellen (2) | behangen, tuin, vliegtuig | schatten (1), schatten (2), fietsen
+taak10 HERHALING TAAK 6 t/m 9: pijlverwijzing, samenstellen, schoolbord, dichtst bij, onder elkaar | nullen, olievat, seconden, komma | pijl (1), pijl (2), delen (1), delen (2), na de komma / vreemd geld (1), vreemd geld (2), boodschap, brandstof, CD's, computer | erfenis, niet gepast, rente, brandstofverbruik, huren, lenen, sponsorloop | spaarpot, wisselen, bijbetalen, krantenwijk, terugbetalen / examen, voetbal, blessures | hele procenten, rente, BTW, kommaprocenten | alcohol, grasveld, bevolking, computer / vakantie, optellen (1), optellen (2) | behangen, tuin, vliegtuig | schatten (1), schatten (2), fietsen
 taak11 TAAK 11 - MACHTSVERHEFFEN: snel!, berekenen, in woorden, korter, volgorde, bacterie, bloembollen, fabriekshal, stroopwafels, spaargeld
 taak12 TAAK 12 - OMTREK EN OPPERVLAKTE: oppervlakte, rechthoek, betegelen, doos, schilder, bedrijfsruimte, draad, figuren, L-vorm, opbrengst, tegels
 taak13 TAAK 13 - DE CIRKEL: cirkel (1), cirkel (2), blikjes, huls, in elkaar, pizza, skelterbaan, vijver, fietswiel, terras
 taak14 TAAK 14 - BREUKEN (2): optellen, procenten, stukken, aanvullen (1), aanvullen (2), aftrekken, tussen in, vereenvoudigen, delen, vermenigvuldigen
-taak15 HERHALING TAAK 11 t/m 14:
-volgorde, bacterie, bloembollen | fabriekshal, stroopwafels, spaargeld | berekenen, in woorden, korter
-schilder, bedrijfsruimte, draad, figuren | L-vorm, opbrengst, tegels | oppervlakte, rechthoek, betegelen, doos
-huls, in elkaar, pizza, skelterbaan | vijver, fietswiel, terras | cirkel (1), cirkel (2), blikjes
-aanvullen (1), aanvullen (2), aftrekken | tussen in, vereenvoudigen, delen, vermenigvuldigen | optellen, procenten, stukken
+taak15 HERHALING TAAK 11 t/m 14: volgorde, bacterie, bloembollen | fabriekshal, stroopwafels, spaargeld | berekenen, in woorden, korter / schilder, bedrijfsruimte, draad, figuren | L-vorm, opbrengst, tegels | oppervlakte, rechthoek, betegelen, doos / huls, in elkaar, pizza, skelterbaan | vijver, fietswiel, terras | cirkel (1), cirkel (2), blikjes / aanvullen (1), aanvullen (2), aftrekken | tussen in, vereenvoudigen, delen, vermenigvuldigen | optellen, procenten, stukken
 taak16 TAAK 16 - VERHOUDINGEN: huis, maatbeker, vakantie, cirkels, fietspad (1), museum, schaal, fietspad (2), tandwielen, brandstofverbruik, tuinman, uitgaven
 taak17 TAAK 17 - INHOUD EN GEWICHT: inhoud, schatten, doos, gewichten, optellen, watertank, cilinder, worst, dichtheid, volumeprocent
 taak18 TAAK 18 - GETALLEN IN BEELD: inwoners, rusthuis, hardlopen (1), hardlopen (2), inkomen, regenval, vakanties, bevolking, dollars, roken, verkiezingen
 taak19 TAAK 19 - MATEN EN METEN: energie, gas (1), elektriciteit (1), elektriciteit (2), voeding (1), voeding (2), water (1), water (2), elektriciteit (3), gas (2)
-taak20 HERHALING TAAK 16 t/m 19:
-fietspad (1), museum, schaal, fietspad (2) | tandwielen, brandstofverbruik, tuinman, uitgaven | huis, maatbeker, vakantie, cirkels
-optellen, watertank, cilinder | worst, dichtheid, volumeprocent | inhoud, schatten, doos, gewichten
-voeding (1), voeding (2), water (1), water (2) | elektriciteit (1), elektriciteit (2), elektriciteit (3) | energie, gas (1), gas (2)
+taak20 HERHALING TAAK 16 t/m 19: fietspad (1), museum, schaal, fietspad (2) | tandwielen, brandstofverbruik, tuinman, uitgaven | huis, maatbeker, vakantie, cirkels / optellen, watertank, cilinder | worst, dichtheid, volumeprocent | inhoud, schatten, doos, gewichten / voeding (1), voeding (2), water (1), water (2) | elektriciteit (1), elektriciteit (2), elektriciteit (3) | energie, gas (1), gas (2)
 )";
 
 // The generator that a title runs in a list, by names alone: level, title, home booklet, home task. Where several have
@@ -94,8 +79,11 @@ TEST(catalogue, a_list_has_its_titles_in_order) {
     random_draws toeval([] { return 0.0F; });
     for (const catalogue_list& list : catalogue()) {
         text.append(list.key).append(" ").append(list.heading).append(":");
-        text += list.drawn() ? "\n" : " " + joined(titels(list, toeval)) + "\n";
-        for (const auto& [a, b, c] : list.groups) text += joined(a) + " | " + joined(b) + " | " + joined(c) + "\n";
+        if (!list.drawn()) text += " " + joined(titels(list, toeval));
+        for (const auto& [a, b, c] : list.groups)
+            text.append(&a == &list.groups[0].a ? " " : " / ")
+                .append(joined(a) + " | " + joined(b) + " | " + joined(c));
+        text += "\n";
         EXPECT_EQ(zoek_lijst(list.set, list.key), &list);
         EXPECT_EQ(list.set, list.key.starts_with("boekje") ? booklet_set : task_set);
     }
@@ -119,10 +107,14 @@ TEST(catalogue, a_title_of_a_review_task_runs_the_first_that_has_it_in_the_tasks
         {"taak05", "getallenlijn", "B_getallenlijn_11_01_click"},
         {"taak05", "grootste/kleinste", "M_grootste_kleinste_11_01_click"},
         {"taak10", "computer", "L_computer_01_08_click"},
-        {"taak20", "hardlopen (1)", "L_hardlopen_1_04_18_click"},
-    };
+        {"taak20", "hardlopen (1)", "L_hardlopen_1_04_18_click"}};
     for (const auto& [key, title, generator] : rows)
         EXPECT_EQ(naam(zoek_generator(*zoek_lijst(task_set, key), 0, title).value()), generator);
+    EXPECT_FALSE(zoek_generator(*zoek_lijst(task_set, "taak06"), 15, "snel"));
+    EXPECT_FALSE(zoek_generator(*zoek_lijst(task_set, "taak06"), -1, "snel"));
+    EXPECT_FALSE(zoek_generator(*zoek_lijst(task_set, "taak05"), 0, "rente"));
+    for (const auto& [set, key] : {std::pair{booklet_set, "taak01"}, {"", "taak01"}, {task_set, "taak21"}})
+        EXPECT_EQ(zoek_lijst(set, key), nullptr) << key;
     // A drawn title that is not found would leave the pupil with a blank screen.
     for (const catalogue_list& list : catalogue())
         for (const auto& [a, b, c] : list.groups)
@@ -130,27 +122,13 @@ TEST(catalogue, a_title_of_a_review_task_runs_the_first_that_has_it_in_the_tasks
                 for (const std::string_view title : choice) EXPECT_TRUE(zoek_generator(list, 0, title)) << title;
 }
 
-TEST(catalogue, what_is_not_there_is_not_found) {
-    const catalogue_list& task = *zoek_lijst(task_set, "taak06");
-    EXPECT_FALSE(zoek_generator(task, 15, "snel"));
-    EXPECT_FALSE(zoek_generator(task, -1, "snel"));
-    EXPECT_FALSE(zoek_generator(*zoek_lijst(task_set, "taak05"), 0, "rente"));
-    EXPECT_EQ(zoek_lijst(booklet_set, "taak01"), nullptr);
-    EXPECT_EQ(zoek_lijst("", "taak01"), nullptr);
-    EXPECT_EQ(zoek_lijst(task_set, "taak21"), nullptr);
-}
-
 TEST(catalogue, the_narrow_band_from_033_to_034_falls_to_choice_b) {
     const auto before = [](float fraction) { return std::nextafter(fraction, 0.0F); };
     const auto after = [](float fraction) { return std::nextafter(fraction, 1.0F); };
-    const std::pair<float, std::string_view> rows[]{
-        {0.0F, "C"},  {before(0.33F), "C"}, {0.33F, "B"},        {before(0.34F), "B"}, {0.34F, "A"},
-        {0.67F, "A"}, {after(0.67F), "B"},  {1 - 0x1p-24F, "B"}, {0.5F, "A"},
-    };
+    const std::pair<float, std::string_view> rows[]{{0.0F, "C"},          {before(0.33F), "C"}, {0.33F, "B"},
+                                                    {before(0.34F), "B"}, {0.34F, "A"},         {0.67F, "A"},
+                                                    {after(0.67F), "B"},  {1 - 0x1p-24F, "B"},  {0.5F, "A"}};
     for (const auto& [fraction, title] : rows) EXPECT_EQ(joined(geloot({"A", "B", "C"}, fraction)), title) << fraction;
-}
-
-TEST(catalogue, a_review_task_shows_one_choice_of_each_group_in_order) {
     random_draws toeval([] { return 0.0F; });
     toeval.put_in({0.5F, 0.335F, 0.1F, 0.9F});
     EXPECT_EQ(joined(titels(*zoek_lijst(task_set, "taak05"), toeval)),

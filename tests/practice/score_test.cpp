@@ -11,21 +11,19 @@
 namespace cijferwerf {
 namespace {
 
+using lines = std::vector<std::string>;
+
 // A line as "size| column:text column:text".
-std::vector<std::string> as_lines(const report& page) {
-    std::vector<std::string> lines;
+lines as_lines(const report& page) {
+    lines all;
     for (const report_line& line : page.lines) {
         std::ostringstream out;
         out << line.size << '|';
         for (const report_cell& cell : line.cells) out << ' ' << cell.column << ':' << cell.text;
-        lines.push_back(out.str());
+        all.push_back(out.str());
     }
-    return lines;
+    return all;
 }
-
-using lines = std::vector<std::string>;
-
-constexpr local_time new_year{2005, 1, 2, 3, 4};
 
 TEST(score_report, has_totals_and_a_row_for_every_title_that_ended_at_some_attempt_in_the_order_in_which_they_came) {
     GLOBALEN score;
@@ -36,33 +34,30 @@ TEST(score_report, has_totals_and_a_row_for_every_title_that_ended_at_some_attem
     };
     for (const int attempt : {1, 3, 1}) ended("rente", attempt);
     ended("snel!", 4);
-    EXPECT_EQ(score.beste_poging("rente"), 1);
-    EXPECT_EQ(score.beste_poging("snel!"), 4);
-    EXPECT_EQ(score.beste_poging("datum"), 0);
+    for (const auto& [title, best] : {std::pair{"rente", 1}, {"snel!", 4}, {"datum", 0}})
+        EXPECT_EQ(score.beste_poging(title), best) << title;
     ++score.goed_poging_4;        // a time-out
     score.titellijst[2] = "leeg"; // a title without counts
     for (int i = 3; i < 99; ++i) ended("t" + std::to_string(i), 2);
 
     const lines printed = as_lines(score_report(score, "HERHALING TAAK 1 t/m 4", {2005, 1, 2, 3, 4}));
-    const lines expected{
-        "20| 0:SOMMENWERF",
-        "20|",
-        "20|",
-        "9| 0:Datum: 02/01/05 03:04 u",
-        "15| 0:HERHALING TAAK 1 T/M 4",
-        "9|",
-        "9| 0:Aantal opgaven gedaan 30: 100",
-        "9| 0:bij eerste poging goed 30: 2",
-        "9| 4:tweede poging goed 30: 96",
-        "9| 4:derde poging goed 30: 1",
-        "9| 4:vierde poging goed 30: 2",
-        "9|",
-        "15| 0:Analyse",
-        "9|",
-        "9| 0:titel opgave    goed bij... 30:1e 35:2e 40:3e 45:4e",
-        "9| 0:rente 30:2 35:0 40:1 45:0",
-        "9| 0:snel! 30:0 35:0 40:0 45:1",
-    };
+    const lines expected{"20| 0:SOMMENWERF",
+                         "20|",
+                         "20|",
+                         "9| 0:Datum: 02/01/05 03:04 u",
+                         "15| 0:HERHALING TAAK 1 T/M 4",
+                         "9|",
+                         "9| 0:Aantal opgaven gedaan 30: 100",
+                         "9| 0:bij eerste poging goed 30: 2",
+                         "9| 4:tweede poging goed 30: 96",
+                         "9| 4:derde poging goed 30: 1",
+                         "9| 4:vierde poging goed 30: 2",
+                         "9|",
+                         "15| 0:Analyse",
+                         "9|",
+                         "9| 0:titel opgave    goed bij... 30:1e 35:2e 40:3e 45:4e",
+                         "9| 0:rente 30:2 35:0 40:1 45:0",
+                         "9| 0:snel! 30:0 35:0 40:0 45:1"};
     ASSERT_EQ(printed.size(), expected.size() + 96);
     EXPECT_EQ(lines(printed.begin(), printed.begin() + 17), expected);
     EXPECT_EQ(printed.back(), "9| 0:t98 30:0 35:1 40:0 45:0");
@@ -82,8 +77,15 @@ protected:
 
 TEST_F(score, the_sheet_shows_the_counts_of_the_moment_it_is_opened_and_leaves_the_exercise_as_it_is) {
     ASSERT_TRUE(pupil.click(screen.score));
-    EXPECT_TRUE(sheet.side_window && screen.loaded());
-    EXPECT_EQ(sheet.caption, "SCORE");
+    EXPECT_TRUE(sheet.side_window && screen.loaded() && sheet.caption == "SCORE");
+    EXPECT_GE(sheet.wanted_place->y, screen.kopbalk.top + screen.kopbalk.height);
+    EXPECT_LE(sheet.wanted_place->y + sheet.height, screen.berichtvlak.top) << "it hides the messages";
+    EXPECT_LE(sheet.wanted_place->x + sheet.width, screen.width);
+    std::map<const control*, std::string> captions;
+    for (label& text : sheet.omschrijving) captions[text.caption_of] += text.caption;
+    EXPECT_EQ((lines{captions[&sheet.aantal_label], captions[&sheet.nulfout_label], captions[&sheet.eenfout_label],
+                     captions[&sheet.tweefout_label]}),
+              (lines{"aantal opgaven gedaan", "eerste poging goed", "tweede poging goed", "derde poging goed"}));
     present("rente");
     answer(wrong());
     answer_right();
@@ -108,19 +110,6 @@ TEST_F(score, the_sheet_shows_the_counts_of_the_moment_it_is_opened_and_leaves_t
     EXPECT_EQ(screen.tijdteller, 3);
 }
 
-TEST_F(score, the_sheet_hides_neither_the_messages_nor_the_bar_and_names_each_value) {
-    const place on_screen{sheet.wanted_place->x, sheet.wanted_place->y, sheet.width, sheet.height};
-    EXPECT_GE(on_screen.top, screen.kopbalk.top + screen.kopbalk.height);
-    EXPECT_LE(on_screen.top + on_screen.height, screen.berichtvlak.top);
-    EXPECT_LE(on_screen.left + on_screen.width, screen.width);
-    std::map<const control*, std::string> captions;
-    for (label& text : sheet.omschrijving) captions[text.caption_of] += text.caption;
-    EXPECT_EQ(captions[&sheet.aantal_label], "aantal opgaven gedaan");
-    EXPECT_EQ(captions[&sheet.nulfout_label], "eerste poging goed");
-    EXPECT_EQ(captions[&sheet.eenfout_label], "tweede poging goed");
-    EXPECT_EQ(captions[&sheet.tweefout_label], "derde poging goed");
-}
-
 TEST_F(score, printing_sends_the_report_of_this_practice_and_tells_how_it_went) {
     present("snel!");
     pupil.wait(60'000);
@@ -139,11 +128,9 @@ TEST_F(score, printing_sends_the_report_of_this_practice_and_tells_how_it_went) 
     }
     EXPECT_EQ(pupil.boxes.size(), std::size(rows));
     const lines sent = as_lines(pupil.printed.at(0));
-    EXPECT_EQ(sent.at(0), "20| 0:TELMORA's CIJFERLOOP");
-    EXPECT_EQ(sent.at(3), "9| 0:Datum: 09/03/24 14:05 u");
-    EXPECT_EQ(sent.at(4), "15| 0:BOEKJE 1 - PROCENTEN");
-    EXPECT_EQ(sent.at(10), "9| 4:vierde poging goed 30: 2") << "once when the time was up";
-    EXPECT_EQ(sent.back(), "9| 0:snel! 30:0 35:0 40:0 45:1");
+    EXPECT_EQ((lines{sent.at(0), sent.at(3), sent.at(4), sent.at(10), sent.back()}),
+              (lines{"20| 0:TELMORA's CIJFERLOOP", "9| 0:Datum: 09/03/24 14:05 u", "15| 0:BOEKJE 1 - PROCENTEN",
+                     "9| 4:vierde poging goed 30: 2", "9| 0:snel! 30:0 35:0 40:0 45:1"}));
 
     pupil.click(sheet.Command1);
     pupil.run([this] { screen.toon_aantalvragengedaan(); });

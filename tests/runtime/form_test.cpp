@@ -88,18 +88,6 @@ TEST(form, a_key_goes_to_the_list_the_button_that_keeps_it_or_the_control_that_l
     EXPECT_EQ(screen.events, "");
 }
 
-TEST(form, an_option_is_chosen_alone_and_takes_the_focus) {
-    fake_outside outside;
-    test_form screen(outside);
-    screen.show();
-    for (option_button* each : {&screen.chosen, &screen.other}) {
-        outside.click(*each);
-        EXPECT_TRUE(each->selected);
-        EXPECT_NE(screen.chosen.selected, screen.other.selected);
-        EXPECT_EQ(screen.focus, each);
-    }
-}
-
 TEST(form, arrows_go_to_the_nearest_button_there_and_choose_among_options_and_tab_goes_round) {
     fake_outside outside;
     test_form screen(outside);
@@ -117,15 +105,18 @@ TEST(form, arrows_go_to_the_nearest_button_there_and_choose_among_options_and_ta
         EXPECT_TRUE(screen.key(row.key, &row.from));
         EXPECT_EQ(screen.focus, row.to) << row.from.name;
     }
-    EXPECT_TRUE(screen.chosen.selected);
+    EXPECT_TRUE(screen.chosen.selected && !screen.other.selected);
+    screen.press(screen.other);
+    EXPECT_TRUE(screen.other.selected && !screen.chosen.selected && screen.focus == &screen.other);
     EXPECT_FALSE(screen.key(keys::down, &screen.list)) << "a list moves by itself";
 
     screen.second.enabled = false;
-    EXPECT_EQ(screen.tab(&screen.first, 1), &screen.list);
-    EXPECT_EQ(screen.tab(&screen.words, -1), &screen.first);
-    EXPECT_EQ(screen.tab(&screen.other, 1), &screen.first);
-    EXPECT_EQ(screen.tab(nullptr, 1), &screen.first);
-    EXPECT_EQ(screen.tab(nullptr, -1), &screen.other);
+    const std::tuple<control*, int, control*> tabs[]{{&screen.first, 1, &screen.list},
+                                                     {&screen.words, -1, &screen.first},
+                                                     {&screen.other, 1, &screen.first},
+                                                     {nullptr, 1, &screen.first},
+                                                     {nullptr, -1, &screen.other}};
+    for (const auto& [from, step, to] : tabs) EXPECT_EQ(screen.tab(from, step), to);
 }
 
 TEST(form, a_control_array_ends_the_run_at_an_index_it_does_not_have) {
@@ -148,19 +139,24 @@ protected:
     test_form screen{outside};
 };
 
-TEST_F(timers, tick_every_interval_until_stopped) {
-    outside.wait(3000);
-    EXPECT_EQ(screen.events, "");
-    outside.click(screen.first);
-    outside.wait(950);
-    EXPECT_EQ(screen.events, "");
-    outside.wait(50);
-    EXPECT_EQ(screen.events, "tick ");
-    outside.wait(2000);
-    EXPECT_EQ(screen.events, "tick tick tick ");
-    outside.click(screen.second);
-    outside.wait(5000);
-    EXPECT_EQ(screen.events, "tick tick tick ");
+TEST_F(timers, tick_every_interval_until_stopped_or_unloaded_and_start_over_when_started_while_they_run) {
+    const struct {
+        std::function<void()> act;
+        int milliseconds;
+        const char* ticked;
+    } rows[]{{[] {}, 3000, ""},
+             {[&] { outside.click(screen.first); }, 950, ""},
+             {[] {}, 50, "tick "},
+             {[] {}, 2900, "tick tick "},
+             {[&] { outside.click(screen.first); }, 950, ""},
+             {[] {}, 50, "tick "},
+             {[&] { outside.click(screen.second); }, 3000, ""},
+             {[&] { outside.click(screen.first), screen.unload(); }, 3000, ""}};
+    for (const auto& row : rows) {
+        row.act();
+        outside.wait(row.milliseconds);
+        EXPECT_EQ(std::exchange(screen.events, ""), row.ticked) << "row " << &row - rows;
+    }
 }
 
 TEST_F(timers, wait_for_the_message_box_one_at_most) {
@@ -188,23 +184,6 @@ TEST_F(timers, a_box_that_an_answer_opens_comes_before_those_in_line) {
     std::string order;
     for (const message_box& each : outside.boxes) order += each.text + ", ";
     EXPECT_EQ(order, "first, follows from first, second, ");
-}
-
-TEST_F(timers, start_over_when_started_while_they_run) {
-    outside.click(screen.first);
-    outside.wait(900);
-    outside.click(screen.first);
-    outside.wait(900);
-    EXPECT_EQ(screen.events, "");
-    outside.wait(100);
-    EXPECT_EQ(screen.events, "tick ");
-}
-
-TEST_F(timers, are_silent_on_an_unloaded_form) {
-    outside.click(screen.first);
-    screen.unload();
-    outside.wait(3000);
-    EXPECT_EQ(screen.events, "");
 }
 
 } // namespace

@@ -58,52 +58,45 @@ protected:
     menusw& sw = forms.get<menusw>();
 };
 
-TEST_F(shell, the_background_form_brings_up_the_start_form_once) {
+TEST_F(shell, goes_from_the_background_form_past_a_choice_and_credits_to_a_menu) {
     auto& background = forms.get<achtergrond>();
     background.open();
     pupil.wait(900);
     EXPECT_FALSE(start.loaded());
     pupil.wait(200);
-    EXPECT_TRUE(start.loaded());
-    EXPECT_FALSE(background.Timer1.enabled);
-    start.unload();
-    pupil.wait(5000);
-    EXPECT_FALSE(start.loaded());
-}
-
-TEST_F(shell, going_on_without_a_choice_asks_for_one_and_changes_nothing) {
-    start.open();
-    pupil.click(start.verder);
+    EXPECT_TRUE(start.loaded() && !background.Timer1.enabled);
+    pupil.click(start.verder); // without a choice
     ASSERT_EQ(pupil.boxes.size(), 1U);
-    EXPECT_EQ(pupil.boxes[0].text, "Maak een keuze...");
-    EXPECT_EQ(pupil.boxes[0].title, "Cijferwerf");
+    EXPECT_EQ(pupil.boxes[0].text + '|' + pupil.boxes[0].title, "Maak een keuze...|Cijferwerf");
     EXPECT_EQ(pupil.boxes[0].buttons, box_buttons::ok);
     EXPECT_EQ(on_screen(), names{"codering"});
-    EXPECT_EQ(globalen.gekozen_pakket, "");
-}
 
-TEST_F(shell, each_set_leads_past_its_credits_to_its_menu) {
-    choose("TELMORA's CIJFERLOOP");
-    EXPECT_EQ(globalen.gekozen_pakket, "TELMORA's CIJFERLOOP");
-    EXPECT_EQ(on_screen(), names{"colofoncl"});
-    pupil.click(forms.get<colofoncl>().klik);
-    EXPECT_EQ(on_screen(), names{"menucl"});
-
-    pupil.click(cl.terug);
-    EXPECT_FALSE(start.CLgekozen.selected) << "the choice before is no choice now";
-
-    choose("SOMMENWERF");
-    EXPECT_EQ(globalen.gekozen_pakket, "SOMMENWERF");
-    EXPECT_EQ(on_screen(), names{"colofonsw"});
-    pupil.click(forms.get<colofonsw>().klik);
-    EXPECT_EQ(on_screen(), names{"menusw"});
+    for (const std::string_view set : {"TELMORA's CIJFERLOOP", "SOMMENWERF"}) {
+        const bool booklets = set == booklet_set;
+        EXPECT_FALSE(start.CLgekozen.selected || start.SWgekozen.selected) << "the choice before is no choice now";
+        choose(set);
+        EXPECT_EQ(globalen.gekozen_pakket, set);
+        EXPECT_EQ(on_screen(), names{booklets ? "colofoncl" : "colofonsw"});
+        pupil.click(booklets ? forms.get<colofoncl>().klik : forms.get<colofonsw>().klik);
+        EXPECT_EQ(on_screen(), names{booklets ? "menucl" : "menusw"});
+        for (const int i : {-1, 0, booklets ? 13 : 21}) {
+            booklets ? cl.boekje_click(i) : sw.plaatje_click(i);
+            EXPECT_EQ(globalen.gekozen_onderdeel + screen.opschriftbalk.caption, "") << i;
+        }
+        pupil.click(booklets ? cl.terug : sw.terug);
+        EXPECT_EQ(on_screen(), names{"codering"});
+    }
     EXPECT_EQ(sw.caption, "DEEL 1 EN 2, SOMMENWERF");
-    EXPECT_TRUE(sw.Frame1.visible && sw.Frame2.visible);
-    pupil.click(sw.terug);
-    EXPECT_EQ(on_screen(), names{"codering"});
+    start.unload();
+    pupil.wait(5000);
+    EXPECT_FALSE(start.loaded()) << "the background form brings it up once";
 }
 
 TEST_F(shell, every_entry_opens_the_practice_screen_under_its_own_heading_and_only_a_review_has_no_info) {
+    for (const auto& [entry, small, large] : {std::tuple{&cl.boekje[8], "BOEKJE 8", "Meten en meetkunde (2)"},
+                                              {&sw.plaatje[13], "TAAK 13", "De cirkel"},
+                                              {&sw.plaatje[20], "HERHALING", "Taak 16 t/m 19"}})
+        EXPECT_EQ(std::pair(entry->overline, entry->headline), std::pair(std::string(small), std::string(large)));
     const auto opened = [this](std::string_view set, std::string_view kind, int i, const button& entry) {
         EXPECT_EQ(globalen.gekozen_onderdeel, regel(kind, i < 10 ? "0" : "", kaal(i)));
         EXPECT_EQ(screen.opschriftbalk.caption, zoek_lijst(set, globalen.gekozen_onderdeel)->heading);
@@ -115,17 +108,6 @@ TEST_F(shell, every_entry_opens_the_practice_screen_under_its_own_heading_and_on
     };
     at_every_entry(cl, cl.boekje, [&](int i) { opened("TELMORA's CIJFERLOOP", "boekje", i, cl.boekje[i]); });
     at_every_entry(sw, sw.plaatje, [&](int i) { opened("SOMMENWERF", "taak", i, sw.plaatje[i]); });
-}
-
-TEST_F(shell, an_index_outside_picks_nothing) {
-    for (const int i : {-1, 0, 13, 21}) {
-        open_menu(booklet_set);
-        cl.boekje_click(i);
-        if (i != 13) sw.plaatje_click(i);
-        EXPECT_EQ(globalen.gekozen_onderdeel, "") << i;
-        EXPECT_EQ(screen.opschriftbalk.caption, "") << i;
-        EXPECT_EQ(on_screen(), names{"menucl"}) << i;
-    }
 }
 
 TEST_F(shell, closing_a_window_or_stopping_asks_first) {
@@ -147,16 +129,12 @@ TEST_F(shell, closing_a_window_or_stopping_asks_first) {
             EXPECT_EQ(pupil.ended, sure);
             EXPECT_EQ(on_screen(), names{"menucl"});
         }
-}
-
-TEST_F(shell, the_background_form_ends_without_asking_and_the_booklet_menus_own_question_ends_nothing) {
+    pupil.ended = false;
     pupil.answers = {box_answer::yes};
     pupil.run([this] { cl.bevestig_stoppen(); });
-    EXPECT_EQ(pupil.boxes.at(0).text, "Wil je echt stoppen?");
-    EXPECT_FALSE(pupil.ended);
+    EXPECT_TRUE(pupil.boxes.size() == 2 && !pupil.ended) << "the booklet menu's own question ends nothing";
     pupil.close(forms.get<achtergrond>());
-    EXPECT_TRUE(pupil.ended);
-    EXPECT_EQ(pupil.boxes.size(), 1U);
+    EXPECT_TRUE(pupil.boxes.size() == 2 && pupil.ended) << "the background form ends without asking";
 }
 
 // ---- what the menus look like ----
@@ -185,20 +163,6 @@ TEST_F(shell, arrow_keys_follow_the_grid_and_stop_at_its_edge) {
     }
 }
 
-TEST_F(shell, a_heading_is_split_into_a_small_line_and_a_name) {
-    const struct {
-        const button& entry;
-        const char *small, *large;
-    } rows[]{{cl.boekje[1], "BOEKJE 1", "Procenten"},
-             {cl.boekje[8], "BOEKJE 8", "Meten en meetkunde (2)"},
-             {sw.plaatje[13], "TAAK 13", "De cirkel"},
-             {sw.plaatje[20], "HERHALING", "Taak 16 t/m 19"}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.entry.overline, row.small);
-        EXPECT_EQ(row.entry.headline, row.large);
-    }
-}
-
 TEST_F(shell, no_buttons_overlap_and_every_word_of_a_name_has_room_beside_or_under_the_mark) {
     for (const menu* shown : std::initializer_list<const menu*>{&cl, &sw})
         for (const control* a : shown->controls()) {
@@ -219,9 +183,7 @@ TEST_F(shell, booklets_and_tasks_have_marks_of_their_own_and_reviews_share_one_a
     std::set<std::vector<std::string>> of_booklets, of_tasks, of_reviews;
     for (button& entry : cl.boekje) of_booklets.insert(as_texts(*entry.mark));
     for (int i = 1; i <= 20; ++i) (i % 5 == 0 ? of_reviews : of_tasks).insert(as_texts(*sw.plaatje[i].mark));
-    EXPECT_EQ(of_booklets.size(), 12U);
-    EXPECT_EQ(of_tasks.size(), 16U);
-    EXPECT_EQ(of_reviews.size(), 1U);
+    EXPECT_EQ(std::tuple(of_booklets.size(), of_tasks.size(), of_reviews.size()), std::tuple(12U, 16U, 1U));
     EXPECT_FALSE(of_tasks.contains(*of_reviews.begin()));
     EXPECT_FALSE(of_booklets.contains({}) || of_tasks.contains({}) || of_reviews.contains({}));
 }

@@ -1,11 +1,88 @@
+// Drawings: what their commands leave on them, how wide their texts are, how they are read aloud, and as SVG.
 #include "runtime/drawn.h"
+#include "runtime/picture_reading.h"
 #include "runtime/svg.h"
-#include "tests/support/fake_outside.h"
 
+#include "tests/support/fake_outside.h"
+#include "tests/support/operation_text.h"
+
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace cijferwerf {
 namespace {
+
+TEST(text_width, is_that_of_the_columns_counted_in_blanks_and_of_plain_letters_and_a_broken_one_breaks_nothing) {
+    EXPECT_EQ(std::lround(text_width(std::string(12, ' ') + "=", 12)), 846);
+    EXPECT_EQ(std::lround(text_width(std::string(13, ' ') + "=", 12)), 906);
+    EXPECT_EQ(std::lround(text_width(std::string(12, ' ') + "=", 12, 1.0)), 940);
+    EXPECT_EQ(text_width("één", 10), text_width("een", 10));
+    EXPECT_EQ(text_width("€", 10), text_width("0", 10));
+    for (const char* broken : {"\xC3", "\xFF\xE2\x82"}) EXPECT_GT(text_width(broken, 10), 0);
+    EXPECT_EQ(text_width("", 10), 0);
+}
+
+TEST(picture_box, printing_goes_on_where_the_last_text_ended_and_a_box_upward_covers_the_same_ground) {
+    drawing board;
+    board.text_size = 12;
+    board.print_at(100, 200, "123");
+    EXPECT_EQ(board.x, 100 + 360); // three digits of 1139/2048 em at 12 points and 90 %
+    board.fore_colour = rood;
+    board.print("4");
+    board.print_centred(1000, 300, "123");
+    board.print_right(1000, 400, "123");
+    board.filled_box(1000, 1670, 300, -500, blauw);
+    board.style = line_style::dot;
+    board.line_width = 3;
+    board.box(1300, 1170, -300, 500, blauw);
+    EXPECT_EQ(as_texts(board), (std::vector<std::string>{
+                                   R"(text 100,200 colour 0 size 12 "123")", R"(text 460,200 colour 12 size 12 "4")",
+                                   R"(text 820,300 colour 12 size 12 "123")", R"(text 640,400 colour 12 size 12 "123")",
+                                   "filled box 1000,1170 300x500 colour 9 width 1 style 0",
+                                   "box 1000,1170 300x500 colour 9 width 3 style 2"}));
+}
+
+TEST(picture_box, a_reset_leaves_nothing_of_the_exercise_before) {
+    drawing board;
+    board.ground = zwart;
+    board.fore_colour = geel;
+    board.text_size = 20;
+    board.line_width = 3;
+    board.style = line_style::transparent;
+    board.print_at(100, 100, "x");
+
+    board.clear();
+    EXPECT_TRUE(board.operations().empty());
+    EXPECT_EQ(board.ground, zwart);
+    board.reset();
+    board.print("y");
+    board.line(0, 0, 1, 1, zwart);
+    EXPECT_EQ(board.ground, wit);
+    EXPECT_EQ(as_texts(board),
+              (std::vector<std::string>{"text 0,0 colour 0 size 8 \"y\"", "line 0,0 to 1,1 colour 0 width 1 style 0"}));
+}
+
+TEST(picture_reading, goes_row_by_row_keeps_numbers_apart_and_says_a_sentence_for_the_texts_it_stands_for) {
+    using printed = std::vector<std::tuple<int, int, const char*>>;
+    const auto board = [](const printed& texts) {
+        drawing shown;
+        shown.text_size = 12;
+        for (const auto& [x, y, text] : texts) shown.print_at(x, y, text);
+        return shown;
+    };
+    EXPECT_EQ(read_picture(board({{3000, 600, "rechts"},
+                                  {200, 630, "  links    van"},
+                                  {900, 1500, "3"},
+                                  {900, 1200, "12"},
+                                  {900, 100, "boven"}})),
+              "boven links van rechts 12; 3");
+    drawing shown = board({{200, 1500, "onder"}, {200, 1000, "6"}, {200, 500, "12"}, {200, 100, "boven"}});
+    shown.circle(400, 400, 100, zwart);
+    shown.spoken = {{1, 3, "Een klok."}, {4, 5, "Een tekening."}};
+    EXPECT_EQ(read_picture(shown), "Een tekening. boven Een klok. onder");
+    shown.reset();
+    EXPECT_EQ(read_picture(shown), "");
+}
 
 TEST(drawn_bounds, hold_what_is_drawn_and_no_more) {
     drawing shown;
