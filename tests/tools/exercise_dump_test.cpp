@@ -30,15 +30,12 @@ outcome run(const std::string& arguments) {
 
 long lines_of(const std::string& text) { return std::ranges::count(text, '\n'); }
 
-TEST(exercise_dump, lists_every_generator) {
+TEST(exercise_dump, lists_every_generator_and_the_catalogue_with_the_groups_of_a_drawn_task) {
     const outcome list = run("--list");
     EXPECT_EQ(list.status, 0);
     EXPECT_EQ(lines_of(list.output), 178);
     EXPECT_NE(list.output.find("B_alcohol_01_08_Click\n"), std::string::npos);
     EXPECT_NE(list.output.find("Z_sponsorloop_12_07\n"), std::string::npos);
-}
-
-TEST(exercise_dump, catalogue_gives_the_entries_of_a_task_and_the_groups_of_a_drawn_one) {
     const std::string all = run("--catalogue").output;
     for (const char* part :
          {R"({"key":"boekje01","heading":"BOEKJE 1 - PROCENTEN","entries":[["alcohol","B_alcohol_01_08_Click"],)",
@@ -46,7 +43,7 @@ TEST(exercise_dump, catalogue_gives_the_entries_of_a_task_and_the_groups_of_a_dr
         EXPECT_NE(all.find(part), std::string::npos) << part;
 }
 
-TEST(exercise_dump, repeats_itself_exactly_and_changes_with_the_seed) {
+TEST(exercise_dump, repeats_itself_exactly_whichever_others_are_named_and_changes_with_the_seed) {
     const std::string hele = "--generator M_hele_procenten_01_08_click ";
     const std::string once = run(hele + "--count 20").output;
     EXPECT_EQ(once, run("--seed 1 --count 20 " + hele).output);
@@ -54,9 +51,6 @@ TEST(exercise_dump, repeats_itself_exactly_and_changes_with_the_seed) {
     EXPECT_EQ(lines_of(once), 20);
     EXPECT_NE(once.find(R"("variant":2,)"), std::string::npos);
     EXPECT_EQ(once.find(R"("variant":3,)"), std::string::npos);
-}
-
-TEST(exercise_dump, makes_the_same_of_a_generator_whichever_others_are_named) {
     const std::string rente = run("--generator M_rente_01_08_click").output;
     const std::string both = run("--generator B_alcohol_01_08_Click --generator M_rente_01_08_click").output;
     EXPECT_EQ(lines_of(both), 2);
@@ -76,7 +70,7 @@ TEST(exercise_dump, refuses_what_it_does_not_know) {
     EXPECT_EQ(run("--seed 4294967295 --generator M_rente_01_08_click").status, 0);
 }
 
-TEST(exercise_dump, writes_the_pictures_of_the_questions) {
+TEST(exercise_dump, writes_the_pictures_of_the_questions_and_says_when_it_cannot_write) {
     const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "svg" / "new";
     const outcome ended = run("--count 2 --generator M_rente_01_08_click --svg '" + folder.string() + "'");
     EXPECT_EQ(ended.status, 0);
@@ -87,9 +81,6 @@ TEST(exercise_dump, writes_the_pictures_of_the_questions) {
     EXPECT_TRUE(svg.starts_with("<svg ") && svg.ends_with("</svg>\n")) << svg;
     std::filesystem::remove_all(folder);
     EXPECT_EQ(run("--svg /dev/null/x 2>/dev/null").status, 1);
-}
-
-TEST(exercise_dump, says_when_it_cannot_write) {
     EXPECT_EQ(run("--count 100 2>/dev/null >&-").status, 1);
     EXPECT_EQ(run("--list 2>/dev/null >/dev/full").status, 1);
 }
