@@ -54,10 +54,11 @@ infoscherm::infoscherm(outside& with, formulieren& forms, int boekje, int nummer
     add(voorbeeldvlak, "voorbeeldvlak", voorbeeldplaats, lesson);
     leg_voorbeeld_neer(false);
 
-    const std::string stippen[aantal]{"● ○ ○", "○ ● ○", "○ ○ ●"};
-    const std::string van_drie = std::to_string(nummer) + " van 3";
-    add(stand, "stand", {120, 7050, 3000, 420}, body, stippen[nummer - 1] + "   " + van_drie);
-    stand.accessible_name = van_drie;
+    const std::string rij[aantal]{"● ○ ○", "○ ● ○", "○ ○ ●"};
+    add(stippen, "stippen", {120, 7050, 900, 420}, lesson_word, rij[nummer - 1]);
+    stippen.font_size = 14;
+    add(stand, "stand", {1110, 7050, 2000, 420}, body, std::to_string(nummer) + " van 3");
+    stippen.accessible_name = stand.caption;
     stand.font_size = 12;
     add(verder, "verder", {9660, 6960, 2700, 600}, main_action, nummer == aantal ? "sommen maken" : "verder");
     verder.font_size = 14;

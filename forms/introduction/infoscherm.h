@@ -26,7 +26,7 @@ public:
     const les& lesje() const { return les_; }
 
     frame kopbalk, vlak, kader, voorbeeldvlak;
-    label merk, opschriftbalk, titel, kaderkop, stand;
+    label merk, opschriftbalk, titel, kaderkop, stippen, stand;
     control_array<label, 1, regels_hoogstens> regels;
     control_array<label, 1, 2> kaderregels;
     button terug, verder;

@@ -142,13 +142,13 @@ protected:
             x = schrijf(blad, {16, inkt}, {x + 130, midden - halve_regel(16)}, "=");
             schrijf_breuk(blad, {16, donker}, {x + 130, midden}, gelijk(van));
         }
-        schrijf(blad, {14, inkt}, {60, 2270}, "samen");
-        teken_delen(2660, samen.noemer, {{gelijk(a).teller, half}, {gelijk(b).teller, geel}}, samen.noemer);
+        schrijf(blad, {14, inkt}, {60, 2190}, "samen");
+        teken_delen(2560, samen.noemer, {{gelijk(a).teller, half}, {gelijk(b).teller, geel}}, samen.noemer);
 
         int x = 60;
         for (const auto& [deel, teken] : {std::pair{gelijk(a), "+"}, {gelijk(b), "="}, {samen, ""}}) {
-            x = schrijf_breuk(blad, {22, donker}, {x, 3760}, deel) + 150;
-            x = schrijf(blad, {22, inkt}, {x, 3760 - halve_regel(22)}, teken) + 150;
+            x = schrijf_breuk(blad, {22, donker}, {x, 3730}, deel) + 150;
+            x = schrijf(blad, {22, inkt}, {x, 3730 - halve_regel(22)}, teken) + 150;
         }
         return regel(streepbreuk(a), " + ", streepbreuk(b), " = ", streepbreuk(gelijk(a)), " + ",
                      streepbreuk(gelijk(b)), " = ", streepbreuk(samen), ".");
@@ -189,14 +189,14 @@ const lesreeks les_breuken{{
      nieuw<strook_in_stukken>},
     {"Evenveel pizza",
      {"Snijd elk stuk pizza in kleinere stukken. Je hebt dan meer stukken, maar niet meer pizza.",
-      "Teller en noemer gaan keer hetzelfde getal. Terug mag ook: dan deel je ze allebei. Dat heet vereenvoudigen.", "",
+      "Doe teller en noemer keer hetzelfde getal. Terug mag ook: dan deel je ze allebei. Dat heet vereenvoudigen.", "",
       ""},
-     {probeer, "Kies een breuk en een getal."},
+     {probeer, "Kies een breuk. Kies daarna hoeveel keer."},
      nieuw<evenveel_pizza>},
     {"Breuken optellen",
-     {"Halve en derde stukken kun je niet zomaar samen tellen. Maak de stukken eerst even groot.",
+     {"Halven en derden kun je niet zomaar optellen. Maak de stukken eerst even groot.",
       "Zoek een noemer die bij allebei past. Tel daarna alleen de tellers op. De noemer blijft hetzelfde.", "", ""},
-     {probeer, "Kies een som en kijk in hoeveel stukken."},
+     {probeer, "Kies een som. In hoeveel stukken wordt elke strook verdeeld?"},
      nieuw<stroken_samen>},
 }};
 

@@ -91,7 +91,7 @@ protected:
         for (int kolom = 0; kolom < kolommen; ++kolom) {
             const kolomstap& stap = alle[static_cast<std::size_t>(kolom)];
             const int x = midden(kolom);
-            schrijf_midden(blad, {14, donker}, {x, 680}, kolom == 0 ? "E" : kolom == 1 ? "T" : "H");
+            schrijf_midden(blad, {14, donker}, {x, 700}, kolom == 0 ? "E" : kolom == 1 ? "T" : "H");
             schrijf_midden(blad, {30, inkt}, {x, 1340}, kaal(cijfer(som_.boven, kolom)));
             schrijf_midden(blad, {30, inkt}, {x, 1880}, kaal(cijfer(som_.onder, kolom)));
             if (kolom >= stap_) continue;
@@ -203,8 +203,8 @@ const lesreeks les_cijferen{{
      {probeer, "Kies een som en zet steeds een stap. In welke kolom moet je lenen?"},
      nieuw<aftrekken>},
     {"De rekenmachine",
-     {"Soms mag je de rekenmachine gebruiken. Schat altijd eerst hoeveel er ongeveer uitkomt.",
-      "M+ telt de uitkomst op in het geheugen. MR haalt die terug. Met C begin je een nieuw getal.", ""},
+     {"Soms mag je de rekenmachine gebruiken. Schat altijd eerst wat er ongeveer uitkomt.",
+      "M+ telt de uitkomst op bij het geheugen. MR laat het geheugen zien. Met C begin je een nieuw getal.", ""},
      {probeer, "Toets: 3 x 2,45 = M+ C 2 x 1,2 = M+ MR. Wat staat er?"},
      nieuw<eigen_rekenmachine>},
 }};

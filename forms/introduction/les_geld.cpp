@@ -46,7 +46,7 @@ protected:
         const std::string meer = regel("In ", bedrag(euros_ * 100), " gaan ", euros_, " x ", aantal, " =",
                                        duizend(euros_ * aantal), " munten.");
         schrijf(blad, {15, inkt}, {60, 2700}, een);
-        schrijf(blad, {17, donker}, {60, 3400}, meer);
+        schrijf(blad, {16, donker}, {60, 3400}, meer);
         return een + " " + meer;
     }
 
@@ -239,7 +239,7 @@ const lesreeks les_geld{{
     {"Betalen en terugkrijgen",
      {"Geef je te veel? Dan krijg je geld terug.",
       "Vul aan vanaf de prijs. Ga eerst tot een hele euro en dan tot wat je gaf.", "Wat je aanvult, krijg je terug."},
-     {probeer, "Klik op briefjes en munten, tot je genoeg hebt gegeven."},
+     {probeer, "Neem het geld terug. Klik daarna op briefjes en munten tot je genoeg geeft."},
      nieuw<kassa>},
     {"Bijna rond",
      {"Veel prijzen zijn net geen rond bedrag. € 2,95 is bijna € 3,-.", "Reken eerst met het ronde bedrag.",

@@ -43,7 +43,7 @@ protected:
             blad.filled_box(at.links, at.boven, at.breedte, 300, half);
             blad.box(at.links, at.boven, at.breedte, 300, donker);
             schrijf_midden(blad, {14, inkt}, {at.midden().x, at.boven + 150}, plaatsen_[i].letter);
-            schrijf_midden(blad, {30, donker}, {at.midden().x, at.boven + 640}, kaal(cijfers_[i]));
+            schrijf_midden(blad, {30, donker}, {at.midden().x, at.boven + 600}, kaal(cijfers_[i]));
             hoger_[i]->enabled = cijfers_[i] < 9;
             lager_[i]->enabled = cijfers_[i] > 0;
             hoger_[i]->description = lager_[i]->description = kaal(cijfers_[i]);
@@ -121,7 +121,7 @@ protected:
     std::string toon() override {
         teken_kolommen();
         const vlak een = kolom(0);
-        schrijf_midden(blad, {40, donker}, {een.rechts() + 150, een.boven + 640}, ",");
+        schrijf_midden(blad, {40, donker}, {een.rechts() + 150, een.boven + 600}, ",");
         const int getal = samen();
         const std::string kort(kaal(komma_kort(getal, 3)));
         schrijf_midden(blad, {26, donker}, {drawing::inner_width / 2, 2500}, kort);

@@ -63,7 +63,7 @@ protected:
             return "Cirkelgrafiek: woensdag is de helft van de cirkel, dinsdag een kwart.";
         }
         blad.text_size = 13;
-        assen as(blad, {2560, 1130, 2740, 2500}, {0, 40, per_dag}, {0, 50, 10});
+        assen as(blad, {2560, 1250, 2740, 2500}, {0, 40, per_dag}, {0, 50, 10});
         as.lijnen_op();
         as.getallen_links();
         as.naam_boven("ijsjes");
@@ -101,7 +101,9 @@ class regen_aflezen : public voorbeeld {
 public:
     regen_aflezen() {
         maak_blad(180, 90, 5820, 2);
-        stappen({1590, 4740, 3000, 570}, 1230, "maand", maand_, 1, 6);
+        stapper& maand = stappen({1590, 4740, 3000, 570}, 1110, "maand", maand_, 1, 6);
+        maand.vorm = [](int nummer) { return std::string(kort[nummer - 1]); };
+        maand.getal->font_size = 15;
         for (int i = 1; i <= 6; ++i)
             cel("kolom", i, {plot.links + (i - 1) * plot.breedte / 6, plot.boven, plot.breedte / 6, plot.hoogte},
                 std::string(maanden[i - 1]), [this, i] { maand_ = i; });
@@ -131,7 +133,7 @@ protected:
     }
 
 private:
-    static constexpr vlak plot{640, 880, 4560, 2940};
+    static constexpr vlak plot{640, 1120, 4560, 2800};
     static constexpr std::string_view maanden[]{"januari", "februari", "maart", "april", "mei", "juni"};
     static constexpr std::string_view kort[]{"jan", "feb", "mrt", "apr", "mei", "jun"};
     static constexpr int regen[]{45, 60, 35, 50, 15, 30};
@@ -151,7 +153,7 @@ protected:
     std::string toon() override {
         std::vector<taartdeel> delen;
         std::string zin;
-        for (int y = 880; const auto& [naam, noemer, vulling] : vervoer) {
+        for (int y = 850; const auto& [naam, noemer, vulling] : vervoer) {
             const int aantal = leerlingen_ / noemer;
             delen.push_back({aantal, vulling, regel(kaal(aantal))});
             teken_vak(blad, {2940, y - 130, 260, 260}, vulling, donker);

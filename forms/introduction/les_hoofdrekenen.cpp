@@ -19,6 +19,9 @@ public:
 
 protected:
     std::string toon() override {
+        // There is nothing to split in a round number: the stepper goes on past it.
+        if (getal_ % 10 == 0) getal_ += getal_ > vorig_ ? 1 : -1;
+        vorig_ = getal_;
         const int rond = tiental(getal_), rest = std::abs(getal_ - rond);
         const bool eraf = rond > getal_;
         const std::string_view teken = eraf ? " -" : " +";
@@ -26,7 +29,7 @@ protected:
 
         const int breed = 4500 * getal_ / std::max(getal_, rond), deel = 4500 * rond / std::max(getal_, rond);
         constexpr int links = 640, boven = 900;
-        const int hoog = 90 * keer_ + 240;
+        const int hoog = 70 * keer_ + 260;
         schrijf(blad, {24, donker}, {60, 20}, regel(kaal(keer_), " x", getal_, " ="));
         schrijf_midden(blad, {16, inkt}, {340, boven + hoog / 2}, kaal(keer_));
         teken_vak(blad, {links, boven, breed, hoog}, half, donker, 4);
@@ -57,10 +60,10 @@ protected:
     }
 
 private:
-    // A whole ten below, or the one above where that is nearer than 3; never the number itself.
-    static constexpr int tiental(int getal) { return getal % 10 >= 8 ? getal / 10 * 10 + 10 : (getal - 1) / 10 * 10; }
+    // A whole ten below, or the one above where that is nearer than 3.
+    static constexpr int tiental(int getal) { return (getal % 10 >= 8 ? getal + 10 : getal) / 10 * 10; }
 
-    int keer_ = 7, getal_ = 24, stap_ = 0;
+    int keer_ = 7, getal_ = 24, vorig_ = getal_, stap_ = 0;
     button* verder_;
 };
 
@@ -84,7 +87,9 @@ protected:
         teken_sprong(blad, x(rond), x(einde), y, 500, {15, rood}, regel("+ ", kaal(einde - rond)));
         for (const int getal : {begin_, einde}) {
             blad.line(x(getal), y - 80, x(getal), y + 80, inkt);
-            schrijf_midden(blad, {15, inkt}, {x(getal), y + 260}, kaal(getal));
+            const int naast = x(rond) - text_width(kaal(getal), 15) / 2 - 40; // of what hangs down from the whole ten
+            schrijf_midden(blad, {15, inkt}, {getal == begin_ ? std::min(x(getal), naast) : x(getal), y + 260},
+                           kaal(getal));
         }
         // Lower, as it may lie close to either.
         blad.line(x(rond), y - 80, x(rond), y + 420, donker);
@@ -122,12 +127,14 @@ protected:
         constexpr int links = 170, breed = 720, boven = 850, hoog = 1000, eerste = 2, na_laatste = 5, begin_komma = 4;
         const int komma = begin_komma + stappen_;
         const auto x = [](int plaats) { return links + plaats * breed; };
-        for (int i = 0; i < static_cast<int>(cijfers.size()); ++i) {
-            const bool telt = i >= std::min(eerste, komma - 1) && i < std::max(na_laatste, komma);
-            teken_vak(blad, {x(i), boven, breed, hoog}, telt ? wit : licht, telt ? donker : lichtgrijs);
-            if (telt)
-                schrijf_midden(blad, {32, i >= eerste && i < na_laatste ? donker : grijs},
-                               {x(i) + breed / 2, boven + hoog / 2}, cijfers.substr(static_cast<std::size_t>(i), 1));
+        const auto cijfervak = [&](int i, kleur vulling, kleur rand) {
+            teken_vak(blad, {x(i), boven, breed, hoog}, vulling, rand);
+        };
+        for (int i = 0; i < static_cast<int>(cijfers.size()); ++i) cijfervak(i, licht, lichtgrijs);
+        for (int i = std::min(eerste, komma - 1); i < std::max(na_laatste, komma); ++i) {
+            cijfervak(i, wit, donker);
+            schrijf_midden(blad, {32, i >= eerste && i < na_laatste ? donker : grijs},
+                           {x(i) + breed / 2, boven + hoog / 2}, cijfers.substr(static_cast<std::size_t>(i), 1));
         }
         for (int i = begin_komma; i != komma; i += stappen_ > 0 ? 1 : -1)
             teken_sprong(blad, x(i), x(i + (stappen_ > 0 ? 1 : -1)), boven - 40, 300, {12, donker},
@@ -168,7 +175,7 @@ private:
 const lesreeks les_hoofdrekenen{{
     {"Handig splitsen",
      {"Is een som te moeilijk? Splits dan één getal.", "24 is 20 + 4. En 7 x 20 is makkelijk.",
-      "Ligt een rond getal vlakbij? Neem dan dat. 79 is 80 - 1. Haal er daarna iets af."},
+      "Ligt een rond getal vlakbij? Gebruik dat dan. 79 is 80 - 1. Haal er daarna af wat te veel is."},
      {probeer, "Druk op 'volgende stap'. Probeer ook 7 x 29."},
      nieuw<splitsen>},
     {"In twee sprongen",

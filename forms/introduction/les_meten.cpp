@@ -31,7 +31,7 @@ protected:
             teken_vak(blad, op, erin ? half : wit, erin ? wit : lichtgrijs, 1);
         }
         const vlak begin = hokje(0), eind = hokje((breedte_ - 1) * langst + lengte_ - 1);
-        blad.line_width = 6;
+        blad.line_width = 4;
         blad.box(begin.links, begin.boven, eind.rechts() - begin.links, eind.onder() - begin.boven, donker);
         blad.line_width = 1;
         schrijf_midden(blad, {13, inkt}, {(begin.links + eind.rechts()) / 2, 1930}, cm(lengte_));
@@ -121,7 +121,7 @@ private:
                                                    {"oppervlakte", oppervlaktematen, {4, 0}}}};
 
     static constexpr vlak trede(int i) {
-        constexpr int breed = 750, boven = 1000, hoog = 390, onder = 4200;
+        constexpr int breed = 750, boven = 940, hoog = 390, onder = 4200;
         return {65 + i * breed, boven + i * hoog, breed, onder - boven - i * hoog};
     }
     // Only whole numbers are large here.
@@ -182,7 +182,7 @@ private:
 const lesreeks les_meten{{
     {"Omtrek en oppervlakte",
      {"De omtrek is de lengte van de rand. Tel alle zijden bij elkaar op.",
-      "De oppervlakte is wat erbinnen ligt. Bij een rechthoek is dat lengte x breedte.",
+      "De oppervlakte zegt hoeveel hokjes erin passen. Bij een rechthoek is dat lengte x breedte.",
       "Een hokje hiernaast is 1 cm²."},
      {probeer, "Klik op een hokje, of druk op - en +. Wat groeit het snelst?"},
      nieuw<rechthoek>},

@@ -127,8 +127,8 @@ std::string handige_procenten(drawing& on) {
         on.box(links, y, breed, hoog, donker);
         on.line_width = 2;
         const std::string procent = regel(kaal(100 / n), " %");
-        druk(on, 24, donker, 3480, y + hoog / 2 - halve_regel(24), procent);
-        druk(on, 18, inkt, 4500, y + hoog / 2 - halve_regel(18), "=");
+        druk(on, 24, donker, 3370, y + hoog / 2 - halve_regel(24), procent);
+        druk(on, 18, inkt, 4480, y + hoog / 2 - halve_regel(18), "=");
         on.text_size = 20;
         teken_breuk(on, 4830, y + hoog / 2, 0, 1, n);
         zin += regel(procent, " is 1/", kaal(n), ". ");

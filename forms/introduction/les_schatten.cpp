@@ -31,18 +31,18 @@ protected:
         const int rond = static_cast<int>(deel_afgerond(getal_, op_)) * op_;
         const int hier = links + (rechts - links) * rest / op_, daar = rond == onder ? links : rechts;
         blad.text_size = 16;
-        getallenlijn streep(blad, links, rechts, lijn_y, 10);
         teken_vak(blad, {std::min(hier, daar), lijn_y - 45, std::abs(hier - daar), 90}, half, half);
+        getallenlijn streep(blad, links, rechts, lijn_y, 10);
         streep.getal(0, kaal(duizend(onder)));
         streep.getal(10, kaal(duizend(boven)));
         teken_pijl(blad, {hier, lijn_y - 800}, {hier, lijn_y - 130}, rood);
         schrijf_midden(blad, {22, donker}, {hier, lijn_y - 1060}, kaal(duizend(getal_)));
 
-        const std::string_view waarom = rest % op_ == 0   ? "Dat is al een rond getal."
-                                        : rest * 2 == op_ ? "Precies in het midden: rond naar boven af."
-                                        : rond == onder   ? "Het ligt het dichtst bij het linker getal."
-                                                          : "Het ligt het dichtst bij het rechter getal.";
-        const std::string uitkomst = regel(kaal(duizend(getal_)), " is ongeveer", duizend(rond));
+        const bool is_rond = rest % op_ == 0;
+        const std::string waarom = is_rond           ? "Dat is al een rond getal."
+                                   : rest * 2 == op_ ? "Precies in het midden: rond naar boven af."
+                                                     : regel("Het ligt het dichtst bij", duizend(rond), ".");
+        const std::string uitkomst = regel(kaal(duizend(getal_)), is_rond ? " blijft" : " is ongeveer", duizend(rond));
         schrijf_midden(blad, {15, inkt}, {2690, 2640}, waarom);
         schrijf_midden(blad, {26, donker}, {2690, 3460}, uitkomst);
         return regel("Tussen", duizend(onder), " en", duizend(boven), ". ", waarom, " ", uitkomst, ".");
@@ -157,7 +157,7 @@ protected:
         schrijf_rechts(blad, {18, donker}, {5260, 2320}, bedrag(samen * 100));
 
         const std::string oordeel = zeker(samen);
-        schrijf_midden(blad, {16, inkt}, {2690, 3200}, regel("Je hebt ", bedrag(euros_ * 100), "."));
+        schrijf_midden(blad, {16, inkt}, {2690, 3200}, regel("Je hebt ", bedrag(euros_ * 100), ". Je schatting zegt:"));
         schrijf_midden(blad, {18, donker}, {2690, 3700}, oordeel);
         return regel("Kosten, ", zo.voluit, " afgerond: ", bedrag(samen * 100), ". Precies: ", bedrag(precies),
                      ". Je hebt ", bedrag(euros_ * 100), ". ", oordeel);
@@ -190,8 +190,8 @@ private:
 
 const lesreeks les_schatten{{
     {"Wat is afronden?",
-     {"Een rond getal eindigt op nullen.",
-      "Afronden is: neem het ronde getal dat het dichtst bij ligt. Kijk op de getallenlijn.",
+     {"Een rond getal eindigt op één of meer nullen.",
+      "Afronden is: neem het ronde getal dat het dichtstbij ligt. Kijk op de getallenlijn.",
       "Ligt het precies in het midden? Dan rond je naar boven af."},
      {probeer, "Verander het getal, of klik op de lijn. Rond af op een tiental of honderdtal."},
      nieuw<afronden>},

@@ -164,7 +164,7 @@ const lesreeks les_tijd{{
     {"Hoelang duurt het?",
      {"Een uur heeft 60 minuten, niet 100.",
       "Maak eerst het uur vol. Tel dan de hele uren. Tel daarna de minuten die over zijn.",
-      "Heb je meer dan 60 minuten? Dan is dat een uur erbij."},
+      "Heb je samen 60 minuten of meer? Dan komt er een uur bij."},
      {probeer, "Kies een ander begin en een ander einde."},
      nieuw<tijdbalk>},
     {"Van groot naar klein",

@@ -137,7 +137,7 @@ private:
         const int punt = hoogte < 0 ? -110 : 110;
         blad.polygon({{midden + arm, y}, {midden + arm - 70, y + punt}, {midden + arm + 70, y + punt}}, donker, true);
         blad.line_width = 1;
-        schrijf_midden(blad, {16, donker}, {midden, y + hoogte + (hoogte < 0 ? -190 : 190)}, tekst);
+        schrijf_midden(blad, {16, donker}, {midden, y + hoogte + (hoogte < 0 ? -190 : 205)}, tekst);
     }
 
     int liter_ = 6;
@@ -148,7 +148,7 @@ class schaal : public voorbeeld {
 public:
     schaal() {
         maak_blad(180, 90, 5820, 2);
-        for (int i = 0; const int to_one : {100, 1'000, 40'000})
+        for (int i = 0; const int to_one : {1'000, 10'000, 40'000})
             keuze("schaal", {180 + 1980 * i++, 150, 1860, 480}, naam(to_one), [this, to_one] { schaal_ = to_one; });
         stappen({1740, 4740, 2700, 570}, 930, "cm", cm_, 1, 9);
     }
@@ -178,7 +178,7 @@ protected:
 private:
     static std::string naam(int to_one) { return regel("1 : ", kaal(duizend(to_one))); }
 
-    int schaal_ = 100, cm_ = 4;
+    int schaal_ = 1'000, cm_ = 4;
 };
 
 } // namespace
@@ -195,7 +195,7 @@ const lesreeks les_verhoudingen{{
      {probeer, "Kies hoeveel liter je tankt en volg de pijlen."},
      nieuw<via_een>},
     {"Schaal",
-     {"Een schaal is ook een verhouding.", "Bij schaal 1 : 100 is 1 cm op de kaart in werkelijkheid 100 cm.",
+     {"Een schaal is ook een verhouding.", "Bij schaal 1 : 1.000 is 1 cm op de kaart in werkelijkheid 1.000 cm.",
       "Van cm naar m deel je door 100.", ""},
      {probeer, "Kies een schaal en een lengte op de kaart. Hoe lang is dat in het echt?"},
      nieuw<schaal>},

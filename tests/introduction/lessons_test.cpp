@@ -57,7 +57,7 @@ TEST_F(example, says_what_was_set) {
         {2, 1, {{"eieren hoger", 2}}, "8 eieren en 12 bekers melk: van allebei 4 keer zoveel."},
         {2, 1, {{"melk lager", 3}}, "2 eieren en 3 bekers melk: van allebei 1 keer zoveel."},
         {2, 2, {{"liter hoger", 3}}, "Op 1 liter rijdt de auto 15 km, op 9 liter 135 km."},
-        {2, 3, {}, "Schaal 1 : 100: 4 cm op de kaart is in het echt 400 cm, dat is 4 m."},
+        {2, 3, {}, "Schaal 1 : 1.000: 4 cm op de kaart is in het echt 4.000 cm, dat is 40 m."},
         {2,
          3,
          {{"1 : 40.000", 1}, {"cm hoger", 1}},
@@ -155,7 +155,7 @@ TEST_F(example, draws_one_table_in_three_shapes) {
     for (const box_op& each : filled<box_op>(shown, half)) columns.push_back(each.height);
     EXPECT_EQ(columns, (std::vector<int>{500, 1000, 2000, 500}));
     press(shown, "lijngrafiek");
-    for (const circle_op& each : filled<circle_op>(shown, donker)) dots.push_back(3630 - each.centre.y);
+    for (const circle_op& each : filled<circle_op>(shown, donker)) dots.push_back(3750 - each.centre.y);
     EXPECT_EQ(dots, columns);
     press(shown, "cirkelgrafiek");
     const std::pair<kleur, double> sectors[]{{geel, 45}, {half, 90}, {donker, 180}, {lichtgrijs, 45}};
