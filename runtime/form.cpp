@@ -101,14 +101,15 @@ control* form::arrow(char pressed, const control& from) const {
         if (from.index ? each->name != from.name : from.kind == control_kind::option_button && each->kind != from.kind)
             continue;
         const int right = across(*each) - across(from), below = down(*each) - down(from);
+        const int earlier = from.index.value_or(0) - each->index.value_or(0); // of the same array, or else 0
         int along = 0, aside = 0;
         switch (pressed) {
         case keys::left: along = -right, aside = below; break;
         case keys::right: along = right, aside = below; break;
         case keys::up: along = -below, aside = right; break;
         case keys::down: along = below, aside = right; break;
-        case keys::home: along = from.index && each->index < from.index ? *each->index + 1 : 0; break;
-        default: along = from.index && each->index > from.index ? std::numeric_limits<int>::max() - *each->index : 0;
+        case keys::home: along = from.index && earlier > 0 ? each->index.value_or(0) + 1 : 0; break;
+        default: along = from.index && earlier < 0 ? std::numeric_limits<int>::max() + earlier : 0;
         }
         if (along <= 0) continue;
         const int cost = along + 3 * std::abs(aside);

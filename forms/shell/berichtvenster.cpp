@@ -8,7 +8,7 @@ namespace cijferwerf {
 
 namespace {
 
-constexpr int band = 570, text_left = 300, text_top = 855, button_height = 510, gap = 300;
+constexpr int band = 570, text_left = 300, text_top = 855, button_height = 510;
 constexpr double text_points = 15;
 
 // The text in lines of at most this width, broken at blanks; a carriage return breaks it too.
@@ -34,7 +34,8 @@ std::string in_lines(std::string_view text, int width) {
 
 } // namespace
 
-berichtvenster::berichtvenster(outside& with, std::function<void(box_answer)> answered) : form(with, "berichtvenster") {
+berichtvenster::berichtvenster(outside& with, const std::function<void(box_answer)>& answered)
+    : form(with, "berichtvenster") {
     using enum theme_role;
     overlay = true;
     width = 5400;

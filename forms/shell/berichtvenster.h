@@ -9,7 +9,7 @@ namespace cijferwerf {
 class berichtvenster : public form {
 public:
     // The answer goes to answered().
-    berichtvenster(outside& with, std::function<void(box_answer)> answered);
+    berichtvenster(outside& with, const std::function<void(box_answer)>& answered);
 
     // Puts a box on the form, which grows with its text; before the form is shown.
     void leg_voor(const message_box& box);
