@@ -14,6 +14,8 @@
 #include <QScreen>
 #include <QStackedWidget>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace cijferwerf {
@@ -254,11 +256,13 @@ void desktop::unload(form& gone) {
 
 // ---- message boxes ----
 
+// The topmost window that is seen bears the box: one that lies over the asking form would hide it.
 void desktop::open_box(berichtvenster& box, const form& over) {
-    std::vector<form_page*> seen = side_pages_;
+    std::vector<form_page*> seen;
     if (!pages_.empty()) seen.push_back(pages_.back());
-    const auto asking = std::ranges::find(seen, page(over));
-    std::swap(seen.back(), asking == seen.end() ? seen.back() : *asking);
+    std::ranges::copy_if(side_pages_, std::back_inserter(seen),
+                         [](const form_page* each) { return !each->isMinimized(); });
+    if (const form_page* asking = page(over)) asking_window_ = asking->window();
     for (form_page* each : seen) shades_.push_back(new shade(*each, *this));
 
     box_page_ = new form_page(
@@ -269,8 +273,9 @@ void desktop::open_box(berichtvenster& box, const form& over) {
 }
 
 void desktop::close_box() {
-    for (shade* each : std::exchange(shades_, {})) each->lift();
     box_page_ = nullptr;
+    for (shade* each : std::exchange(shades_, {})) each->lift();
+    if (asking_window_ != nullptr) asking_window_->activateWindow();
 }
 
 // ---- printer, clock ----

@@ -5,6 +5,7 @@
 #include "desktop/form_page.h"
 #include "forms/front_end.h"
 
+#include <QPointer>
 #include <QTimer>
 
 #include <memory>
@@ -51,7 +52,8 @@ private:
     std::vector<form_page*> side_pages_;
     QTimer wake_up_;
     form_page* box_page_ = nullptr;
-    std::vector<shade*> shades_; // over every page while a message box is open
+    QPointer<QWidget> asking_window_; // gets the keys again when the box closes
+    std::vector<shade*> shades_;      // over every page while a message box is open
 };
 
 // What a program with this desktop calls before and after it makes its QApplication.
