@@ -8,7 +8,7 @@ constexpr int least = 840, most = 30'000;
 
 template<class Operator>
 formula combined(const formula& a, const formula& b, Operator combine) {
-    return [=](const reading& of) { return combine(std::get<double>(a(of)), std::get<double>(b(of))); };
+    return [=](const reading& of) { return combine(a.in(of), b.in(of)); };
 }
 
 std::string as_text(const outcome& value) {
@@ -28,6 +28,7 @@ bool fits(const outcome& wanted, const std::string& answer, const std::string& o
     }
     const auto number = number_of(option);
     if (const auto* value = std::get_if<double>(&wanted)) return number && same(*number, *value);
+    if (const auto* may_be = std::get_if<bool>(&wanted)) return *may_be;
     switch (std::get<lies>(wanted)) {
     case lies::below: return number && number < number_of(right);
     case lies::above: return number && number > number_of(right);
@@ -36,6 +37,16 @@ bool fits(const outcome& wanted, const std::string& answer, const std::string& o
 }
 
 bool has(std::string_view text, std::string_view piece) { return find_pattern(text, piece).has_value(); }
+
+// A pattern with the words that were read for $a, $b, ..., and the right answer for $=.
+std::string filled(std::string pattern, const reading& now) {
+    for (std::size_t at = 0; (at = pattern.find('$', at)) != pattern.npos; ++at) {
+        const char which = pattern[at + 1];
+        if (which == '=') pattern.replace(at, 2, now.exercise.right);
+        if (which >= 'a') pattern.replace(at, 2, now.words.at(static_cast<std::size_t>(which - 'a')));
+    }
+    return pattern;
+}
 
 // One row and what it has met so far.
 class row_checker {
@@ -53,19 +64,20 @@ public:
         const auto found = find_pattern(sheet, row_.reads);
         ASSERT_TRUE(found) << "reads: " << sheet;
         reading now{e, found->numbers, found->words};
-        for (const formula& count : row_.counts) now.numbers.push_back(std::get<double>(count(now)));
+        for (const formula& count : row_.counts) now.numbers.push_back(count.in(now));
         note(now, place);
 
         const auto options = e.options();
         const auto right_place = static_cast<std::size_t>(e.right_place() - 1);
+        now.option = options[right_place];
+        now.place = e.right_place();
         const outcome right = row_.right(now);
         if (!std::holds_alternative<lies>(right)) {
             EXPECT_TRUE(fits(right, e.right, options[right_place], "")) << "right is " << as_text(right);
         }
         for (int i = 1; i <= 4; ++i)
             if (i != e.right_place() && !row_.wrong.empty())
-                look_at_mistake(now, e.answer(i), options[static_cast<std::size_t>(i - 1)], options[right_place],
-                                e.feedback(i));
+                look_at_mistake(now, i, options[static_cast<std::size_t>(i - 1)], options[right_place]);
         look_at_explanation(now);
         look_at_tips(e);
         EXPECT_EQ(e.made.tijdlimiet, row_.ticks.empty() ? 0 : row_.ticks[row_.ticks.size() == 1 ? 0 : place]);
@@ -115,15 +127,23 @@ private:
         words_.resize(std::max(words_.size(), now.words.size()));
         for (std::size_t i = 0; i < now.words.size(); ++i) words_[i].insert(now.words[i]);
     }
-    void look_at_mistake(const reading& now, const std::string& answer, const std::string& option,
-                         const std::string& right, const std::string& feedback) {
-        std::set<std::string_view> pieces;
+    void look_at_mistake(reading now, int place, const std::string& option, const std::string& right) {
+        const std::string answer = now.exercise.answer(place), feedback = now.exercise.feedback(place);
+        now.option = option;
+        now.place = place;
+        const auto tells = [&](const std::vector<double>& found, const std::vector<formula>& wanted) {
+            return wanted.empty() || std::ranges::equal(found, wanted, [&](double number, const formula& f) {
+                       return same(number, f.in(now));
+                   });
+        };
+        std::set<std::string> pieces;
         bool explained = false;
         for (std::size_t i = 0; i < row_.wrong.size(); ++i) {
-            const auto& [piece, value] = row_.wrong[i];
-            if (feedback.empty() ? false : *piece == 0 || !has(feedback, piece)) continue;
+            const auto& [piece, value, numbers] = row_.wrong[i];
+            const auto found = find_pattern(feedback, filled(piece, now));
+            if (!feedback.empty() && (piece.empty() || !found)) continue;
             pieces.insert(feedback.empty() ? "" : piece);
-            if (!fits(value(now), answer, option, right)) continue;
+            if (!fits(value(now), answer, option, right) || (found && !tells(found->numbers, numbers))) continue;
             explained = met_[i] = true;
         }
         EXPECT_EQ(pieces.size(), 1U) << "rows for \"" << feedback << "\" at " << answer;
@@ -134,11 +154,11 @@ private:
         std::string told = now.exercise.explanation;
         for (const std::string& word : now.exercise.when_explained().words) told += "| " + word + " ";
         for (const auto& [pattern, numbers] : row_.explains) {
-            const auto found = find_pattern(told, pattern);
+            const auto found = find_pattern(told, filled(pattern, now));
             ASSERT_TRUE(found) << "explains: " << pattern << " in " << told;
             ASSERT_EQ(found->numbers.size(), numbers.size()) << pattern;
             for (std::size_t i = 0; i < numbers.size(); ++i)
-                EXPECT_TRUE(same(found->numbers[i], std::get<double>(numbers[i](now))))
+                EXPECT_TRUE(same(found->numbers[i], numbers[i].in(now)))
                     << pattern << ": number " << i << " is " << as_text(numbers[i](now));
         }
     }
@@ -195,21 +215,33 @@ formula operator-(const formula& a, const formula& b) { return combined(a, b, st
 formula operator*(const formula& a, const formula& b) { return combined(a, b, std::multiplies<>()); }
 formula operator/(const formula& a, const formula& b) { return combined(a, b, std::divides<>()); }
 
+formula place_of(const formula& value, std::vector<formula> among) {
+    return [=](const reading& of) {
+        std::vector<double> all;
+        for (const formula& each : among) all.push_back(each.in(of));
+        const auto found = std::ranges::find(all, value.in(of));
+        return std::ranges::count(all, value.in(of)) == 1 ? found - all.begin() + 1 : 0;
+    };
+}
+
 double rounded(double value, int decimals) {
     const double scale = std::pow(10, decimals);
     return std::floor(value * scale + 0.5 + 1e-9) / scale;
 }
 
 formula rounded(const formula& a, int decimals) {
-    return [=](const reading& of) { return rounded(std::get<double>(a(of)), decimals); };
+    return [=](const reading& of) { return rounded(a.in(of), decimals); };
 }
 
-row_part wrong(const char* piece, std::vector<formula> values) {
+row_part wrong(const std::string& piece, std::vector<formula> values) {
     return [=](exercise_row& row) {
         for (const formula& value : values) row.wrong.push_back({piece, value});
     };
 }
-row_part explains(const char* pattern, std::vector<formula> numbers) {
+row_part wrong(const statement& told, const formula& value) {
+    return [=](exercise_row& row) { row.wrong.push_back({told.pattern, value, told.numbers}); };
+}
+row_part explains(const std::string& pattern, std::vector<formula> numbers) {
     return [=](exercise_row& row) { row.explains.push_back({pattern, numbers}); };
 }
 row_part counts(std::vector<formula> values) {

@@ -6,17 +6,17 @@
 //
 //     const exercise_rows percentages([] {
 //         row(L_voetbal_01_08_click, 5, "zitten # mensen. Hiervan is # % supporter", range({3000, 12000}, {55, 94}),
-//             right(v[0] * (100 - v[1]) / 100), wrong("AANTAL berekenen", 100 - v[1]),
-//             wrong("THUIS", v[0] * v[1] / 100), explains("1 % van alle toeschouwers gelijk aan #", v[0] / 100),
+//             right(A * (100 - B) / 100), wrong("AANTAL berekenen", 100 - B),
+//             wrong("THUIS", A * B / 100), explains("1 % van alle toeschouwers gelijk aan #", A / 100),
 //             tips("Reken eerst het percentage", "Neem dan 1 %"));
 //     });
 //
 // that is: the exercise, its number of sub-variants, what is read, and parts in any order, which exercise_row explains.
 // Patterns are those of pattern.h: "#" reads a number, "(een|twee)" a choice as 0 or 1, "@" a word, "$0" stands for a
-// number that was read before. v[0], v[1], ... are the numbers that `reads` finds, in order, then those of `counts`. A
+// number that was read before. A, B, C, ... are the numbers that `reads` finds, in order, then those of `counts`. A
 // formula is an expression in them, or a lambda [](const reading& n) { return n[0] ...; } that returns a number or a
 // text; where the answers are words, such as colours, it may tell what stands behind them in the picture. says("# : #",
-// v[1], v[0]) is an answer that looks like that. Sub-variants that differ have rows of their own with `of`. Write the
+// B, A) is an answer that looks like that. Sub-variants that differ have rows of their own with `of`. Write the
 // numbers of a table by hand and compute another way than the generator does.
 #pragma once
 
@@ -39,10 +39,16 @@ struct reading {
     const seen& exercise;
     std::vector<double> numbers;
     std::vector<std::string> words;
+    std::string option = {}; // the answer that it is asked about, or what stands behind it in the picture,
+    int place = 0;           // and which button has it
 
     double operator[](std::size_t i) const { return numbers.at(i); }
     int variant() const { return exercise.made.variant; }
 };
+template<class Operation>
+std::vector<Operation> all(const reading& n) {
+    return all<Operation>(n.exercise.made.plaatje);
+}
 
 // How a wrong answer lies to the right one, where no formula tells its value.
 enum class lies { below, above, elsewhere };
@@ -53,10 +59,11 @@ struct told_numbers {
     std::vector<double> numbers;
 };
 
-// A value (compared with the number of the answer, whatever its unit), the text of an answer, or how it lies.
-using outcome = std::variant<double, std::string, told_numbers, lies>;
+// A value (compared with the number of the answer, whatever its unit), the text of an answer, how it lies, or whether
+// it may be the answer.
+using outcome = std::variant<double, std::string, told_numbers, lies, bool>;
 
-// How an outcome follows from what was read: v[0] * (100 - v[1]) / 100, 7, "geel", lies::below, or a function of the
+// How an outcome follows from what was read: A * (100 - B) / 100, 7, "geel", lies::below, or a function of the
 // reading that returns a number or a text.
 class formula {
 public:
@@ -68,13 +75,19 @@ public:
     template<class Function>
     requires std::is_invocable_v<Function, const reading&> formula(Function function)
         : get_([function](const reading& of) -> outcome {
-              if constexpr (std::is_arithmetic_v<decltype(function(of))>)
+              if constexpr (std::is_arithmetic_v<decltype(function(of))> &&
+                            !std::is_same_v<decltype(function(of)), bool>)
                   return static_cast<double>(function(of));
               else
                   return function(of);
           }) {}
 
     outcome operator()(const reading& of) const { return get_(of); }
+    double in(const reading& of) const {
+        const outcome found = get_(of);
+        const auto* yes = std::get_if<bool>(&found);
+        return yes != nullptr ? *yes : std::get<double>(found);
+    }
 
 private:
     std::function<outcome(const reading&)> get_;
@@ -84,43 +97,85 @@ formula operator+(const formula& a, const formula& b);
 formula operator-(const formula& a, const formula& b);
 formula operator*(const formula& a, const formula& b);
 formula operator/(const formula& a, const formula& b);
-// An answer like says("# : #", v[1], v[0]).
+// An answer like says("# : #", B, A).
 template<class... Formulas>
 formula says(const char* pattern, const Formulas&... numbers) {
-    return [=](const reading& of) -> outcome {
-        return told_numbers{pattern, {std::get<double>(formula(numbers)(of))...}};
-    };
+    return [=](const reading& of) -> outcome { return told_numbers{pattern, {formula(numbers).in(of)...}}; };
 }
 // How many filled boxes of a colour the picture has.
 inline formula blocks(kleur colour) {
-    return [colour](const reading& of) { return of.exercise.of_colour(colour); };
+    return [=](const reading& n) {
+        return std::ranges::count(n.exercise.blocks, colour, [](const box_op& box) { return box.pen.colour; });
+    };
 }
 // Half up, to so many decimals.
 formula rounded(const formula& a, int decimals = 0);
 double rounded(double value, int decimals = 0);
 inline bool same(double a, double b) { return std::abs(a - b) <= 1e-9 * std::max({1.0, std::abs(a), std::abs(b)}); }
 
-// The numbers that were read.
-inline constexpr struct {
-    formula operator[](std::size_t i) const {
-        return [i](const reading& of) { return of[i]; };
-    }
-} v;
+// A function of numbers, of what formulas make.
+template<class Function, class... Formulas>
+formula lifted(Function function, const Formulas&... values) {
+    return [=](const reading& of) { return function(formula(values).in(of)...); };
+}
+inline formula floor(const formula& a) {
+    return lifted([](double x) { return std::floor(x + 1e-9); }, a);
+}
+inline formula abs(const formula& a) {
+    return lifted([](double x) { return std::abs(x); }, a);
+}
+inline formula power(const formula& base, const formula& exponent) {
+    return lifted([](double b, double e) { return std::round(std::pow(b, e)); }, base, exponent);
+}
+template<class... Formulas>
+formula smallest(const Formulas&... values) {
+    return lifted([](auto... each) { return std::min({each...}); }, values...);
+}
+template<class... Formulas>
+formula largest(const Formulas&... values) {
+    return lifted([](auto... each) { return std::max({each...}); }, values...);
+}
+// The one of which the number is that, counted from 0; the one of the sub-variant.
+inline formula chosen(const formula& which, std::vector<formula> from) {
+    return [=](const reading& of) { return from.at(static_cast<std::size_t>(which.in(of)))(of); };
+}
+inline formula by_variant(std::vector<formula> from) {
+    return [=](const reading& of) { return from.at(static_cast<std::size_t>(of.variant() - 1))(of); };
+}
+// Where the only one of this value stands, counted from 1; else 0.
+formula place_of(const formula& value, std::vector<formula> among);
+
+// What an answer is worth, and its button: for the numbers of its feedback, or to say whether it may be the answer.
+inline const formula answer = [](const reading& of) { return number_of(of.option).value(); };
+inline const formula button = [](const reading& of) { return of.place; };
+inline formula at_button(const formula& which) {
+    return lifted([](double a, double b) { return a == b; }, button, which);
+}
+
+// The numbers that were read, in order.
+inline formula read_number(std::size_t i) {
+    return [i](const reading& of) { return of[i]; };
+}
+inline const formula A = read_number(0), B = read_number(1), C = read_number(2), D = read_number(3), E = read_number(4),
+                     F = read_number(5), G = read_number(6), H = read_number(7), I = read_number(8), J = read_number(9);
 
 // Smallest and largest of a number; both must be drawn, or (where that is too rare) a number this near to each.
 struct span {
     double smallest, largest, near = 0;
 };
+inline constexpr span any{-1e99, 1e99, 2e99};
 
-// A piece of the feedback ("": none is given) and the answer beside which it must stand.
+// A piece of the feedback ("": none is given) and the answer beside which it must stand. In it, and in what the
+// explanation must show, $a, $b, ... are the words that `reads` found, and $= is the right answer.
 struct mistake {
-    const char* piece;
+    std::string piece;
     formula value;
+    std::vector<formula> numbers = {}; // of the piece, in order
 };
 
 // A pattern that the explanation, in words or as drawn, must show, and its numbers in order.
 struct statement {
-    const char* pattern;
+    std::string pattern;
     std::vector<formula> numbers;
 };
 
@@ -131,7 +186,7 @@ struct exercise_row {
     // Those that this row is about, where others have rows of their own.
     std::vector<int> of = {};
     // Looked for in the question and the words of the picture: "question | word | word | ...".
-    const char* reads = "";
+    std::string reads = {};
     // More numbers, of which no text tells: they go on in v behind those that `reads` finds.
     std::vector<formula> counts = {};
     // Of each number: once for all the row's sub-variants, or for each of them.
@@ -153,15 +208,17 @@ struct exercise_row {
 // The parts of a row, as exercise_row explains them; a function of the reading is its check.
 using row_part = std::function<void(exercise_row&)>;
 
-row_part wrong(const char* piece, std::vector<formula> values);
-row_part explains(const char* pattern, std::vector<formula> numbers);
+row_part wrong(const std::string& piece, std::vector<formula> values);
+// The same with the numbers of the piece, such as `answer`.
+row_part wrong(const statement& told, const formula& value);
+row_part explains(const std::string& pattern, std::vector<formula> numbers);
 row_part counts(std::vector<formula> values);
 template<class... Formulas>
-row_part wrong(const char* piece, const Formulas&... values) {
+row_part wrong(const std::string& piece, const Formulas&... values) {
     return wrong(piece, std::vector<formula>{values...});
 }
 template<class... Formulas>
-row_part explains(const char* pattern, const Formulas&... numbers) {
+row_part explains(const std::string& pattern, const Formulas&... numbers) {
     return explains(pattern, std::vector<formula>{numbers...});
 }
 template<class... Formulas>
@@ -183,8 +240,8 @@ inline row_part wrong(std::vector<mistake> all) {
 void add_test(const exercise_row& row);
 // Adds the test of a row to the program.
 template<class... Parts>
-void row(oefening_id id, int variants, const char* reads, const Parts&... parts) {
-    exercise_row made{.id = id, .variants = variants, .reads = reads};
+void row(oefening_id id, int variants, std::string reads, const Parts&... parts) {
+    exercise_row made{.id = id, .variants = variants, .reads = std::move(reads)};
     const auto add = [&made](const auto& part) {
         if constexpr (std::is_invocable_v<decltype(part), exercise_row&>)
             part(made);

@@ -61,6 +61,21 @@ std::optional<double> take_fraction(std::string_view text, std::size_t& at) {
     return take_number(text, at);
 }
 
+// "9:05", "0:01:10".
+std::optional<double> take_time(std::string_view text, std::size_t& at) {
+    if (!begins(text, at)) return {};
+    std::size_t here = at, parts = 1;
+    double value = take_digits(text, here);
+    for (; here < text.size() && text[here] == ':' && digit(text, here + 1) && digit(text, here + 2); ++parts) {
+        std::size_t next = here + 1;
+        value = value * 60 + take_digits(text, next);
+        here = next;
+    }
+    if (parts == 1) return {};
+    at = here;
+    return value;
+}
+
 struct matcher {
     std::string_view text, pattern;
     found_in_text found{};
@@ -103,13 +118,17 @@ struct matcher {
         for (; p < pattern.size(); ++p, ++t) switch (pattern[p]) {
             case '#': return number(take_number, t, p + 1);
             case '&': return number(take_fraction, t, p + 1);
+            case '~': return number(take_time, t, p + 1);
             case '@': return some_text(true, t, p + 1);
             case '*': return some_text(false, t, p + 1);
             case '(': return one_of(t, p + 1, ')');
             case '{': return one_of(t, p + 1, '}', found.numbers.at(first_choice.value()));
             case '$':
-                if (const auto again = take_number(text, t);
-                    again != found.numbers.at(static_cast<std::size_t>(pattern[++p] - '0')))
+                if (const char which = pattern[++p]; which >= 'a') {
+                    const std::string& word = found.words.at(static_cast<std::size_t>(which - 'a'));
+                    if (!text.substr(t).starts_with(word)) return false;
+                    t += word.size();
+                } else if (take_number(text, t) != found.numbers.at(static_cast<std::size_t>(which - '0')))
                     return false;
                 --t;
                 break;

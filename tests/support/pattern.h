@@ -16,12 +16,14 @@ struct found_in_text {
 // The first place of the text that looks like the pattern, in which
 //
 //     #          is a number as pupils write it: "1.250,5", "-3"; it becomes one of the numbers
+//     ~          is a time as "9:05", in minutes, or "0:01:10", in seconds; likewise
 //     &          is a mixed number, a fraction or a whole number: "1 3/8", "3/4", "12"; likewise
 //     (one|two)  is one of these texts; which of them, counted from 0, becomes one of the numbers
 //     {one|two}  is the text at the place that the first of those had
 //     @          is some text, as short as possible; it becomes one of the words
 //     *          is some text or none, as short as possible
 //     $0         is the number that was found as number 0, once more (0 to 9)
+//     $a         is the text that was found as word 0, once more (a to z)
 //     \#         is "#" itself
 //
 // and everything else stands for itself; nothing where no place does. A bracket that is never closed ends the test.

@@ -2,22 +2,12 @@
 
 #include "tests/support/rows_of.h"
 
-#include <map>
-#include <regex>
-
 namespace cijferwerf {
 
 double decimal(std::string text) {
-    std::erase(text, '.');
+    std::erase_if(text, [](char c) { return c == '.' || c == ' '; });
     std::ranges::replace(text, ',', '.');
     return lees_getal(text);
-}
-
-breuk fraction(const std::string& text) {
-    static const std::regex number(R"( ?(?:(\d+)(?: |$))?(?:(\d+)/(\d+))?)");
-    std::smatch part;
-    EXPECT_TRUE(std::regex_match(text, part, number)) << text;
-    return gemengd_getal(whole(part[1]), whole(part[2]), part[3].matched ? whole(part[3]) : 1);
 }
 
 drawing explained(const oefening& made) {
@@ -80,16 +70,6 @@ void seen::look_at(const drawing& drawn) {
         }
         if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled) blocks.push_back(*box);
     }
-}
-
-std::vector<std::string> seen::groups(const std::string& text, const char* pattern) {
-    static std::map<std::string, std::regex> compiled;
-    const std::regex& wanted = compiled.try_emplace(pattern, pattern).first->second;
-    std::smatch found;
-    EXPECT_TRUE(std::regex_search(text, found, wanted)) << text << " is not " << pattern;
-    std::vector<std::string> all(found.begin(), found.end());
-    all.resize(wanted.mark_count() + 1);
-    return all;
 }
 
 } // namespace cijferwerf

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "forms/practice/explanation.h"
-#include "generators/gedeeld/breuk.h"
 #include "generators/oefeningen.h"
 
 #include <algorithm>
@@ -12,13 +11,20 @@
 
 namespace cijferwerf {
 
-// " 1.250,5 euro" is 1250.5.
+// " 1.250,5 euro" and "1. 2  5  0, 5" are 1250.5.
 double decimal(std::string text);
 inline int whole(const std::string& text) { return static_cast<int>(decimal(text)); }
-// "1 3/8", "3/4" or "12".
-breuk fraction(const std::string& text);
 
 drawing explained(const oefening& made);
+
+// What was drawn by one kind of operation.
+template<class Operation>
+std::vector<Operation> all(const drawing& drawn) {
+    std::vector<Operation> found;
+    for (const drawing_op& each : drawn.operations())
+        if (const auto* operation = std::get_if<Operation>(&each)) found.push_back(*operation);
+    return found;
+}
 
 struct seen {
     const oefening& made;
@@ -58,37 +64,11 @@ struct seen {
     // The question and the words of the picture, " | " between them.
     std::string sheet() const;
 
-    // The groups of a regular expression that is found in the question, in the explanation, or in a text of the
-    // picture.
-    std::vector<std::string> asked(const char* pattern) const { return groups(question, pattern); }
-    std::vector<std::string> told(const char* pattern) const { return groups(explanation, pattern); }
-    std::vector<std::string> shown(std::size_t word, const char* pattern) const {
-        return groups(words.at(word), pattern);
-    }
-    breuk fraction_at(std::size_t word) const { return {whole(words.at(word)), whole(words.at(word + 1))}; }
-    auto of_colour(kleur colour) const {
-        return std::ranges::count_if(blocks, [&](const box_op& box) { return box.pen.colour == colour; });
-    }
-
 private:
     void look_at(const drawing& drawn);
-    static std::vector<std::string> groups(const std::string& text, const char* pattern);
 };
 
 // The lines that are not empty, each with a blank behind it.
 std::string joined(const tekstregels& lines);
-
-// Calls check(exercise) for one exercise of this generator after another, until something fails.
-template<class Check>
-void each(oefening_id generator, Check check) {
-    oefeningen maker([] { return 43'200.0F; });
-    maker.toeval.restart(1971);
-    for (int i = 0; i < 840 && !testing::Test::HasFailure(); ++i) {
-        maker.maak(generator);
-        const seen exercise(maker);
-        SCOPED_TRACE(exercise.question + "-> " + exercise.right + " | " + exercise.explanation);
-        check(exercise);
-    }
-}
 
 } // namespace cijferwerf

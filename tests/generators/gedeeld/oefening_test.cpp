@@ -1,4 +1,5 @@
 // The verbs with which exercises choose and place their answers, and draw what goes with them.
+#include "generators/gedeeld/breuk.h"
 #include "generators/gedeeld/tekening_macht.h"
 #include "tests/support/operation_text.h"
 #include "tests/support/seen.h"
