@@ -11,6 +11,14 @@ formula divisor(const formula& a, const formula& b) {
 }
 formula common(const formula& a, const formula& b) { return a * b / divisor(a, b); }
 
+// Right and wrong alike, so that the right one is not the only one that cannot be made simpler.
+void check_simplest_form(const reading& n) {
+    for (const std::string& answer : n.exercise.answers())
+        if (const auto part = find_pattern(answer, "#/#")) {
+            EXPECT_EQ(std::gcd(std::lround(part->numbers[0]), std::lround(part->numbers[1])), 1) << answer;
+        }
+}
+
 // The explanation goes on with the sum, worked out step by step, below the question on the board.
 void check_worked_line(const reading& n) {
     const seen& e = n.exercise;
@@ -138,7 +146,7 @@ const exercise_rows fractions([] {
     row(B_vlakjes_03_03_click, 4, "rood is gekleurd.", counts(blocks(rood) - 1, blocks(geel) - 1 + blocks(rood) - 1),
         range({{8, 28}, {36, 36}}), range({{7, 29}, {36, 36}}), range({{8, 28}, {36, 36}}), range({{7, 29}, {36, 36}}),
         right(A / 36), wrong("gele vlakjes", 1 - A / 36), wrong("een vlakje verteld", (A - 1) / 36, (A + 1) / 36),
-        wrong("paar rode", (A - 3) / 36, (A + 3) / 36));
+        wrong("paar rode", (A - 3) / 36, (A + 3) / 36), check_simplest_form);
     row(L_helen_maken_03_03_click, 2, "| # | # | # | + | = | # | ..", counts(D - A),
         range({{1, 9}, {1, 9}, {4, 10}, {2, 10}, {1, 1}}), range({{1, 9}, {1, 19}, {11, 20}, {2, 10}, {1, 1}}),
         right(1 - B / C), wrong("zelf gekozen", B / C), wrong("hele te veel", 2 - B / C),
@@ -169,7 +177,7 @@ const exercise_rows fractions([] {
         wrong("alleen de eerste prijs", 1 - first_prize), wrong("alleen de tweede prijs", 1 - second_prize),
         wrong("van elkaar afgetrokken", first_prize - second_prize),
         wrong("je & deel vergist", part_left - 1 / common(B, D), part_left + 1 / common(B, D)),
-        wrong("ook de noemers", 1 - (A + C) / (B + D)));
+        wrong("ook de noemers", 1 - (A + C) / (B + D)), check_simplest_form);
     row(M_getallenlijn_03_03_click, 2, "| Gegeven breuk: | # | # |", range({{1, 19}, {3, 20}}),
         range({{1, 14}, {7, 15}}), explains("\\(#/10) en", floor(A * 10 / B)),
         explains("\\(#/10). De", floor(A * 10 / B) + 1),
@@ -194,7 +202,7 @@ const exercise_rows fractions([] {
               (numerator - 1) / denominator, (numerator + 1) / denominator, numerator / (denominator - 1)),
         explains("kun je schrijven als &", A / 100),
         explains("vereenvoudigen tot & door de teller en de noemer door # te", A / 100, C),
-        tips("(Eerst: bedenk|Bedenk eerst)", "(Dan: schrijf|Maak van)"));
+        tips("(Eerst: bedenk|Bedenk eerst)", "(Dan: schrijf|Maak van)"), check_simplest_form);
     row(L_stukken_03_14_click, 14, "stuk AC een lengte heeft van &. Hoe lang is het stuk AB? | A | B | C | ? | &",
         of({1, 3, 5, 7, 9, 11, 13}), counts(marks(false), marks(true), B - A),
         range({{2.0 / 3, 50}, {2.0 / 3, 50}, {4, 10}, {1, 9}, {0, 0}}), right(A * D / C),
