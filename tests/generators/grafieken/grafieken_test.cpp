@@ -67,6 +67,14 @@ numbers metres(const reading& n) {
     for (double& each : run) each = rounded(each, 1);
     return {run.begin() + 1, run.end()};
 }
+// A hundred metres in all, and the one second that is asked about stands out.
+void check_run(const reading& n) {
+    auto run = metres(n);
+    EXPECT_NEAR(std::reduce(run.begin(), run.end()), 100, 0.15);
+    std::ranges::sort(run);
+    EXPECT_TRUE(n[0] == 0 ? run[0] < 5.5 && run[1] > 7 && run[11] < 8.6 && run[12] > 9
+                          : run[0] < 6.2 && run[1] > 7.5 && run[10] < 9 && run[11] > 10.9 && run[11] < 11.6);
+}
 formula second(bool opposite) {
     return [opposite](const reading& n) {
         const numbers run = metres(n);
@@ -159,7 +167,7 @@ const exercise_rows graphs([] {
         range({{0, 0}, {0, 0}, {7, 13}, {9.3, 9.7}}), range({{1, 1}, {1, 1}, {7, 12}, {11.1, 11.4}}),
         right(second(false)),
         wrong("niet naar de (kleinste, maar naar de grootste|grootste, maar naar de kleinste)", second(true)),
-        wrong("niet goed afgelezen", lies::elsewhere), explains("ussen # en # second", C - 1, C));
+        wrong("niet goed afgelezen", lies::elsewhere), explains("ussen # en # second", C - 1, C), check_run);
     row(L_hardlopen_2_04_18_click, 4, "ligt na # seconden op de (eerste|tweede|derde|vierde) plaats? * | m | s |",
         range({{60, 100}, {0, 0}}), range({{60, 100}, {1, 1}}), range({{60, 100}, {2, 2}}), range({{60, 100}, {3, 3}}),
         right(runner),
