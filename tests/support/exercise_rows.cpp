@@ -215,6 +215,9 @@ formula operator-(const formula& a, const formula& b) { return combined(a, b, st
 formula operator*(const formula& a, const formula& b) { return combined(a, b, std::multiplies<>()); }
 formula operator/(const formula& a, const formula& b) { return combined(a, b, std::divides<>()); }
 
+formula operator<(const formula& a, const formula& b) { return combined(a, b, std::less<>()); }
+formula operator==(const formula& a, const formula& b) { return combined(a, b, same); }
+
 formula place_of(const formula& value, std::vector<formula> among) {
     return [=](const reading& of) {
         std::vector<double> all;

@@ -108,6 +108,9 @@ inline formula blocks(kleur colour) {
         return std::ranges::count(n.exercise.blocks, colour, [](const box_op& box) { return box.pen.colour; });
     };
 }
+// Whether they are so.
+formula operator<(const formula& a, const formula& b);
+formula operator==(const formula& a, const formula& b);
 // Half up, to so many decimals.
 formula rounded(const formula& a, int decimals = 0);
 double rounded(double value, int decimals = 0);

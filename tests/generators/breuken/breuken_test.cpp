@@ -1,6 +1,7 @@
 // Fractions: what they draw, their answers worked out again from what a pupil sees, and each wrong answer as the
 // mistake that its feedback names.
 #include "tests/support/exercise_rows.h"
+#include "tests/support/ink.h"
 #include "tests/support/rows_of.h"
 
 namespace cijferwerf {
@@ -78,6 +79,14 @@ formula shortened(int teller, int noemer, bool teller_left = false, bool noemer_
     return (teller_left ? over * left : over) / (noemer_left ? under * left : under);
 }
 
+// Of the square.
+const formula yellow_part = [](const reading& n) {
+    double yellow = 0;
+    for (const box_op& box : n.exercise.blocks)
+        if (box.pen.colour == geel) yellow += box.width * box.height;
+    return yellow / n.exercise.blocks[0].width / n.exercise.blocks[0].height;
+};
+
 // ---- mixed numbers ----
 
 const formula a = A + B / C, b = D + E / F;
@@ -100,6 +109,27 @@ std::vector<mistake> slips(bool dividing) {
         all.push_back({"alleen een teller gedeeld", outcome / cancelled(first, dividing)});
     }
     return all;
+}
+
+// What is struck out in red and what is written beside it differ by a factor that both rows lose alike.
+void check_strokes(const reading& n) {
+    const drawing drawn = explained(n.exercise.made);
+    std::vector<ink> words = visible_words(drawn);
+    std::erase_if(words, [](const ink& word) { return word.top < 1000; });
+    std::array<double, 2> lost{1, 1}; // by the numerators, and by the denominators
+    for (const box_op& stroke : all<box_op>(drawn)) {
+        if (stroke.height != 1 || stroke.pen.colour != rood) continue;
+        const auto number = [&](bool red, double reach) {
+            const auto found = std::ranges::find_if(words, [&](const ink& word) {
+                return (word.colour == rood) == red && word.left > stroke.x - 15 &&
+                       word.middle() < stroke.x + stroke.width && word.top < stroke.y + reach &&
+                       word.bottom > stroke.y - reach;
+            });
+            return found == words.end() ? 0 : decimal(found->word);
+        };
+        lost.at(stroke.y < 1541 ? 0 : 1) *= number(false, 0) / number(true, 200);
+    }
+    EXPECT_TRUE(same(lost[0], lost[1]) && same(lost[0], std::round(lost[0])) && lost[0] > 1) << lost[0] << lost[1];
 }
 
 // Two numbers of which one interval of tenths or hundredths, so many steps from the right one, lies between.
@@ -165,12 +195,13 @@ const exercise_rows fractions([] {
         wrong("uitgehaald en je", A / B + C / D), check_worked_line);
     row(L_optellen_03_14_click, 3, "| # | # | # | + | # | # | # | = | ......", of({3}),
         range({{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}), right(a + b),
-        wrong("Je hebt niet vereenvoudigd.", a + b), wrong("uitgehaald. ", a + b), wrong("uitgehaald en je", a + b));
+        wrong("Je hebt niet vereenvoudigd.", a + b), wrong("uitgehaald. ", a + b), wrong("uitgehaald en je", a + b),
+        check_worked_line);
     row(M_aftrekken_03_14_click, 2, "| # | # | # | - | # | # | # | = | ......", counts(common(C, F)),
         range({{2, 6}, {2, 14}, {3, 15}, {1, 5}, {1, 5}, {2, 15}, {6, 15}}),
         range({{2, 6}, {2, 14}, {6, 15}, {1, 5}, {1, 7}, {6, 15}, {30, 60}}), right(a - b),
         wrong("niet vereenvoudigd.", a - b), wrong("niet gelijknamig", A - D + (B - E) / G),
-        wrong("alleen de streepbreuken", a - E / F));
+        wrong("alleen de streepbreuken", a - E / F), check_worked_line);
     row(L_prijzen_03_03_click, 2, "In @ wordt * jaar #/# deel van * het #/# deel. * | # euro",
         range({{2, 5}, {7, 12}, {1, 2}, {7, 12}}), range({{1, 5}, {3, 12}, {1, 2}, {4, 12}}), words({8}),
         right(part_left), wrong("eerste en de tweede prijs samen", 1 - part_left),
@@ -192,12 +223,13 @@ const exercise_rows fractions([] {
               A - B - 1),
         explains("aftrekken van # liter.", A), tips("streepbreuk", "Bedenk dat & liter hetzelfde is als #"));
     row(M_snel_03_03_click, 2, "| Vereenvoudig: #/#", range({{4, 60}, {12, 70}}), range({{9, 90}, {27, 99}}),
-        right(A / B), wrong("nog niet klaar", A / B), wrong("delen van de teller", shortened(-1, 0), shortened(1, 0)),
+        right(says("#/#", A / divisor(A, B), B / divisor(A, B))), wrong("nog niet klaar", A / B),
+        wrong("delen van de teller", shortened(-1, 0), shortened(1, 0)),
         wrong("delen van de noemer", shortened(0, -1), shortened(0, 1)),
         wrong("hetzelfde getal", shortened(0, 0, false, true), shortened(0, 0, true, false)),
         explains("getal # is het grootste", divisor(A, B)), ticks({8, 15}));
-    row(L_procenten_03_14_click, 2, "| # % =  .. deel", counts(100, divisor(A, B)), range({{5, 95}}), range({{2, 98}}),
-        right(A / 100),
+    row(L_procenten_03_14_click, 2, "| # % =  .. deel", counts(100, divisor(A, B), rounded(yellow_part * 100) - A),
+        range({{5, 95}, any, {5, 50}, {0, 0}}), range({{2, 98}, any, {2, 4}, {0, 0}}), right(A / 100),
         wrong("", 1 / A, 1 - A / 100, A / (100 - A), numerator / 100, A / denominator, A / 1000, A / 200,
               (numerator - 1) / denominator, (numerator + 1) / denominator, numerator / (denominator - 1)),
         explains("kun je schrijven als &", A / 100),
@@ -205,12 +237,12 @@ const exercise_rows fractions([] {
         tips("(Eerst: bedenk|Bedenk eerst)", "(Dan: schrijf|Maak van)"), check_simplest_form);
     row(L_stukken_03_14_click, 14, "stuk AC een lengte heeft van &. Hoe lang is het stuk AB? | A | B | C | ? | &",
         of({1, 3, 5, 7, 9, 11, 13}), counts(marks(false), marks(true), B - A),
-        range({{2.0 / 3, 50}, {2.0 / 3, 50}, {4, 10}, {1, 9}, {0, 0}}), right(A * D / C),
-        wrong("", lies::below, lies::above), tips("Eerste stap", "Tweede stap"));
+        range({{2.0 / 3, 50}, {2.0 / 3, 50}, {4, 10}, {1, 9}, {0, 0}}), right(A * D / C), wrong("", answer < A),
+        tips("Eerste stap", "Tweede stap"));
     row(L_stukken_03_14_click, 14, "stuk AB een lengte heeft van &. Hoe lang is het stuk AC? | A | B | C | & | ?",
         of({2, 4, 6, 8, 10, 12, 14}), counts(marks(true), marks(false), B - A),
-        range({{1.0 / 6, 45}, {1.0 / 6, 45}, {1, 9}, {4, 10}, {0, 0}}), right(A * D / C),
-        wrong("", lies::below, lies::above), explains("bestaat uit # van", D), tips("Eerste stap", "Tweede stap"));
+        range({{1.0 / 6, 45}, {1.0 / 6, 45}, {1, 9}, {4, 10}, {0, 0}}), right(A * D / C), wrong("", A < answer),
+        explains("bestaat uit # van", D), tips("Eerste stap", "Tweede stap"));
     row(M_tussen_in_03_14_click, 2, "| # | # | geel |", range({{1, 11}, {3, 12}}), right(interval(0)),
         wrong("", interval(-10), interval(-3), interval(-2), interval(-1), interval(1), interval(2), interval(3),
               interval(10)),
@@ -226,11 +258,11 @@ const exercise_rows fractions([] {
     row(Z_delen_03_14_click, 4, "| # | # | # | : | # | # | # | = | ... | geel |",
         range({{2, 5}, {1, 6}, {2, 8}, {1, 2}, {1, 7}, {2, 8}}), right(a / b), wrong(slips(true)),
         wrong("zonder de tweede breuk", a * b), wrong("apart gedeeld", A / D + B / C / (E / F)),
-        wrong("een hele te weinig", a / b - 1), tips("Eerste stap", "Tweede stap"));
+        wrong("een hele te weinig", a / b - 1), tips("Eerste stap", "Tweede stap"), check_strokes);
     row(Z_vermenigvuldigen_03_14_click, 3, "| # | # | # | x | # | # | # | = | ... | geel |",
         range({{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}), right(a * b), wrong(slips(false)),
         wrong("opgeteld", a + b), wrong("apart vermenigvuldigd", A * D + B / C * (E / F)),
-        wrong("een hele te veel", a * b + 1));
+        wrong("een hele te veel", a * b + 1), check_strokes);
     completing(M_aanvullen_1_03_14_click);
     completing(M_aanvullen_2_03_14_click);
 });

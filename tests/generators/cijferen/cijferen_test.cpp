@@ -17,14 +17,25 @@ void town(oefening_id id, const char* second_tip) {
     const formula tens = digit(low, 2) - digit(top, 2);
     const formula swapped =
         100 * (digit(top, 3) - digit(low, 3)) + 10 * largest(tens, 0 - tens) + digit(low, 1) - digit(top, 1);
-    row(id, 2, "| stad # mensen. | Dit jaar zijn er # inwoners.", range({{15000, 54989, 999}, {15000, 54989, 999}}),
-        range({{60000, 99989, 999}, {60000, 99989, 999}}), right(apart),
-        wrong("", swapped, apart + 10, apart - 10, apart + 100, apart - 100),
-        tips("Zet het grootste getal boven", second_tip));
+    row(id, 2, "vorig jaar @? *| stad # mensen. | Dit jaar zijn er # inwoners.",
+        range({{15000, 54989, 999}, {15000, 54989, 999}}), range({{60000, 99989, 999}, {60000, 99989, 999}}),
+        right(apart), wrong("", swapped, apart + 10, apart - 10, apart + 100, apart - 100),
+        tips("Zet het grootste getal boven", second_tip),
+        [](const reading& n) { EXPECT_EQ(n[0] > n[1], n.words[0] == "vertrokken"); });
 }
 
 formula factor(std::size_t word) {
     return [=](const reading& n) { return decimal(n.exercise.words.at(word)); };
+}
+
+// What the explanation writes under the sum: the two rows and what they make together, units under units.
+void check_written_rows(const reading& n) {
+    const seen later = n.exercise.when_explained();
+    const double ten_times = n[0] * std::floor(n[1] / 10) * 10;
+    for (const auto& [word, value] : {std::pair{3U, n[0] * n[1] - ten_times}, {4U, ten_times}, {6U, n[0] * n[1]}}) {
+        const text_op& row = later.texts.at(word);
+        EXPECT_TRUE(decimal(row.text) == value && std::abs(row.x + text_width(row.text, 12) - 2420) <= 22) << value;
+    }
 }
 
 // Where the commas of the right addition stand, where the numbers of the typical mistake end, and which number of the
@@ -142,7 +153,7 @@ const exercise_rows columns([] {
               product + 10 * carried * (units - 1), A * (10 * units + digit(B, 2)), product - 100, product + 10,
               product + 100),
         explains("dus # x # =  # en  # onthouden.", units, digit(A, 1), digit(A, 1) * units, carried),
-        tips("Je moet vermenigvuldigen.", "begin dan met de eenheden"));
+        tips("Je moet vermenigvuldigen.", "begin dan met de eenheden"), check_written_rows);
     row(L_anders_12_02_click, 2, "De vermenigvuldiging van # en # kun je", counts(rest),
         range({{18, 89}, {12, 98}, {1, 2}}), range({{21, 92}, {12, 98}, {1, 2}}), right(makes(minus, rest, B)),
         wrong("", makes(1 - minus, rest, B), makes(minus, rest, tens), makes(1 - minus, rest, tens),

@@ -45,7 +45,8 @@ const exercise_rows circles([] {
         explains("huls is # cm lang. *van # cm, ", C, rolled));
     row(M_pizza_00_13_click, 3, "zijden van # cm. * ronde kant is # cm. * | PIZZA (TELMORA|ROMANO|JOHANNA)",
         range({{5, 7}, {3.1, 11}, {0, 0}}), range({{8, 10}, {5, 15.7}, {1, 1}}), range({{11, 13}, {6.9, 20.4}, {2, 2}}),
-        right(rounded(A * 6.28 / B)), explains(") # cm.", rounded(A * 6.28, 1)), tips("", "2 x 3,14 x de straal"));
+        right(rounded(A * 6.28 / B)), explains(") # cm.", rounded(A * 6.28, 1)), tips("", "2 x 3,14 x de straal"),
+        [](const reading& n) { EXPECT_NEAR(6.28 * n[0] / n[1], decimal(n.exercise.right), 0.2); });
     row(Z_fietswiel_00_13_click, 2, "@ maakt een fietstocht. * fietswiel is # cm. * BEGIN | @ | km | EINDE | @ | km",
         counts(ride), range({{28, 35}, {5200, 19900, 200}}), range({{28, 35}, {20100, 59800, 300}}), words({10}),
         right(rounded(turns)), wrong("eerst de afstand", rounded(turns / 100), rounded(turns / 1000)),

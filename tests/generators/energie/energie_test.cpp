@@ -11,7 +11,8 @@ row_part neighbours(const formula& right, int step = 1) {
                  right + 3 * step);
 }
 
-const formula all_kJ = B + C + D + E, asked_kJ = chosen(A, {B, C, D, E}), share = rounded(asked_kJ * 100 / all_kJ);
+const formula all_kJ = B + C + D + E, asked_kJ = chosen(A, {B, C, D, E}), exact = asked_kJ * 100 / all_kJ,
+              share = rounded(exact);
 formula counter(std::size_t word) {
     return [=](const reading& n) { return decimal(n.exercise.words[word]); };
 }
@@ -30,13 +31,14 @@ const formula eaten = bread + butter + spread;
 const formula price = rounded(A * 100 / B);
 const formula saved_m3 = A - B;
 
-const formula whole_years = floor(A / ((C - D) * B / 100));
+const formula years = A / ((C - D) * B / 100), whole_years = floor(years);
 
 const exercise_rows energy([] {
     row(L_energie_00_19_click, 4,
         "maakte (het vervoer|de verwarming|de voeding|de verlichting) uit *| # kJ *| # kJ *| # kJ *| # kJ",
-        range({{0, 3}, {20000, 29000}, {20000, 29000}, {10000, 19000}, {2000, 9000}}), right(says("# %", share)),
-        neighbours(share),
+        counts(abs(exact - share)),
+        range({{0, 3}, {20000, 29000}, {20000, 29000}, {10000, 19000}, {2000, 9000}, {0, 0.4, 0.1}}),
+        right(says("# %", share)), neighbours(share),
         explains(
             "# kJ. Deel de energie van '(vervoer|verwarming|voeding|verlichting)'*(Het vervoer|De verwarming|De voeding|De verlichting) maakte *| totaal | # kJ | *# %",
             all_kJ, A, A, all_kJ, share),
@@ -95,9 +97,9 @@ const exercise_rows energy([] {
         tips("", "aantal kWh bespaarde energie"));
     row(Z_gas_2_00_19_click, 2,
         "van € #,-. * aardgas # eurocent is. *| vóór de isolatie: # m³ gas | na de isolatie: # m³ gas",
-        counts(C - D, whole_years + 1),
-        range({{1500, 4500}, {40, 70}, {1600, 3100}, {1200, 2400}, {400, 700}, {4, 12}}),
-        range({{1500, 4500}, {40, 70}, {2000, 3600}, {1200, 2400}, {800, 1200}, {3, 12}}),
+        counts(C - D, whole_years + 1, years - whole_years),
+        range({{1500, 4500}, {40, 70}, {1600, 3100}, {1200, 2400}, {400, 700}, {4, 12}, {0.1, 0.9, 0.1}}),
+        range({{1500, 4500}, {40, 70}, {2000, 3600}, {1200, 2400}, {800, 1200}, {3, 12}, {0.1, 0.9, 0.1}}),
         right(says("in het #e jaar", F)), neighbours(F), tips("", "hij per jaar bespaart. Derde stap: deel de iso"));
 });
 

@@ -4,6 +4,15 @@
 namespace cijferwerf {
 namespace {
 
+// No wrong answer is nearly as near to what comes out unrounded.
+auto far_from_wrong(const formula& exact) {
+    return [=](const reading& n) {
+        const auto off = [&](const std::string& answer) { return std::abs(number_of(answer).value() - exact.in(n)); };
+        for (const std::string& each : n.exercise.answers())
+            EXPECT_TRUE(each == n.exercise.right || off(each) > 2 * off(n.exercise.right) - 1e-9) << each;
+    };
+}
+
 const formula hatched = [](const reading& n) { return all<circle_op>(n).back().sweep / 3.6; };
 const formula quarters = rounded(A / 25);
 
@@ -28,7 +37,8 @@ std::vector<span> visitors(double claimed, double half) {
     const span last_year{half - 60e3, half + 61e3, 4e3}, this_year{half - 70e3, half + 70e3, 7e3}, above{-9, 9};
     return {{claimed, claimed}, last_year, this_year, last_year, this_year, above, above};
 }
-const formula fails_a = lifted([](double n) { return n < 0; }, F), fails_b = lifted([](double n) { return n < 0; }, G);
+// Told by the thousands and by all figures alike.
+const formula fails_a = B + C < chosen(A, {1e6, 5e5}), fails_b = D + E < chosen(A, {1e6, 5e5});
 // Who is right: A, B, both or neither; an answer may be wrong about one museum or about both.
 const formula who = chosen(fails_a, {chosen(fails_b, {3, 1}), chosen(fails_b, {2, 4})});
 const formula about_both = lifted([](double sum) { return sum == 3 || sum == 7; }, button + who);
@@ -70,19 +80,18 @@ const formula tenths = times([](double t) { return t - std::floor(t); });
 // Who rounds each of them finds the same.
 const formula estimated = times([](double t) { return rounded(t); });
 const exercise_rows estimates([] {
-    row(B_gestreept_10_03_click, 4, "is de cirkel gestreept?", counts(hatched), range({{20.99, 79.01, 0.1}}),
-        right(quarters * 25), wrong("klok", quarters * 15),
+    row(B_gestreept_10_03_click, 4, "is de cirkel gestreept?", counts(hatched, abs(A - quarters * 25)),
+        range({{20.99, 79.01, 0.1}, {0.99, 4.01, 0.1}}), right(quarters * 25), wrong("klok", quarters * 15),
         wrong("twee dingen door elkaar", formula(100) - quarters * 25), wrong("zomaar een gokje", lies::elsewhere),
-        explains("ongeveer # (stuk|stukken) gestreept.", quarters, lifted([](double part) { return part > 30; }, A)));
-    row(B_schatten_1_10_09_click, 10, "", right(lifted([](double off) { return off == 0; }, places_off)),
-        wrong("Dat is veel te weinig", lifted([](double off) { return off < 0; }, places_off)),
-        wrong("Dat is veel te veel", lifted([](double off) { return off > 0; }, places_off)));
+        explains("ongeveer # (stuk|stukken) gestreept.", quarters, formula(30) < A));
+    row(B_schatten_1_10_09_click, 10, "", right(places_off == 0), wrong("Dat is veel te weinig", places_off < 0),
+        wrong("Dat is veel te veel", 0 < places_off));
     row(L_betegelen_10_12_click, 3, "vloer is # m breed en # m lang. *| $1 m | $0 m", range({{1.9, 5.9}, {3, 9}}),
         range({{2, 6}, {2.9, 8.9}}), range({{1.9, 5.9}, {2.9, 8.9}}), right(width * length),
         wrong("Eerst moet je de lengte", floor(A) * floor(B), (width - 1) * length, width * (length - 1),
               (width + 1) * length, width * (length + 1), (width + 1) * (length + 1)),
         wrong("met elkaar vermenigvuldigen", width + length, (width + length) * 2),
-        explains("is ongeveer # m en de lengte is ongeveer # m.", width, length));
+        explains("is ongeveer # m en de lengte is ongeveer # m.", width, length), far_from_wrong(A * B));
     row(L_bezoekers_10_00_click, 2,
         "@ zegt dat museum A * meer dan (1 miljoen|een half miljoen) bezoekers had. @ zegt dat van museum B. "
         "* museum A | # | # | museum B | # | #",
@@ -110,9 +119,10 @@ const exercise_rows estimates([] {
         wrong("Eerst moet je de bedragen", A - wrong_price - tax, A - wrong_price - wrong_tax),
         wrong("Hij koopt ook nog", A - tax), wrong("nog belasting betalen", A - price),
         wrong("belasting twee keer", left_over - tax), wrong("prijs twee keer", left_over - price),
-        explains("Rond af: # is ongeveer # en # is ongeveer #.", C, tax, B, price));
-    row(M_seconden_10_06_click, 3, "| UITSLAG: | @ | ", counts(runners, whole_seconds, tenths),
-        range({{3, 3}, {33, 57, 3}, {0.3, 2.7, 0.4}}), range({{4, 4}, {44, 76, 5}, {0.4, 3.6, 0.6}}),
+        explains("Rond af: # is ongeveer # en # is ongeveer #.", C, tax, B, price), far_from_wrong(A - B - C));
+    row(M_seconden_10_06_click, 3, "| UITSLAG: | @ | ",
+        counts(runners, whole_seconds, tenths, rounded(B + C) - estimated),
+        range({{3, 3}, {33, 57, 3}, {0.3, 2.7, 0.4}, {0, 0}}), range({{4, 4}, {44, 76, 5}, {0.4, 3.6, 0.6}}),
         range({{5, 5}, {55, 95, 8}, {0.5, 4.5, 0.8}}), words({19}), right(says("# seconden", estimated)),
         wrong("wel gekeken naar de cijfers achter de komma", B), wrong("naar boven afgerond", B + A),
         wrong("achter de komma nog eens", estimated - 1, estimated + 1),

@@ -33,6 +33,15 @@ formula product(std::size_t which, bool count) {
 formula in_powers(const formula& a, const formula& k, const formula& b = C, const formula& m = D) {
     return [=](const reading& n) { return n.variant() == 1 ? says("#^#", a, k)(n) : says("#^# + #^#", a, k, b, m)(n); };
 }
+// No two options are worth the same, as 2^4 and 4^2 would be.
+void check_options(const reading& n) {
+    std::set<double> values;
+    for (const std::string& option : n.exercise.options()) {
+        const auto p = find_pattern(option + " + 0^1", "#^# + #^#").value().numbers;
+        values.insert(std::pow(p[0], p[1]) + std::pow(p[2], p[3]));
+    }
+    EXPECT_EQ(values.size(), 4U);
+}
 const formula periods = lifted([](double n) { return std::floor(std::log2(n)) + 1; }, C);
 const formula plus_power = A + (B * 2 - 1) * power(C, D), with_last = plus_power + (E * 2 - 1) * F;
 
@@ -64,7 +73,7 @@ const exercise_rows powers([] {
               in_powers(A, B, C, D - 1), in_powers(A, B, C, D + 1)),
         wrong("(grondtal en de exponent|grondtallen en de exponenten) verwisseld", in_powers(B, A, D, C)),
         wrong("maar #.", in_powers(A - 1, B), in_powers(A + 1, B)),
-        wrong("bij de verkeerde grondtallen gezet.", in_powers(A, D, C, B)));
+        wrong("bij de verkeerde grondtallen gezet.", in_powers(A, D, C, B)), check_options);
     row(L_volgorde_00_11_click, 4, "| # (-|+) # | # | (-|+) # =", counts(plus_power, with_last),
         range({{40, 90, 3}, {1, 1}, {2, 10}, {2, 3}, {0, 0}, {5, 60, 3}, {44, 215, 20}, {31, 206, 30}}),
         range({{7, 185, 15}, {0, 0}, {2, 10}, {2, 3}, {1, 1}, {5, 70, 3}, {3, 60, 3}, {31, 130, 10}}),

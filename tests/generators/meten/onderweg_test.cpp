@@ -27,8 +27,8 @@ row_part not_one_less(const char* piece, const formula& right) {
 }
 // Quotients in whole numbers, and what is left.
 std::vector<formula> division(const formula& a, const formula& b) { return {a, b, floor(a / b), a - floor(a / b) * b}; }
-const formula pots = floor(A * B / C) + 1, area = A * B, per_roll = floor(C / B), strips = floor(A * 100 / D) + 1,
-              rolls = floor(strips / per_roll) + 1;
+const formula pots = 0 - floor(0 - A * B / C), area = A * B, per_roll = floor(C / B),
+              strips = 0 - floor(0 - A * 100 / D), rolls = 0 - floor(0 - strips / per_roll);
 
 const formula marks = B / 20, per_mark = A * 100;
 

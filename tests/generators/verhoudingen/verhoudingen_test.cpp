@@ -21,6 +21,7 @@ const formula door = [](const reading& n) -> std::string {
         shares[i] = 1.0 * its_door.width * its_door.height / front.width / front.height;
     }
     const auto [least, most] = std::ranges::minmax_element(shares);
+    EXPECT_TRUE(same(*least, *most) || std::ranges::count(shares, n[0] == 0 ? *most : *least) == 1);
     return same(*least, *most)
                ? "geen deur"
                : n.exercise.words.at(static_cast<std::size_t>((n[0] == 0 ? most : least) - shares.begin()));
