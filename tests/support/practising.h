@@ -33,6 +33,12 @@ protected:
     bool answer(int i) { return pupil.click(screen.knop[i]); }
     bool answer_right() { return answer(right()); }
     bool explain() { return pupil.click(screen.uitleggeven); }
+    void solve(std::string_view title, int wrong_ones) {
+        present(title);
+        for (int n = 1; n <= wrong_ones; ++n) answer(wrong(n));
+        answer_right();
+        explain();
+    }
 
     fake_outside pupil;
     formulieren forms{pupil};
