@@ -1,6 +1,5 @@
 // From the start to the practice screen: the choice of a set, the credits, the menus, and the ways to stop.
 #include "forms/introduction/infoscherm.h"
-#include "forms/marks.h"
 #include "forms/shell/achtergrond.h"
 #include "forms/shell/codering.h"
 #include "forms/shell/colofon.h"
@@ -10,112 +9,92 @@
 #include "tests/support/practising.h"
 
 #include <set>
-#include <sstream>
 
 namespace cijferwerf {
 namespace {
 
 class shell : public practising {
 protected:
-    void choose(std::string_view set) {
-        start.open();
-        pupil.click(set == booklet_set ? start.CLgekozen : start.SWgekozen);
+    struct course {
+        std::string_view set, kind;
+        option_button& choice;
+        colofon& credits;
+        menu& from;
+        std::vector<button*> entries;
+    };
+    shell() {
+        for (button& entry : cl.boekje) courses[0].entries.push_back(&entry);
+        for (button& entry : sw.plaatje) courses[1].entries.push_back(&entry);
+    }
+    void open_menu(const course& of) {
+        EXPECT_FALSE(start.CLgekozen.selected || start.SWgekozen.selected) << "the choice before is no choice now";
+        pupil.click(of.choice);
         pupil.click(start.verder);
+        EXPECT_EQ(on_screen(), of.credits.name());
+        pupil.click(of.credits.klik);
+        EXPECT_EQ(on_screen(), of.from.name());
     }
-    void open_menu(std::string_view set) {
-        choose(set);
-        pupil.click(set == booklet_set ? static_cast<control&>(forms.get<colofoncl>().klik)
-                                       : forms.get<colofonsw>().klik);
-    }
-    using names = std::vector<std::string>;
-    names on_screen() {
-        names loaded;
-        for (form* each :
-             std::initializer_list<form*>{&start, &forms.get<colofoncl>(), &forms.get<colofonsw>(), &cl, &sw, &screen})
-            if (each->loaded()) loaded.push_back(each->name());
+    std::string on_screen() {
+        std::string loaded;
+        for (form* each : all)
+            if (each->loaded()) loaded += each->name();
         return loaded;
     }
 
-    // Opens every entry of a menu and comes back to the start each time.
-    template<class Check>
-    void at_every_entry(menu& of, auto& entries, Check check) {
-        const std::string_view set = &of == &cl ? booklet_set : task_set;
-        for (int i = 0; button & entry : entries) {
-            SCOPED_TRACE(entry.caption);
-            open_menu(set);
-            pupil.click(entry);
-            EXPECT_EQ(on_screen(), names{"mama"});
-            check(++i);
-            pupil.click(screen.terug);
-            EXPECT_EQ(on_screen(), names{of.name()});
-            pupil.click(of.terug);
-        }
-    }
-
-    GLOBALEN& globalen = forms.globalen;
     codering& start = forms.get<codering>();
     menucl& cl = forms.get<menucl>();
     menusw& sw = forms.get<menusw>();
+    course courses[2]{{"TELMORA's CIJFERLOOP", "boekje", start.CLgekozen, forms.get<colofoncl>(), cl, {}},
+                      {"SOMMENWERF", "taak", start.SWgekozen, forms.get<colofonsw>(), sw, {}}};
+    form* all[7]{&start, &cl, &sw, &screen, &courses[0].credits, &courses[1].credits, &forms.get<infoscherm>(1, 1)};
 };
 
-TEST_F(shell, goes_from_the_background_form_past_a_choice_and_credits_to_a_menu) {
+TEST_F(shell, goes_from_the_background_form_past_a_choice_and_credits_to_every_entry_and_back) {
     auto& background = forms.get<achtergrond>();
     background.open();
     pupil.wait(900);
-    EXPECT_FALSE(start.loaded());
+    EXPECT_EQ(on_screen(), "");
     pupil.wait(200);
-    EXPECT_TRUE(start.loaded() && !background.Timer1.enabled);
+    EXPECT_EQ(on_screen(), "codering");
     pupil.click(start.verder); // without a choice
     ASSERT_EQ(pupil.boxes.size(), 1U);
     EXPECT_EQ(pupil.boxes[0].text + '|' + pupil.boxes[0].title, "Maak een keuze...|Cijferwerf");
     EXPECT_EQ(pupil.boxes[0].buttons, box_buttons::ok);
-    EXPECT_EQ(on_screen(), names{"codering"});
+    for (const int none : {-1, 0, 13}) cl.boekje_click(none);
+    EXPECT_EQ(on_screen() + forms.globalen.gekozen_onderdeel, "codering");
 
-    for (const std::string_view set : {"TELMORA's CIJFERLOOP", "SOMMENWERF"}) {
-        const bool booklets = set == booklet_set;
-        EXPECT_FALSE(start.CLgekozen.selected || start.SWgekozen.selected) << "the choice before is no choice now";
-        choose(set);
-        EXPECT_EQ(globalen.gekozen_pakket, set);
-        EXPECT_EQ(on_screen(), names{booklets ? "colofoncl" : "colofonsw"});
-        pupil.click(booklets ? forms.get<colofoncl>().klik : forms.get<colofonsw>().klik);
-        EXPECT_EQ(on_screen(), names{booklets ? "menucl" : "menusw"});
-        for (const int i : {-1, 0, booklets ? 13 : 21}) {
-            booklets ? cl.boekje_click(i) : sw.plaatje_click(i);
-            EXPECT_EQ(globalen.gekozen_onderdeel + screen.opschriftbalk.caption, "") << i;
+    for (const course& each : courses)
+        for (int i = 1; button * entry : each.entries) {
+            SCOPED_TRACE(entry->caption);
+            const bool booklets = &each.from == &cl, review = !booklets && i % 5 == 0;
+            open_menu(each);
+            pupil.click(*entry);
+            EXPECT_EQ(on_screen(), "mama");
+            EXPECT_EQ(forms.globalen.gekozen_pakket, each.set);
+            EXPECT_EQ(forms.globalen.gekozen_onderdeel, regel(each.kind, i < 10 ? "0" : "", kaal(i)));
+            EXPECT_EQ(entry->caption, zoek_lijst(each.set, forms.globalen.gekozen_onderdeel)->heading);
+            EXPECT_EQ(screen.opschriftbalk.caption, entry->caption);
+            EXPECT_EQ(screen.caption, each.set);
+            EXPECT_EQ(screen.info.visible, booklets);
+            EXPECT_EQ(screen.info.enabled, !review);
+            EXPECT_FALSE(screen.presentatielijst.items.empty());
+            pupil.click(screen.terug);
+            EXPECT_EQ(on_screen(), each.from.name());
+            pupil.click(each.from.terug);
+            EXPECT_EQ(on_screen(), "codering");
+            ++i;
         }
-        pupil.click(booklets ? cl.terug : sw.terug);
-        EXPECT_EQ(on_screen(), names{"codering"});
-    }
     EXPECT_EQ(sw.caption, "DEEL 1 EN 2, SOMMENWERF");
     start.unload();
     pupil.wait(5000);
     EXPECT_FALSE(start.loaded()) << "the background form brings it up once";
 }
 
-TEST_F(shell, every_entry_opens_the_practice_screen_under_its_own_heading_and_only_a_review_has_no_info) {
-    for (const auto& [entry, small, large] : {std::tuple{&cl.boekje[8], "BOEKJE 8", "Meten en meetkunde (2)"},
-                                              {&sw.plaatje[13], "TAAK 13", "De cirkel"},
-                                              {&sw.plaatje[20], "HERHALING", "Taak 16 t/m 19"}})
-        EXPECT_EQ(std::pair(entry->overline, entry->headline), std::pair(std::string(small), std::string(large)));
-    const auto opened = [this](std::string_view set, std::string_view kind, int i, const button& entry) {
-        EXPECT_EQ(globalen.gekozen_onderdeel, regel(kind, i < 10 ? "0" : "", kaal(i)));
-        EXPECT_EQ(screen.opschriftbalk.caption, zoek_lijst(set, globalen.gekozen_onderdeel)->heading);
-        EXPECT_EQ(screen.opschriftbalk.caption, entry.caption);
-        EXPECT_EQ(screen.caption, set);
-        EXPECT_EQ(screen.info.visible, set == booklet_set);
-        EXPECT_EQ(screen.info.enabled, set == booklet_set || i % 5 != 0);
-        EXPECT_FALSE(screen.presentatielijst.items.empty());
-    };
-    at_every_entry(cl, cl.boekje, [&](int i) { opened("TELMORA's CIJFERLOOP", "boekje", i, cl.boekje[i]); });
-    at_every_entry(sw, sw.plaatje, [&](int i) { opened("SOMMENWERF", "taak", i, sw.plaatje[i]); });
-}
-
 TEST_F(shell, closing_a_window_or_stopping_asks_first) {
-    open_menu(booklet_set);
+    start.open();
+    open_menu(courses[0]);
     std::vector<std::function<void()>> ways;
-    for (form* each : std::initializer_list<form*>{&start, &cl, &sw, &screen, &forms.get<colofoncl>(),
-                                                   &forms.get<colofonsw>(), &forms.get<infoscherm>(1, 1)})
-        ways.push_back([=, this] { pupil.close(*each); });
+    for (form* each : all) ways.push_back([=, this] { pupil.close(*each); });
     for (button* each : {&start.stoppen, &cl.stoppen, &sw.stoppen}) ways.push_back([=, this] { pupil.click(*each); });
     for (const auto& way : ways)
         for (const bool sure : {false, true}) {
@@ -127,7 +106,7 @@ TEST_F(shell, closing_a_window_or_stopping_asks_first) {
             EXPECT_EQ(pupil.boxes[0].text, "Wil je echt stoppen?");
             EXPECT_EQ(pupil.boxes[0].buttons, box_buttons::yes_no);
             EXPECT_EQ(pupil.ended, sure);
-            EXPECT_EQ(on_screen(), names{"menucl"});
+            EXPECT_EQ(on_screen(), "menucl");
         }
     pupil.ended = false;
     pupil.answers = {box_answer::yes};
@@ -142,44 +121,28 @@ TEST_F(shell, closing_a_window_or_stopping_asks_first) {
 TEST_F(shell, arrow_keys_follow_the_grid_and_stop_at_its_edge) {
     constexpr int nowhere = 0;
     const struct {
-        menu& on;
-        int from;
+        int on, from;
         char key;
         int to;
-    } rows[]{
-        {cl, 1, keys::right, 2}, {cl, 3, keys::right, nowhere}, {cl, 1, keys::down, 4},  {cl, 10, keys::down, nowhere},
-        {cl, 5, keys::up, 2},    {cl, 4, keys::left, nowhere},  {cl, 5, keys::left, 4},  {cl, 7, keys::home, 1},
-        {cl, 7, keys::end, 12},  {sw, 3, keys::down, 8},        {sw, 8, keys::down, 13}, {sw, 5, keys::right, nowhere},
-        {sw, 13, keys::up, 8},   {sw, 13, keys::left, 12},      {sw, 12, keys::home, 1}, {sw, 1, keys::end, 20},
-    };
-    for (const auto& row : rows) {
-        const auto entry = [&](int i) -> control* {
-            if (i == nowhere) return nullptr;
-            return &row.on == &cl ? &cl.boekje[i] : &sw.plaatje[i];
+    } rows[]{{0, 1, keys::right, 2}, {0, 3, keys::right, nowhere}, {0, 1, keys::down, 4},  {0, 10, keys::down, nowhere},
+             {0, 5, keys::up, 2},    {0, 4, keys::left, nowhere},  {0, 7, keys::home, 1},  {0, 7, keys::end, 12},
+             {1, 3, keys::down, 8},  {1, 8, keys::down, 13},       {1, 13, keys::left, 12}};
+    for (const auto& [on, from, key, to] : rows) {
+        const course& of = courses[on];
+        const auto entry = [&](int i) {
+            return i == nowhere ? nullptr : of.entries.at(static_cast<std::size_t>(i - 1));
         };
-        row.on.focus = nullptr;
-        EXPECT_TRUE(row.on.key(row.key, entry(row.from)));
-        EXPECT_EQ(row.on.focus, entry(row.to)) << row.on.name() << " from " << row.from << " to " << row.to;
+        of.from.focus = nullptr;
+        EXPECT_TRUE(of.from.key(key, entry(from)));
+        EXPECT_EQ(of.from.focus, entry(to)) << of.from.name() << " from " << from;
     }
 }
 
-TEST_F(shell, no_buttons_overlap_and_every_word_of_a_name_has_room_beside_or_under_the_mark) {
-    for (const menu* shown : std::initializer_list<const menu*>{&cl, &sw})
-        for (const control* a : shown->controls()) {
-            if (!a->is_button()) continue;
-            const int room = a->width - (a->width > 2 * a->height ? a->height + 285 : 240);
-            std::istringstream words(static_cast<const button*>(a)->headline);
-            for (std::string word; words >> word;) EXPECT_LE(bold_text_width(word, a->font_size), room) << word;
-            EXPECT_TRUE(a->left + a->width <= shown->width && a->top + a->height <= shown->height) << a->caption;
-            for (const control* b : shown->controls())
-                EXPECT_TRUE(a == b || !b->is_button() || a->left + a->width <= b->left ||
-                            b->left + b->width <= a->left || a->top + a->height <= b->top ||
-                            b->top + b->height <= a->top)
-                    << a->caption << " and " << b->caption;
-        }
-}
-
-TEST_F(shell, booklets_and_tasks_have_marks_of_their_own_and_reviews_share_one_apart) {
+TEST_F(shell, booklets_and_tasks_have_names_and_marks_of_their_own_and_reviews_share_a_mark) {
+    const std::pair<button*, const char*> rows[]{{&cl.boekje[8], "BOEKJE 8|Meten en meetkunde (2)"},
+                                                 {&sw.plaatje[13], "TAAK 13|De cirkel"},
+                                                 {&sw.plaatje[20], "HERHALING|Taak 16 t/m 19"}};
+    for (const auto& [entry, words] : rows) EXPECT_EQ(entry->overline + '|' + entry->headline, words);
     std::set<std::vector<std::string>> of_booklets, of_tasks, of_reviews;
     for (button& entry : cl.boekje) of_booklets.insert(as_texts(*entry.mark));
     for (int i = 1; i <= 20; ++i) (i % 5 == 0 ? of_reviews : of_tasks).insert(as_texts(*sw.plaatje[i].mark));
