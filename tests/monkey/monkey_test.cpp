@@ -7,19 +7,16 @@
 #include <map>
 #include <numeric>
 #include <random>
-#include <sstream>
 
 namespace cijferwerf {
 namespace {
-
-constexpr int events = 100'000;
-constexpr int most_titles = 21; // in one list
 
 class monkey : public practising {
 protected:
     // ---- what it does ----
 
-    int draw(int n) { return static_cast<int>(engine_() % static_cast<unsigned>(n)); }
+    int draw(std::size_t n) { return static_cast<int>(engine_() % n); }
+    const auto& one_of(const auto& list) { return list[static_cast<std::size_t>(draw(list.size()))]; }
 
     // The form on top, as the window shows it; now and then the one beside it.
     form& front() {
@@ -33,24 +30,22 @@ protected:
         pupil.answers = {draw(20) == 0 ? box_answer::yes : box_answer::no};
         form& on = front();
         const int what = draw(100);
-        if (what < 20 && screen.loaded() && &on == &screen && !screen.presentatielijst.items.empty()) {
-            const int item = draw(static_cast<int>(screen.presentatielijst.items.size()));
+        if (what < 20 && &on == &screen) {
+            const std::string title = one_of(screen.presentatielijst.items);
             if (what < 10)
-                pupil.pick(screen.presentatielijst, item);
+                present(title);
             else
-                pupil.pick_by_enter(screen.presentatielijst, item);
-            return "pick " + std::to_string(item);
+                pupil.pick_by_enter(screen.presentatielijst, position(title));
+            return "pick " + title;
         }
         if (what < 35) {
-            constexpr std::string_view keys = "ABCD1234567890,+-*/=\r\x1b\x7f ?";
-            const char key = keys[static_cast<std::size_t>(draw(static_cast<int>(keys.size())))];
+            const char key = one_of(std::string_view("ABCD1234567890,+-*/=\r\x1b\x7f ?"));
             pupil.press(on, key);
             return std::string("key ") + key + " on " + on.name();
         }
         if (what < 55) {
-            const int time = draw(10) == 0 ? 25'000 : draw(2500);
-            pupil.wait(time);
-            return "wait " + std::to_string(time);
+            pupil.wait(draw(10) == 0 ? 25'000 : draw(2500));
+            return "wait";
         }
         if (what < 57) {
             pupil.close(on);
@@ -60,12 +55,12 @@ protected:
         for (control* each : on.controls())
             if (each->usable() && (each->takes_clicks() || each->hover)) choices.push_back(each);
         if (choices.empty()) return "nothing";
-        control& chosen = *choices[static_cast<std::size_t>(draw(static_cast<int>(choices.size())))];
+        control& chosen = *one_of(choices);
         // Most of the time it stays on the practice screen, where most can go wrong.
         if (chosen.name == "terug" && draw(4) != 0) return "nothing";
         if (draw(10) == 0) pupil.hover(chosen);
         pupil.click(chosen);
-        return "click " + on.name() + "." + chosen.name + (chosen.index ? std::to_string(*chosen.index) : "");
+        return "click " + on.name() + "." + chosen.name;
     }
 
     // ---- what must hold ----
@@ -85,48 +80,29 @@ protected:
         }
         EXPECT_TRUE(screen.pogingen >= 0 && screen.pogingen <= 4) << screen.pogingen;
         EXPECT_TRUE(!screen.uitleggeven.visible || screen.pogingen > 0);
-        if (screen.Timer1.enabled) {
-            EXPECT_GT(screen.tijdlimiet, 0);
-            EXPECT_LT(screen.tijdteller, screen.tijdlimiet);
-        }
-
-        const GLOBALEN& score = forms.globalen;
-        const catalogue_list* list = zoek_lijst(score.gekozen_pakket, score.gekozen_onderdeel);
-        ASSERT_NE(list, nullptr);
-        EXPECT_EQ(screen.opschriftbalk.caption, list->heading);
-        EXPECT_EQ(screen.info.visible, score.booklets());
-        EXPECT_FALSE(list->drawn() && screen.info.enabled);
+        EXPECT_TRUE(!screen.Timer1.enabled || screen.tijdteller < screen.tijdlimiet);
         EXPECT_FALSE(screen.presentatielijst.items.empty());
-        EXPECT_LE(screen.presentatielijst.items.size(), std::size_t{most_titles});
     }
 
     void check_score() {
         const GLOBALEN& score = forms.globalen;
         std::array<int, 4> ended{};
-        std::size_t titles = 0;
         for (std::size_t slot = 0; slot < score.titellijst.size(); ++slot) {
             const auto& counts = score.scoretabel[slot];
             for (std::size_t attempt = 0; attempt < 4; ++attempt) ended.at(attempt) += counts[attempt];
-            const int all = std::accumulate(counts.begin(), counts.end(), 0);
-            EXPECT_EQ(score.titellijst[slot].empty(), all == 0) << "slot " << slot;
-            if (all == 0) break;
-            ++titles;
+            EXPECT_EQ(score.titellijst[slot].empty(), counts == (std::array{0, 0, 0, 0})) << "slot " << slot;
         }
-        EXPECT_LE(titles, std::size_t{most_titles});
-        EXPECT_EQ(score.goed_poging_1, ended[0]);
-        EXPECT_EQ(score.goed_poging_2, ended[1]);
-        EXPECT_EQ(score.goed_poging_3, ended[2]);
+        EXPECT_EQ((std::array{score.goed_poging_1, score.goed_poging_2, score.goed_poging_3}),
+                  (std::array{ended[0], ended[1], ended[2]}));
         EXPECT_GE(score.goed_poging_4, ended[3]); // a time-out counts there alone
         EXPECT_EQ(score.aantalvragengedaan, std::accumulate(ended.begin(), ended.end(), 0));
     }
 
     void check_way_on() {
         form& on = front();
-        if (&on == &background) {
-            EXPECT_TRUE(background.Timer1.enabled) << "the background form leads nowhere";
-            return;
-        }
-        EXPECT_TRUE(std::ranges::any_of(on.controls(), [](const control* c) { return c->usable() && c->click; }))
+        EXPECT_TRUE(&on == &background
+                        ? background.Timer1.enabled
+                        : std::ranges::any_of(on.controls(), [](control* c) { return c->usable() && c->click; }))
             << on.name() << " is a dead end";
     }
 
@@ -148,15 +124,12 @@ TEST_F(monkey, whatever_happens_the_program_stays_in_one_piece) {
     std::map<std::string, int> reached;
     screen.toeval.restart(1);
     restart();
-    for (int event = 0; event < events; ++event) {
+    for (int event = 0; event < 100'000; ++event) {
         const int timed_out = forms.globalen.goed_poging_4;
         const std::string did = act();
         SCOPED_TRACE("event " + std::to_string(event) + ": " + did);
-
-        if (pupil.ended) {
-            ++reached["ended"];
-            restart();
-        }
+        reached["ended"] += pupil.ended;
+        if (pupil.ended) restart();
         check_way_on();
         check_score();
         if (screen.loaded()) check_screen();
@@ -164,7 +137,7 @@ TEST_F(monkey, whatever_happens_the_program_stays_in_one_piece) {
 
         ++reached[front().name()];
         reached["explained"] += forms.globalen.aantalvragengedaan > 0;
-        reached["timed out"] += did.starts_with("wait") && forms.globalen.goed_poging_4 > timed_out;
+        reached["timed out"] += did == "wait" && forms.globalen.goed_poging_4 > timed_out;
         reached["printed"] += !pupil.printed.empty();
         pupil.printed.clear();
         pupil.boxes.clear();
