@@ -92,7 +92,6 @@ void oefeningen::L_terugbetalen_05_07_click() {
                                                     {"Menno", man}}};
     static constexpr std::array briefsoorten{500, 1000, 2000, 5000, 10'000};
     kies_variant(5);
-    juiste_positie = 0;
     zaai();
     const persoon& wie = kies(namen);
     const stapel briefjes{rij(briefsoorten, variant), trek_van(1, 3)};
@@ -159,7 +158,6 @@ void oefeningen::M_boodschap_05_07_click() {
         return std::accumulate(alle.begin(), alle.end(), 0, [](int som, const boodschap& b) { return som + b.kosten; });
     };
     kies_variant(4);
-    juiste_positie = 0;
     zaai();
     const persoon& wie = kies(namen);
     const bool vader = variant % 2 == 1;
@@ -229,7 +227,6 @@ void oefeningen::M_boodschap_05_07_click() {
 
 void oefeningen::M_CDs_05_07_click() {
     kies_variant(2);
-    juiste_positie = 0;
     zaai();
     const int drietallen = trek_van(2, 5);
     const int aantal = 3 * drietallen + (variant == 1 ? 0 : trek_van(1, 2));

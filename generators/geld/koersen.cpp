@@ -37,13 +37,12 @@ struct koers {
 };
 using koersen = std::array<koers, 5>;
 
-// Today's rates; the draw is given from where to where, and draws.
-template<class Trek>
-koersen koersen_van_vandaag(Trek trek_van) {
+koersen koersen_van_vandaag(random_draws& toeval) {
     koersen alle{};
     for (std::size_t i = 0; i < alle.size(); ++i) {
-        alle[i].laag = trek_van(valutas[i].laagst, valutas[i].hoogst);
-        alle[i].hoog = alle[i].laag + trek_van(4, 7);
+        const auto& [land, meer, een, in_tabel, laagst, hoogst] = valutas[i];
+        alle[i].laag = laagst + toeval.below(hoogst - laagst + 1);
+        alle[i].hoog = alle[i].laag + 4 + toeval.below(4);
     }
     return alle;
 }
@@ -62,11 +61,10 @@ void teken_koersen(drawing& on, const koersen& alle) {
 
 void oefeningen::L_vreemd_geld_1_05_07_click() {
     kies_variant(5);
-    juiste_positie = 0;
     zaai();
     const persoon& wie = kies(reizigers);
     const valuta& geld = rij(valutas, variant);
-    const koersen alle = koersen_van_vandaag([this](int van, int tot) { return trek_van(van, tot); });
+    const koersen alle = koersen_van_vandaag(toeval);
     const koers nu = rij(alle, variant);
     const int euros = trek_van(150, 950, 25);
     const int centen = euros * 100;
@@ -101,11 +99,10 @@ void oefeningen::L_vreemd_geld_1_05_07_click() {
 
 void oefeningen::L_vreemd_geld_2_05_07_click() {
     kies_variant(5);
-    juiste_positie = 0;
     zaai();
     const persoon& wie = kies(reizigers);
     const valuta& geld = rij(valutas, variant);
-    const koersen alle = koersen_van_vandaag([this](int van, int tot) { return trek_van(van, tot); });
+    const koersen alle = koersen_van_vandaag(toeval);
     const koers nu = rij(alle, variant);
     const int bedrag = trek_van(120, 950, 10);
     const int centen = bedrag * nu.laag;

@@ -13,7 +13,6 @@ namespace cijferwerf {
 
 void oefeningen::L_krantenwijk_05_07_click() {
     kies_variant(2);
-    juiste_positie = 0;
     zaai();
     const persoon wie = variant == 1 ? persoon{"Een meisje", vrouw} : persoon{"Een jongen", man};
     std::array<int, 6> uren{}; // maandag to zaterdag
@@ -81,7 +80,6 @@ void teken_pomp(drawing& on, const number_text& bedrag, int liters) {
 
 void oefeningen::M_brandstof_05_07_click() {
     kies_variant(2);
-    juiste_positie = 0;
     zaai();
     const persoon wie = variant == 1 ? persoon{"Een man", man} : persoon{"Een vrouw", vrouw};
     const int liters = trek_van(21, 52);

@@ -67,11 +67,7 @@ void oefeningen::L_optellen_08_17_click() {
     const auto stap = static_cast<std::size_t>(trek(6));
     const eenheid &groot = gewichtsmaten.at(stap), &klein = gewichtsmaten.at(stap + 1);
     const maatsom s = trek_tot(
-        [&] {
-            const int om = trek(98) + 2;
-            const int blijft = trek(98) + 2;
-            return maak_maatsom(naar_kleiner ? groot : klein, om, naar_kleiner ? klein : groot, blijft, eerste_om);
-        },
+        [&] { return trek_maatsom(toeval, naar_kleiner ? groot : klein, naar_kleiner ? klein : groot, eerste_om); },
         [](const maatsom& drawn) { return drawn.geschikt(); });
 
     bord(paars, geel, 18);

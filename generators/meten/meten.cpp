@@ -47,6 +47,13 @@ std::array<std::string, 4> maatsom::uitleg() const {
             regel("Op de stippen moet dus", komma_kort(totaal()), " staan.")};
 }
 
+maatsom trek_maatsom(random_draws& toeval, const eenheid& van, const eenheid& naar, bool eerste_om) {
+    const int om = toeval.below(98) + 2;
+    const int blijft = toeval.below(98) + 2;
+    const maatsom::lid veranderd{om, van}, gelijk{blijft, naar};
+    return eerste_om ? maatsom{veranderd, gelijk, true} : maatsom{gelijk, veranderd, false};
+}
+
 melding verkeerde_soort(grootheid gekozen, grootheid gevraagd) {
     switch (gekozen) {
     case grootheid::lengte:

@@ -39,10 +39,7 @@ struct maatsom {
 };
 
 // A sum with these neighbours of a ladder, of which the number in the one unit (from) is converted to the other (to).
-constexpr maatsom maak_maatsom(const eenheid& van, int om, const eenheid& naar, int blijft, bool eerste_om) {
-    const maatsom::lid veranderd{om, van}, gelijk{blijft, naar};
-    return eerste_om ? maatsom{veranderd, gelijk, true} : maatsom{gelijk, veranderd, false};
-}
+maatsom trek_maatsom(random_draws& toeval, const eenheid& van, const eenheid& naar, bool eerste_om);
 
 // What a pupil is told who picks a unit of one kind where another is asked.
 melding verkeerde_soort(grootheid gekozen, grootheid gevraagd);

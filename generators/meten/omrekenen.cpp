@@ -79,13 +79,9 @@ void oefeningen::L_optellen_1_07_09_click() {
     kies_variant(2);
     zaai();
     const auto stap = static_cast<std::size_t>(trek(6));
-    const maatsom s = trek_tot(
-        [&] {
-            const int om = trek(98) + 2;
-            const int blijft = trek(98) + 2;
-            return maak_maatsom(lengtematen[stap], om, lengtematen[stap + 1], blijft, variant == 1);
-        },
-        [](const maatsom& drawn) { return drawn.geschikt(); });
+    const maatsom s =
+        trek_tot([&] { return trek_maatsom(toeval, lengtematen[stap], lengtematen[stap + 1], variant == 1); },
+                 [](const maatsom& drawn) { return drawn.geschikt(); });
 
     bord(donkerblauw, geel, 18);
     druk(400, 850, s.opgave());
@@ -105,13 +101,9 @@ void oefeningen::L_optellen_2_07_09_click() {
     kies_variant(2);
     zaai();
     const auto stap = static_cast<std::size_t>(trek(6));
-    const maatsom s = trek_tot(
-        [&] {
-            const int om = trek(98) + 2;
-            const int blijft = trek(98) + 2;
-            return maak_maatsom(lengtematen[stap + 1], om, lengtematen[stap], blijft, variant == 1);
-        },
-        [](const maatsom& drawn) { return drawn.geschikt(); });
+    const maatsom s =
+        trek_tot([&] { return trek_maatsom(toeval, lengtematen[stap + 1], lengtematen[stap], variant == 1); },
+                 [](const maatsom& drawn) { return drawn.geschikt(); });
 
     bord(groen, wit, 18);
     druk(400, 850, s.opgave());

@@ -14,7 +14,6 @@ std::string in_euros(int euros) { return regel(kaal(duizend(euros)), " euro"); }
 
 void oefeningen::L_computer_01_08_click() {
     kies_variant(3);
-    juiste_positie = 0;
     zaai();
     const int prijs = trek(90) * 100 + 1000;
     const int korting = trek_tot(

@@ -27,6 +27,7 @@
 #include <cmath>
 #include <functional>
 #include <map>
+#include <numeric>
 #include <set>
 #include <variant>
 
@@ -126,6 +127,10 @@ inline formula floor(const formula& a) {
 }
 inline formula abs(const formula& a) {
     return lifted([](double x) { return std::abs(x); }, a);
+}
+// The largest whole number by which both can be divided.
+inline formula divisor(const formula& a, const formula& b) {
+    return lifted([](double x, double y) { return std::gcd(std::lround(x), std::lround(y)); }, a, b);
 }
 inline formula power(const formula& base, const formula& exponent) {
     return lifted([](double b, double e) { return std::round(std::pow(b, e)); }, base, exponent);

@@ -7,9 +7,6 @@
 namespace cijferwerf {
 namespace {
 
-formula divisor(const formula& a, const formula& b) {
-    return lifted([](double x, double y) { return std::gcd(std::lround(x), std::lround(y)); }, a, b);
-}
 formula common(const formula& a, const formula& b) { return a * b / divisor(a, b); }
 
 // Right and wrong alike, so that the right one is not the only one that cannot be made simpler.
@@ -51,13 +48,10 @@ void check_arrows(const reading& n) {
     EXPECT_FALSE(same(std::round(n[0] * 10 / n[1]), n[0] * 10 / n[1])) << "a tenth itself lies between none";
 }
 
-// A fraction of the four on the board, and the colour of the one that is asked.
-std::string colour_asked(const reading& n) {
-    std::map<double, const char*> by_size;
-    static constexpr std::array colours{"groene", "witte", "gele", "rode"};
-    for (std::size_t i = 0; i < 4; ++i) by_size[n[1 + 2 * i] / n[2 + 2 * i]] = colours[i];
-    return n[0] == 0 ? by_size.rbegin()->second : by_size.begin()->second;
-}
+// The four on the board, and which of them is asked.
+const formula green = B / C, white = D / E, yellow = F / G, red = H / I;
+const formula extreme = chosen(A, {largest(green, white, yellow, red), smallest(green, white, yellow, red)});
+const formula asked = place_of(extreme, {green, white, yellow, red}) - 1;
 
 // The places of the marks on the segment, and of B among them.
 formula marks(bool up_to_B) {
@@ -133,16 +127,14 @@ void check_strokes(const reading& n) {
 }
 
 // Two numbers of which one interval of tenths or hundredths, so many steps from the right one, lies between.
-formula interval(int away) {
-    return [=](const reading& n) -> outcome {
-        const double scale = n.variant() == 1 ? 10 : 100, from = std::floor(n[0] * scale / n[1] + 1e-9) + away;
-        return told_numbers{"# en #", {from / scale, (from + 1) / scale}};
-    };
-}
+const formula scale = by_variant({10, 100}), below = floor(A * scale / B);
+formula interval(int away) { return says("# en #", (below + away) / scale, (below + away + 1) / scale); }
 
+const char* const unfinished = "(niet vereenvoudigd|geen hele uitgehaald)";
 const formula finished_part = A / B;
-const formula numerator = A / C, denominator = 100 / C; // of a percentage
-const formula glued = 10 * D + E;                       // 14 of 1/4
+const formula left_over = divisor((B / C - E / F) * G, G); // what the difference of fractions can be divided by
+const formula numerator = A / C, denominator = 100 / C;    // of a percentage
+const formula glued = 10 * D + E;                          // 14 of 1/4
 const formula over = D / E, all_of_it = A + B / C;
 const formula first_prize = A / B, second_prize = C / D, part_left = 1 - first_prize - second_prize;
 
@@ -153,8 +145,8 @@ void completing(oefening_id id) {
         right(all_of_it - over),
         wrong("", A - over, all_of_it + over, all_of_it - over - 1, all_of_it - over + 1,
               A - floor(over) + abs(B / C - over + floor(over)), abs(B / C - over + floor(over))),
-        explains("getal # de breuk &. Tel daar*Dan krijg je &. Om*moet je er & van aftrekken", A, A, all_of_it,
-                 all_of_it - over),
+        explains("getal # de breuk &. Tel daar die & *Dan krijg je &. Om daar & *moet je er & van aftrekken", A, A,
+                 B / C, all_of_it, over, all_of_it - over),
         tips("Eerste stap: maak van die # een breuk", "Derde stap"));
 }
 
@@ -162,8 +154,9 @@ const exercise_rows fractions([] {
     row(B_chocolade_03_03_click, 14, "Er moeten # repen over (twee|drie|vier|vijf|zeven|negen|elf) kinderen",
         of({1, 3, 5, 7, 9, 11, 13}), counts(children(B), blocks(donkerrood) - A),
         range({{2, 12}, {0, 6}, {2, 11}, {0, 0}}), right(A / C), wrong("slechts één reep", 1 / C),
-        wrong("verwisseld", C / A), wrong("opgeteld", A / (A + C)), explains("moet # repen over # kinderen", A, C),
-        explains("stukje, & deel dus", 1 / C));
+        wrong("verwisseld", C / A), wrong("opgeteld", A / (A + C)),
+        explains("moet # repen over # kind*in # gelijke*stukje, & deel dus. Maar er zijn # repen*kind # keer", A, C, C,
+                 1 / C, A, A));
     row(B_chocolade_03_03_click, 14, "(Twee|Drie|Vier|Vijf|Zeven|Negen|Elf) kinderen verdelen # repen,",
         of({2, 4, 6, 8, 10, 12, 14}), counts(children(A), blocks(donkerrood) - B),
         range({{0, 6}, {2, 12}, {2, 11}, {0, 0}}), right(B / C), wrong("slechts één reep", 1 / C),
@@ -171,12 +164,14 @@ const exercise_rows fractions([] {
     row(B_helen_03_03_click, 2, "| # | (+|-) | # | # | = | . | $3", range({{2, 9}, {0, 0}, {1, 11}, {3, 12}}),
         range({{2, 9}, {1, 1}, {1, 11}, {3, 12}}), right(A * D + (1 - 2 * B) * C), wrong("De helen heb je wel", A * D),
         wrong("maar het is een", A * D - (1 - 2 * B) * C), wrong("één hele ingewisseld", D + (1 - 2 * B) * C),
-        explains("schrijven als &", 1), explains("# x # = # stukken van &", A, D, A * D, 1 / D),
+        explains("als & dus het getal # is # x*stukken van &. Daar (komt|gaat) nog & *van &. Op", 1, A, A, 1 / D, B,
+                 C / D, 1 / D),
         tips("", "Doe daarna een (optelling|aftrekking)"));
-    row(B_vlakjes_03_03_click, 4, "rood is gekleurd.", counts(blocks(rood) - 1, blocks(geel) - 1 + blocks(rood) - 1),
-        range({{8, 28}, {36, 36}}), range({{7, 29}, {36, 36}}), range({{8, 28}, {36, 36}}), range({{7, 29}, {36, 36}}),
-        right(A / 36), wrong("gele vlakjes", 1 - A / 36), wrong("een vlakje verteld", (A - 1) / 36, (A + 1) / 36),
-        wrong("paar rode", (A - 3) / 36, (A + 3) / 36), check_simplest_form);
+    row(B_vlakjes_03_03_click, 4, "rood is gekleurd.",
+        counts((blocks(rood) - 1) * 36 / (blocks(rood) + blocks(geel) - 2)), range({{8, 28}}), range({{7, 29}}),
+        range({{8, 28}}), range({{7, 29}}), right(A / 36), wrong("gele vlakjes", 1 - A / 36),
+        wrong("een vlakje verteld", (A - 1) / 36, (A + 1) / 36), wrong("paar rode", (A - 3) / 36, (A + 3) / 36),
+        check_simplest_form);
     row(L_helen_maken_03_03_click, 2, "| # | # | # | + | = | # | ..", counts(D - A),
         range({{1, 9}, {1, 9}, {4, 10}, {2, 10}, {1, 1}}), range({{1, 9}, {1, 19}, {11, 20}, {2, 10}, {1, 1}}),
         right(1 - B / C), wrong("zelf gekozen", B / C), wrong("hele te veel", 2 - B / C),
@@ -188,65 +183,72 @@ const exercise_rows fractions([] {
         range({{700, 15300}, {2, 5}, {7, 9}, {24, 49}, {0, 59}}), words({8}), right(finished_part * C),
         wrong("over de finish", A / C * B), wrong("foutje gemaakt", finished_part * (C - 1), finished_part * (C + 1)),
         wrong("nog een vermenigvuldiging", finished_part),
-        explains("het & deel uit door # te delen door #. Dat zijn # *uit door # x", 1 / C, A, B, finished_part, C));
+        explains(
+            "zijn # deel*was & deel*dus & deel weten. Je rekent het & deel uit door # te delen door #. Dat zijn # *het & deel uit door # x",
+            A, B / C, 1, 1 / C, A, B, finished_part, 1, C));
     row(L_optellen_03_14_click, 3, "| # | # | + | # | # | = | ......", of({1, 2}), counts(common(B, D)),
         range({{1, 14}, {2, 15}, {1, 14}, {2, 15}, {6, 15}}), range({{1, 23}, {2, 24}, {1, 23}, {2, 24}, {12, 30}}),
-        right(A / B + C / D), wrong("Je hebt niet vereenvoudigd.", A / B + C / D), wrong("uitgehaald. ", A / B + C / D),
-        wrong("uitgehaald en je", A / B + C / D), check_worked_line);
+        right(A / B + C / D), wrong(unfinished, A / B + C / D), check_worked_line,
+        explains("noemers eerst #*door # te delen.", E, divisor((A / B + C / D) * E, E)));
     row(L_optellen_03_14_click, 3, "| # | # | # | + | # | # | # | = | ......", of({3}),
-        range({{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}), right(a + b),
-        wrong("Je hebt niet vereenvoudigd.", a + b), wrong("uitgehaald. ", a + b), wrong("uitgehaald en je", a + b),
+        range({{1, 4}, {1, 9}, {2, 10}, {1, 4}, {1, 9}, {2, 10}}), right(a + b), wrong(unfinished, a + b),
         check_worked_line);
     row(M_aftrekken_03_14_click, 2, "| # | # | # | - | # | # | # | = | ......", counts(common(C, F)),
         range({{2, 6}, {2, 14}, {3, 15}, {1, 5}, {1, 5}, {2, 15}, {6, 15}}),
         range({{2, 6}, {2, 14}, {6, 15}, {1, 5}, {1, 7}, {6, 15}, {30, 60}}), right(a - b),
-        wrong("niet vereenvoudigd.", a - b), wrong("niet gelijknamig", A - D + (B - E) / G),
-        wrong("alleen de streepbreuken", a - E / F), check_worked_line);
+        wrong({"vereenvoudigd.*door #.", {left_over}}, a - b),
+        wrong({"niet gelijknamig*noemer # wordt", {G}}, A - D + (B - E) / G), check_worked_line,
+        explains("noemers eerst #*door # te delen.", G, left_over), wrong("alleen de streepbreuken", a - E / F));
     row(L_prijzen_03_03_click, 2, "In @ wordt * jaar #/# deel van * het #/# deel. * | # euro",
         range({{2, 5}, {7, 12}, {1, 2}, {7, 12}}), range({{1, 5}, {3, 12}, {1, 2}, {4, 12}}), words({8}),
         right(part_left), wrong("eerste en de tweede prijs samen", 1 - part_left),
         wrong("alleen de eerste prijs", 1 - first_prize), wrong("alleen de tweede prijs", 1 - second_prize),
         wrong("van elkaar afgetrokken", first_prize - second_prize),
         wrong("je & deel vergist", part_left - 1 / common(B, D), part_left + 1 / common(B, D)),
-        wrong("ook de noemers", 1 - (A + C) / (B + D)), check_simplest_form);
+        wrong("ook de noemers", 1 - (A + C) / (B + D)), check_simplest_form,
+        explains("namelijk & en &.", first_prize, second_prize));
     row(M_getallenlijn_03_03_click, 2, "| Gegeven breuk: | # | # |", range({{1, 19}, {3, 20}}),
-        range({{1, 14}, {7, 15}}), explains("\\(#/10) en", floor(A * 10 / B)),
-        explains("\\(#/10). De", floor(A * 10 / B) + 1),
+        range({{1, 14}, {7, 15}}),
+        explains("noemer #.*als &. Dat*\\(#/10) en * \\(#/10). De", common(B, 10), A / B, floor(A * 10 / B),
+                 floor(A * 10 / B) + 1),
         tips("(Ga eerst gelijknamig maken...|gelijknamig met de tienden)", "noemer #"), check_arrows);
     row(M_grootste_kleinste_03_03_click, 4,
         "| Welke breuk is (GROTER|KLEINER) dan * | # | # | groen | # | # | wit | # | # | geel | # | # | rood",
-        range({{0, 1}, {1, 15}, {3, 20}, {1, 15}, {3, 20}, {1, 11}, {3, 12}, {2, 24}, {6, 27}}), right(colour_asked),
-        tips("vereenvoudigen. ", "en daarna"));
+        range({{0, 1}, {1, 15}, {3, 20}, {1, 15}, {3, 20}, {1, 11}, {3, 12}, {2, 24}, {6, 27}}),
+        right(chosen(asked, {"groene", "witte", "gele", "rode"})), tips("vereenvoudigen. ", "en daarna"));
     row(M_olievat_03_06_click, 5, "eerst # liter olie. * liet daar & liter * | $0 liter * | # | # | # | liter",
         range({{12.25, 88.75}, {2.25, 19.75}}), right(A - B),
         wrong("", A - C, A - C - glued / 100, A - C - glued / 10, A - C - 1, A - 2 * C + B, A + B, A - B + 1,
               A - B - 1),
-        explains("aftrekken van # liter.", A), tips("streepbreuk", "Bedenk dat & liter hetzelfde is als #"));
+        explains("van & een*wordt dus # liter*aftrekken van # liter.", B, B, A),
+        tips("streepbreuk", "Bedenk dat & liter hetzelfde is als #"));
     row(M_snel_03_03_click, 2, "| Vereenvoudig: #/#", range({{4, 60}, {12, 70}}), range({{9, 90}, {27, 99}}),
         right(says("#/#", A / divisor(A, B), B / divisor(A, B))), wrong("nog niet klaar", A / B),
         wrong("delen van de teller", shortened(-1, 0), shortened(1, 0)),
         wrong("delen van de noemer", shortened(0, -1), shortened(0, 1)),
         wrong("hetzelfde getal", shortened(0, 0, false, true), shortened(0, 0, true, false)),
-        explains("getal # is het grootste", divisor(A, B)), ticks({8, 15}));
+        explains("delen door # *getal # is het grootste", divisor(A, B), divisor(A, B)), ticks({8, 15}));
     row(L_procenten_03_14_click, 2, "| # % =  .. deel", counts(100, divisor(A, B), rounded(yellow_part * 100) - A),
         range({{5, 95}, any, {5, 50}, {0, 0}}), range({{2, 98}, any, {2, 4}, {0, 0}}), right(A / 100),
         wrong("", 1 / A, 1 - A / 100, A / (100 - A), numerator / 100, A / denominator, A / 1000, A / 200,
               (numerator - 1) / denominator, (numerator + 1) / denominator, numerator / (denominator - 1)),
-        explains("kun je schrijven als &", A / 100),
-        explains("vereenvoudigen tot & door de teller en de noemer door # te", A / 100, C),
+        explains("# % kun je schrijven als &*breuk # /100*tot & door de teller en de noemer door # te", A, A / 100, A,
+                 A / 100, C),
         tips("(Eerst: bedenk|Bedenk eerst)", "(Dan: schrijf|Maak van)"), check_simplest_form);
     row(L_stukken_03_14_click, 14, "stuk AC een lengte heeft van &. Hoe lang is het stuk AB? | A | B | C | ? | &",
         of({1, 3, 5, 7, 9, 11, 13}), counts(marks(false), marks(true), B - A),
         range({{2.0 / 3, 50}, {2.0 / 3, 50}, {4, 10}, {1, 9}, {0, 0}}), right(A * D / C), wrong("", answer < A),
+        explains("AB is het & deel van AC. Het hele stuk AC is &, dus AB is het & deel van &.", D / C, A, D / C, A),
         tips("Eerste stap", "Tweede stap"));
     row(L_stukken_03_14_click, 14, "stuk AB een lengte heeft van &. Hoe lang is het stuk AC? | A | B | C | & | ?",
         of({2, 4, 6, 8, 10, 12, 14}), counts(marks(true), marks(false), B - A),
         range({{1.0 / 6, 45}, {1.0 / 6, 45}, {1, 9}, {4, 10}, {0, 0}}), right(A * D / C), wrong("", A < answer),
-        explains("bestaat uit # van", D), tips("Eerste stap", "Tweede stap"));
+        explains("AB is het & deel*bestaat uit # van", C / D, D), tips("Eerste stap", "Tweede stap"));
     row(M_tussen_in_03_14_click, 2, "| # | # | geel |", range({{1, 11}, {3, 12}}), right(interval(0)),
         wrong("", interval(-10), interval(-3), interval(-2), interval(-1), interval(1), interval(2), interval(3),
               interval(10)),
-        explains("omzetten: # delen door # geeft #", A, B, floor(A * 1000 / B) / 1000),
+        explains("omzetten: # delen door # geeft #*tussen # en #", A, B, floor(A * 1000 / B) / 1000, below / scale,
+                 (below + 1) / scale),
         tips("(Eerste stap: zet|Maak eerst)", "(Tweede stap: verg|Kijk daarna)"));
     row(M_vereenvoudigen_03_14_click, 2, "| # | # | = | # | .... | $1 | = | $2 | # | ....",
         counts([](const reading& n) { return n.variant() == 1 ? 1 : n[2] - whole(n.exercise.words[0]); }),

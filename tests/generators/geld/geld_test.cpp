@@ -91,7 +91,8 @@ const exercise_rows money([] {
         range({{0, 3}, {20, 200}, {10, 10}}), range({{0, 3}, {20, 200}, {20, 20}}),
         range({{0, 3}, {20, 200}, {50, 50}}), right(exchanged * 100 / C),
         wrong("", exchanged, exchanged * 2, exchanged * 5, exchanged * 10, exchanged * 20, exchanged * 50, B * 100 / C),
-        explains("krijgt hij # munten van # eurocent. Voor € #,- ", 100 / C, C, exchanged),
+        explains("wisselt (een|twee|drie|zes) bil*€ #,-*krijgt hij # munten van # eurocent. Voor € #,- ", A, B, 100 / C,
+                 C, exchanged),
         tips("Bedenk eerst hoeveel", "doe daarna een vermenigvuldiging"));
     row(L_snel_05_07_click, 6, "| Hoeveel munten van # eurocent | gaan er in € #,-?", range({{1, 50}, {2, 10}}),
         right(coins_in),
@@ -105,7 +106,8 @@ const exercise_rows money([] {
         "(Een man|Een vrouw) koopt voor € # een stel CD's. {Hij|Zij} *€ #,-, maar {hij|zij} *€ #,- en een munt van # ",
         range({{0, 1}, {6.1, 97.5, 2}, {20, 100}, {1, 2}, {10, 50}}), right(change),
         wrong("(te veel|teveel) terug", change + extra), wrong("te weinig terug", change - extra),
-        wrong("(er een euro|je een euro)", change - 1, change + 1));
+        wrong("(er een euro|je een euro)", change - 1, change + 1),
+        explains("bijbetaling € # moeten*klant € # bij", change - extra, extra));
     row(L_terugbetalen_05_07_click, 5,
         "(Hij|Zij) moet *. @ betaalt met (een|2|3) briefje* € #,- en (een|2|3) munt* € #,-. *{hij|ze} terug? | € #",
         range({{0, 1}, {0, 2}, {5, 100}, {0, 2}, {1, 2}, {5.05, 305.95, 2}}), words({10}), right(back),
@@ -127,12 +129,10 @@ const exercise_rows money([] {
         tips("Weet je dat je de laagste", "Doe een vermenigvuldiging en gebruik de laagste"));
     row(M_boodschap_05_07_click, 4,
         "@ haalt voor (zijn|haar) (vader|moeder) @, @ en @. (Vader|Moeder) *krijgt $a mee? | # kg aardappelen *€ #",
-        counts([](const reading& n) { return n.exercise.words.size(); }),
-        range({{0, 1}, {0, 0}, {0, 0}, {1.5, 2.5}, {.5, 1.9}, {3, 3}}),
-        range({{0, 1}, {1, 1}, {1, 1}, {1.5, 2.5}, {.5, 1.9}, {3, 3}}),
-        range({{0, 1}, {0, 0}, {0, 0}, {1.5, 2.5}, {.5, 1.9}, {4, 4}}),
-        range({{0, 1}, {1, 1}, {1, 1}, {1.5, 2.5}, {.5, 1.9}, {4, 4}}), right(to_bring), either_side,
-        explains("boodschappen € # kosten. Want € # +", formula(to_bring) - .05, D * E),
+        counts(B - by_variant({0, 1, 0, 1}), C - B,
+               [](const reading& n) { return n.exercise.words.size() - (n.variant() < 3 ? 3U : 4U); }),
+        range({{0, 1}, {0, 1}, {0, 1}, {1.5, 2.5}, {.5, 1.9}, {0, 0}, {0, 0}, {0, 0}}), right(to_bring), either_side,
+        explains("boodschappen € # kosten. Want € # +*krijgt $a dus", formula(to_bring) - .05, D * E),
         tips("De afzonderlijke bedragen", "(Vader|Moeder) niet kan betalen"));
     row(M_CDs_05_07_click, 2, "Ze kosten € # per stuk. * koopt # CD's.", counts(B - 3 * threes),
         range({{6.9, 19.9}, {6, 15}, {0, 0}}), range({{6.9, 19.9}, {7, 17}, {1, 2}}), right(cds - threes * half),

@@ -71,8 +71,9 @@ const exercise_rows conversions([] {
         });
     row(L_gewichten_08_17_click, 2, "gewicht om in @. | # @ ", counts(conversion), range({{1.1, 9.9}, {10, 1000}}),
         range({{11, 99}, {0.001, 0.1}}), words({7, 7}), right(A * B),
-        explains("(zijn het|is het) # stap*, dus (x|:) #. #", lifted([](double x) { return x == 10; }, by),
-                 lifted([](double x) { return std::log10(x); }, by), second, by, A),
+        explains("Van $b naar $a (zijn het|is het) # stap*, dus (x|:) #. #",
+                 lifted([](double x) { return x == 10; }, by), lifted([](double x) { return std::log10(x); }, by),
+                 second, by, A),
         check_told);
     row(L_watertank_07_17_click, 8, "Hoeveel @ is dat? | # @ ", counts(conversion), range({{2, 89, 2}}), words({8, 1}),
         right(A * B),

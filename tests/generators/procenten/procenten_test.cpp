@@ -45,11 +45,8 @@ void check_pies(const reading& n) {
 // The rate of injuries of each sport, which stand in the order of the answers.
 const formula first = C * 100 / B, second = E * 100 / D, third = G * 100 / F, fourth = I * 100 / H;
 const formula that_one = chosen(A, {largest(first, second, third, fourth), smallest(first, second, third, fourth)});
-const formula chosen_rate = [](const reading& n) {
-    const auto answers = n.exercise.answers();
-    const auto which = static_cast<std::size_t>(std::ranges::find(answers, n.option) - answers.begin());
-    return std::array{first, second, third, fourth}.at(which).in(n);
-};
+const formula that_many = chosen(button - 1, {B, D, F, H});
+const formula chosen_rate = chosen(button - 1, {first, second, third, fourth});
 
 const formula own = A * B / 100, one_percent = B / 100;
 const formula mown = B * 100 / (B + C);
@@ -64,13 +61,14 @@ const exercise_rows percentages([] {
         "tussen @ en @ zitten # mensen. Hiervan is # % supporter van $a. Hoeveel supporters van $b zijn *| $a | - | $b ",
         range({{3000, 12000}, {55, 94}}), words({29, 29}), right(A - own), wrong("AANTAL berekenen", 100 - B),
         wrong("THUIS", own), wrong("groter is dan het totale", 2 * A - own),
-        explains("alle toeschouwers gelijk aan #,", A / 100), tips("Reken eerst het percentage", "Neem dan 1 %"),
+        explains("# % van alle*$a, dus *% = # % is*$b. Nu*gelijk aan #, zodat # % hetz", B, 100 - B, A / 100, 100 - B),
+        tips("Reken eerst het percentage", "Neem dan 1 %"),
         [](const reading& n) { EXPECT_EQ(n.words[0].find(n.words[1]), std::string::npos) << "one club"; });
     row(L_examen_01_08_click, 8, exam, of({1, 2, 3, 4}), range({{0, 0}, {2, 225}, {200, 500}}),
         range({{1, 1}, {110, 495}, {200, 500}}), range({{0, 0}, {2, 154}, {50, 350}}),
         range({{1, 1}, {28, 343}, {50, 350}}), words({6}), right(B * 100 / C),
         wrong("De vraag gaat over de", 100 - B * 100 / C), wrong("niet het percentage....", B),
-        wrong("meteen gelijk is", C - B), explains("Er zijn # leerlingen", B));
+        wrong("meteen gelijk is", C - B), explains("hebben # leer*gelijk aan # leer*Er zijn # leer", C, C / 100, B));
     row(L_examen_01_08_click, 8, exam, of({5, 6, 7, 8}), range({{0, 0}, {2, 63}, {40, 140}}),
         range({{1, 1}, {22, 133}, {40, 140}}), range({{0, 0}, {9, 330}, {450, 750}}),
         range({{1, 1}, {252, 735}, {450, 750}}), words({6}), right(B * 100 / C),
@@ -80,19 +78,20 @@ const exercise_rows percentages([] {
         "computer van # euro. De (verkoper|verkoopster) geeft # % * | oude prijs: | $0 euro | $2 % korting",
         range({{1000, 9900}, {0, 1}, {5, 65}}), right(A - A * C / 100), wrong("opgeteld", A + A * C / 100),
         wrong("niet in euro's", A - C), wrong("alleen de korting", A * C / 100),
-        explains("oude prijs is # euro", A / 100), explains("krijgt # euro korting", A * C / 100));
+        explains("oude prijs is # euro, dus # % *krijgt # euro korting", A / 100, C, A * C / 100));
     row(L_snel_01_08_click, 4, "| Hoeveel % is # van #?", range({{2, 9}, {8, 900}}), range({{2, 9}, {4, 450}}),
         range({{2, 9}, {40, 900}}), range({{2, 9}, {20, 90}}), right(A * 100 / B),
-        explains("# is het & deel van #", A, A / B, B), explains("hetzelfde als # %", A * 100 / B), ticks({12}));
+        explains("# is het & deel van #*Het & deel is hetzelfde als # %", A, A / B, B, A / B, A * 100 / B),
+        ticks({12}));
     row(M_blessures_01_08_click, 4,
         "in @ in een bepaalde tijd. * het (grootst|kleinst)? | *| $a, * blessures | * | # | # | * | # | # | * | # | # | * | # | #",
         range({{1, 1}}), range({{1, 1}}), range({{0, 0}}), range({{0, 0}}), words({8}), right(chosen_rate == that_one),
         wrong({"= # %. Dat is niet het", {chosen_rate}}, (chosen_rate == that_one) == 0),
-        explains("bij $=: *ongeveer # %", that_one),
+        explains("bij $=: 1 % van # sporters is #. Het*ongeveer # %", that_many, that_many / 100, that_one),
         tips("wel alle percentages van de sporten", "gekeken bij welke sport"));
     row(M_hele_procenten_01_08_click, 2, "| Bereken: | # % van # = ...", range({{2, 8}, {0, 31900}}),
         range({{11, 99}, {0, 31900}}), right(own), wrong(percentage_mistakes),
-        explains("1 % van # nemen. Deel het getal #", B, B));
+        explains("1 % van # nemen. Deel het getal #*met # verm*Dus # % van # is", B, B, A, A, B));
     row(Z_kommaprocenten_01_08_click, 4, "| # % van # =", range({{1.5, 9.5}, {200, 4000}}),
         range({{1.1, 9.9}, {200, 2000}}), range({{1.25, 8.75}, {400, 4000}}), range({{1.2, 8.8}, {110, 490}}),
         right(own), wrong("1 % genomen", one_percent), wrong("kommafout", 10 * own),
@@ -101,19 +100,23 @@ const exercise_rows percentages([] {
         "@ krijgt van * heeft (hij|zij) gekregen? * | Geachte $a, | We hebben # euro rente op (uw|je) *| Er staat nu # euro",
         counts(D - B), range({{0, 1}, {30, 801}, {0, 0}, {1030, 9701}, {1000, 8900}}),
         range({{0, 1}, {3, 72}, {1, 1}, {103, 872}, {100, 800}}), words({20}), right(B * 100 / E),
-        explains("krijgt # euro", B), explains("1 % van dat bedrag is # euro", E / 100),
+        explains(
+            "$a krijgt # euro*had (hij|zij) eerst*= # euro. 1 % van dat bedrag is # euro*. # euro gaat # keer in # euro",
+            B, A, E, E / 100, E / 100, B * 100 / E, B),
         tips("(Reken eerst eens het|Hoeveel stond er op)", "(Bereken eerst het oude|Trek de rente af)"));
     row(B_alcohol_01_08_Click, 4, "' # % van # ' * - @ | In @ is * $0 % van $1 |", range({{2, 4}, {150, 975}}),
         range({{5, 50}, {140, 998}}), range({{15, 20}, {140, 995}}), range({{25, 40}, {148, 996}}), words({7, 8}),
         right(says("& * #", A / 100, B)), wrong("delen door dat percentage", says("# : #", B, A)),
-        wrong("vermenigvuldigen met dat percentage", says("# x #", B, A)), wrong("verkeerde breuk", lies::elsewhere));
+        wrong("vermenigvuldigen met dat percentage", says("# x #", B, A)), wrong("verkeerde breuk", lies::elsewhere),
+        explains("staat: # % van # auto*als #/100 van #*tot &, want*door # delen*zeggen: & van # auto", A, B, A, B,
+                 A / 100, divisor(A, 100), A / 100, B));
     row(L_bevolking_01_08_click, 10, "van een @. Welk",
         right([](const reading& n) { return regel("nummer", n.exercise.right_place()); }), check_pies);
     row(B_grasveld_01_08_click, 2, "Hoeveel procent (is al|moet nog) gemaaid",
         counts(blocks(lichtgroen), blocks(groen)), range({{0, 0}, {1, 24}, {1, 24}}), range({{1, 1}, {1, 24}, {1, 24}}),
         right(mown + A * (100 - 2 * mown)), wrong("baantjes (die nog|geteld die nog)", C),
         wrong("nog gedaan moet", 100 - mown), wrong("al gedaan is", mown), wrong("aantal gemaaide", B),
-        explains("Er zijn # baantjes", B + C), explains("dus #/# van", B, B + C));
+        explains("zijn # baan*al # gedaan, dat is dus #/# van*zeggen: # /*= # %", B + C, B, B, B + C, mown, mown));
 });
 
 } // namespace

@@ -49,12 +49,11 @@ const formula misread = by_variant({1200, 1300});
 const formula played = by_variant({1, 1, 2, 2}), over = A - played * 60, finish = D * 60 + E + A;
 const formula waited = (D - B) * 60 + E - C;
 const formula to_school = (C - A) * 60 + D - B;
-const formula arrival = A * 60 + B + C * 60 + D * 15 + E;
+const formula journey = C * 60 + D * 15 + E, arrival = A * 60 + B + journey;
 
 const exercise_rows time_and_dates([] {
     row(M_snel_06_04_click, 5, "| # (jaren|weken|dagen|uren|minuten) = ... {maanden|dagen|uren|minuten|seconden}?",
-        range({{2, 9}, {0, 0}}), range({{2, 9}, {1, 1}}), range({{2, 9}, {2, 2}}), range({{2, 9}, {3, 3}}),
-        range({{2, 9}, {4, 4}}), right(A * units),
+        counts(B - by_variant({0, 1, 2, 3, 4})), range({{2, 9}, {0, 4}, {0, 0}}), right(A * units),
         wrong("", A * units - 6, A * units - 4, A * units - 2, A * units + 2, A * units + 4, A * units + 6),
         explains(
             "Eén (jaar|week|dag|uur|minuut) bestaat uit # {maand|dag|u|minuten|sec}*hebben # {ja|we|da|u|mi}* # keer",
@@ -86,6 +85,7 @@ const exercise_rows time_and_dates([] {
         "@ gaat per vliegtuig naar @. * laat (hij|zij) de *lang moet $a wachten? | #:# | *| #:# | PIER",
         range({{0, 1}, {6, 16}, {5, 55, 3}, {8, 22}, {5, 55, 3}}), words({20, 20}),
         right(says("# uur+ # min", floor(waited / 60), waited - floor(waited / 60) * 60)),
+        explains("vol met # minuten tot #:00*nog # uur en # min", 60 - C, B + 1, D - B - 1, E),
         tips("(Kijk op het horloge|Hoe laat is het|Lees het horloge|Begin met de tijd)", "het vertrek bij op"));
     row(M_naar_school_06_04_click, 4, "De wekker van @ loopt om #:# uur af. $a moet om #:# uur",
         counts(A - by_variant({7, 6, 7, 6})), range({{6, 7}, {10, 55}, {8, 8}, {15, 50}, {0, 0}}), words({10}),
@@ -100,7 +100,8 @@ const exercise_rows time_and_dates([] {
         range({{6, 17}, {0, 59, 2}, {1, 3}, {1, 3}, {3, 29}, {0, 0}, {3, 15}}), words({20, 12}), right(arrival),
         wrong("", arrival - E, arrival - 2 * E, arrival - D * 15, arrival - 60, arrival + D * 10, arrival + E,
               arrival + 60),
-        explains("reistijd is # uur + # kwartier + # minuten.", C, D, E),
+        explains("reistijd is # uur + # kwartier + # minuten*is # uur en # minuten", C, D, E, floor(journey / 60),
+                 journey - floor(journey / 60) * 60),
         tips("(eerst de reistijd uitrekenen|Bereken eerst de reistijd)", "daarbij de vertraging niet"));
     row(Z_wereldtijden_06_04_click, 4,
         "Als het in @ #:00 uur ('s nachts|'s morgens|'s middags|'s avonds) is, hoe laat is het dan in @?",

@@ -3,8 +3,6 @@
 #include "generators/gedeeld/kleuren.h"
 #include "tests/support/exercise_rows.h"
 
-#include <numeric>
-
 namespace cijferwerf {
 namespace {
 
@@ -46,12 +44,8 @@ formula red_part(std::size_t which) {
 }
 // The least whole numbers in the ratio of the red parts, so many times, in this order or the other.
 formula ratio(int times, bool swapped = false) {
-    return [=](const reading& n) {
-        int left = 1, right = 1;
-        while (!same(left * n[1], right * n[0])) left* n[1] < right* n[0] ? ++left : ++right;
-        if (swapped) std::swap(left, right);
-        return regel(kaal(times * left), " :", times * right);
-    };
+    const formula unit = divisor(A * 24, B * 24) / 24 / times;
+    return swapped ? says("# : #", B / unit, A / unit) : says("# : #", A / unit, B / unit);
 }
 // What can be misread in "one of the eight"; the last two are 1,8 and 8,1, also where it is 2.000 of the 16.000.
 std::vector<mistake> misread(const formula& part, const formula& whole) {
@@ -70,7 +64,7 @@ const std::string from_three =
 
 const formula turned_by = chosen(C, {A, B}), turns = chosen(C, {B, A}), turned = D * turned_by / turns;
 const formula large_turns = lifted([](double a, double b) { return a > b; }, turned_by, turns);
-const formula common = [](const reading& n) { return std::gcd(std::lround(n[0]), std::lround(n[1])); };
+const formula common = divisor(A, B);
 const formula per_turn = turns / common, turned_per_turn = turned_by / common;
 // Of the four cars, what a kilometre costs; and which one is the cheapest.
 const formula cost_1 = rounded(A / B, 1), cost_2 = rounded(C / D, 1), cost_3 = rounded(E / F, 1),
@@ -104,7 +98,8 @@ const exercise_rows ratios([] {
         "(vier|vijf|acht|tien|twintig|vijfentwintig|vijftig) {ging naar|gingen naar het mooie|gingen naar het mooie} $b.",
         of({1, 2}), counts((A + 1) * 100 / chosen(B, {4, 5, 8, 10, 20, 25, 50})), range({{0, 0}, {0, 6}, {2, 25}}),
         range({{1, 2}, {1, 6}, {6, 40}}), words({5, 6}), right(C), wrong(misread(A + 1, (A + 1) * 100 / C)),
-        explains("verhouding van # : 100. Je kunt dan ook zeggen: #/100, ofwel # %", C, C, C));
+        explains("(Een|Twee|Drie) van*als # : #. Dit is een verhouding van # : 100*zeggen: #/100, ofwel # %", A, A + 1,
+                 (A + 1) * 100 / C, C, C, C));
     row(B_vakantie_02_16_click, 3, "ging naar @? *| # van de # gingen naar het mooie $a.", of({3}),
         range({{1000, 57000}, {4000, 60000}}), words({6}), right(A * 100 / B), wrong(misread(A / 1000, B / 1000)));
     row(L_cirkels_02_16_click, 7, "| links | rechts", counts(red_part(0), red_part(1)),
@@ -114,7 +109,7 @@ const exercise_rows ratios([] {
         range({{0.125, 0.875}, {0.125, 0.875}}), right(ratio(1)), wrong("cirkels verwisseld", ratio(1, true)),
         wrong("Je had moeten vereenvoudigen", ratio(2), ratio(3)),
         wrong("Bovendien moet je nog vereenvoudigen", ratio(2, true), ratio(3, true)),
-        explains("De verhouding & : & kun je * met # te vermenigvuldigen", A, B,
+        explains("het & deel rood*het & deel. De verhouding & : & kun je * met # te verm", A, B, A, B,
                  [](const reading& n) { return std::stod(n.exercise.right) / n[0]; }));
     row(L_fietspad_1_02_16_click, 5, "heeft van # cm. De schaal is 1 : # *| 1 : $1", range({{2, 5}, {10000, 100000}}),
         range({{3, 9}, {12000, 99000}}), range({{7, 9}, {12000, 100000}}), range({{12, 20}, {10000, 78000}}),
@@ -161,8 +156,9 @@ const exercise_rows ratios([] {
         range({{6, 6}, {42, 210}}), words({4}), right(says("# kg", soil * A)),
         wrong("kg potgrond berekend", says("# kg", soil)), wrong("door het goede getal", says("# kg", B / A)),
         wrong("delen in plaats van", says("# kg", B * A)),
-        explains("potgrond met # kilogram turfmolm, dan heeft hij # kilogram", A, A + 1),
-        explains("dat is # keer zo veel *want # delen door # is #", soil, B, A + 1, soil));
+        explains(
+            "met # kilogram turfmolm, dan heeft hij # kilo*echter # kilo*dat is # keer zo veel *want # delen door # is #",
+            A, A + 1, B, soil, B, A + 1, soil));
     row(Z_uitgaven_02_16_click, 2,
         "Familie @ gaat samen met familie @ een weekje uit. Famile $a bestaat uit # personen, familie $b uit # * € #,- uit. "
         "* Hoeveel moet familie @ betalen? | *| weekje @ | familie $a: $0 personen | familie $b: $1 personen | samen: € $2,-",
