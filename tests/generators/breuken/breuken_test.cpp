@@ -75,10 +75,10 @@ formula shortened(int teller, int noemer, bool teller_left = false, bool noemer_
 
 // Of the square.
 const formula yellow_part = [](const reading& n) {
-    double yellow = 0;
+    double filled = 0;
     for (const box_op& box : n.exercise.blocks)
-        if (box.pen.colour == geel) yellow += box.width * box.height;
-    return yellow / n.exercise.blocks[0].width / n.exercise.blocks[0].height;
+        if (box.pen.colour == geel) filled += box.width * box.height;
+    return filled / n.exercise.blocks[0].width / n.exercise.blocks[0].height;
 };
 
 // ---- mixed numbers ----
@@ -113,9 +113,9 @@ void check_strokes(const reading& n) {
     std::array<double, 2> lost{1, 1}; // by the numerators, and by the denominators
     for (const box_op& stroke : all<box_op>(drawn)) {
         if (stroke.height != 1 || stroke.pen.colour != rood) continue;
-        const auto number = [&](bool red, double reach) {
+        const auto number = [&](bool in_red, double reach) {
             const auto found = std::ranges::find_if(words, [&](const ink& word) {
-                return (word.colour == rood) == red && word.left > stroke.x - 15 &&
+                return (word.colour == rood) == in_red && word.left > stroke.x - 15 &&
                        word.middle() < stroke.x + stroke.width && word.top < stroke.y + reach &&
                        word.bottom > stroke.y - reach;
             });
