@@ -10,8 +10,7 @@ namespace {
 
 constexpr int marge = 110;
 
-void sheet(drawing& on, const vlak& waar, int shadow) {
-    on.filled_box(waar.links + shadow, waar.boven + shadow, waar.breedte, waar.hoogte, grijs);
+void sheet(drawing& on, const vlak& waar) {
     on.filled_box(waar.links, waar.boven, waar.breedte, waar.hoogte, wit);
     on.box(waar.links, waar.boven, waar.breedte, waar.hoogte, zwart);
 }
@@ -22,7 +21,8 @@ int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view 
                const std::vector<std::string>& regels, kleur tint) {
     const zelfde_stand bewaard(on);
     const double size = on.text_size;
-    sheet(on, waar, 45);
+    on.filled_box(waar.links + 45, waar.boven + 45, waar.breedte, waar.hoogte, grijs); // its shadow
+    sheet(on, waar);
     int y = waar.boven + 50;
     if (soort != bladsoort::paneel) {
         on.text_size = size * 1.25;
@@ -64,7 +64,7 @@ void teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& 
     const int width = drawing::inner_width / 2, height = drawing::inner_height / 2;
     const vlak waar{(nummer - 1) % 2 * width + rand, (nummer - 1) / 2 * height + rand, width - 2 * rand,
                     height - 2 * rand};
-    sheet(on, waar, 0);
+    sheet(on, waar);
     const int step = std::min((waar.hoogte - 60) / static_cast<int>(regels.size()), text_height(on.text_size) * 3 / 2);
     int middle = waar.midden().y - step * (static_cast<int>(regels.size()) - 1) / 2;
     on.fore_colour = donkerrood;

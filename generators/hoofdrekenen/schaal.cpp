@@ -19,12 +19,12 @@ void teken_wiel(drawing& on, int x, int grond, int straal) {
 }
 
 void teken_vrachtauto(drawing& on, int links, int grond, int breedte) {
-    const int wiel = breedte / 22, vloer = grond - wiel, hoogte = breedte / 4;
+    const int wiel = breedte / 22, vloer = grond - 2 * wiel, hoogte = breedte / 5;
+    on.filled_box(links, vloer, breedte, wiel, grijs);
     on.filled_box(links, vloer - hoogte, breedte * 76 / 100, hoogte, donkerblauw);
-    const int cabine = links + breedte * 79 / 100, rechts = links + breedte;
-    on.filled_box(links, vloer - wiel, breedte, wiel, grijs);
-    on.filled_box(cabine, vloer - hoogte * 4 / 5, rechts - cabine, hoogte * 4 / 5, rood);
-    on.filled_box(rechts - breedte / 9, vloer - hoogte * 7 / 10, breedte / 9, hoogte / 4, lichtcyaan);
+    const int cabine = breedte * 21 / 100, hoog = hoogte * 3 / 4, rechts = links + breedte;
+    on.filled_box(rechts - cabine, vloer - hoog, cabine, hoog, rood);
+    on.filled_box(rechts - cabine / 2, vloer - hoog * 7 / 8, cabine / 2, hoog / 3, lichtcyaan);
     for (const int deel : {12, 22, 66, 90}) teken_wiel(on, links + breedte * deel / 100, grond, wiel);
 }
 

@@ -113,6 +113,19 @@ bool holds(const ink& outer, const ink& inner, double slack = 0) {
     return inner.within(outer.left - slack, outer.top - slack, outer.right - outer.left + 2 * slack,
                         outer.bottom - outer.top + 2 * slack);
 }
+// Whether two edges of a shape cross, as they do when a corner has slipped.
+bool knotted(const std::vector<point>& around) {
+    const auto side = [](point a, point b, point c) {
+        const long long turn = 1LL * (b.x - a.x) * (c.y - a.y) - 1LL * (b.y - a.y) * (c.x - a.x);
+        return (turn > 0) - (turn < 0);
+    };
+    for (std::size_t i = 1; i < around.size(); ++i)
+        for (std::size_t j = 1; j < i; ++j) {
+            const point a = around[i - 1], b = around[i], c = around[j - 1], d = around[j];
+            if (side(a, b, c) * side(a, b, d) < 0 && side(c, d, a) * side(c, d, b) < 0) return true;
+        }
+    return false;
+}
 double distance(const ink& a, const ink& b) {
     return std::max({b.left - a.right, a.left - b.right, b.top - a.bottom, a.top - b.bottom});
 }
@@ -123,22 +136,30 @@ std::optional<std::string> out_of_place(const drawing& drawn) {
     constexpr int width = drawing::inner_width, height = drawing::inner_height;
     std::vector<ink> all, boxes;
     bool file = false;
-    for (const drawing_op& operation : drawn.operations()) {
-        file |= std::holds_alternative<picture_op>(operation);
-        const auto found = extent(operation, drawn.ground);
+    for (auto at = drawn.operations().begin(); at != drawn.operations().end(); ++at) {
+        file |= std::holds_alternative<picture_op>(*at);
+        const auto found = extent(*at, drawn.ground);
         if (!found) continue;
         if (!found->within(0, 0, width + 1, height + 1)) return "a shape or \"" + found->word + "\" leaves the picture";
         all.push_back(*found);
-        if (std::holds_alternative<box_op>(operation)) boxes.push_back(*found);
-    }
-    for (const ink& text : all) {
-        if (text.word.empty()) continue;
-        if (!text.within(30, 10, width - 60, height - 30)) return "\"" + text.word + "\" at the edge";
-        const auto beside = [&](const ink& other) {
-            const bool behind = holds(other, text) && other.right - other.left > 1600; // a panel
-            return distance(other, text) < 400 && !behind && &other != &text;
+        if (std::holds_alternative<box_op>(*at)) boxes.push_back(*found);
+        const std::vector<point> path = path_of(*at, drawn.ground);
+        const auto hides = [&path](const drawing_op& later) {
+            return std::ranges::all_of(path, [&](point p) { return covers(later, p.x, p.y); });
         };
-        if (!file && all.size() > 1 && std::ranges::none_of(all, beside)) return "\"" + text.word + "\" stands alone";
+        if (std::holds_alternative<polygon_op>(*at) && knotted(path)) return "a knotted shape";
+        if (!path.empty() && std::any_of(at + 1, drawn.operations().end(), hides)) return "a shape that nobody sees";
+    }
+    for (const ink& one : all) {
+        if (!one.word.empty() && !one.within(30, 10, width - 60, height - 30))
+            return "\"" + one.word + "\" at the edge";
+        const auto beside = [&](const ink& other) {
+            const bool behind = holds(other, one) && other.right - other.left > 1600; // a panel
+            const bool itself = holds(other, one) && holds(one, other);               // or its edge
+            return distance(other, one) < std::max(365.0, 1.85 * (one.bottom - one.top)) && !behind && !itself;
+        };
+        if (!file && all.size() > 1 && std::ranges::none_of(all, beside))
+            return "\"" + one.word + "\" or a shape stands alone";
     }
     for (const ink& one : boxes) {
         const auto half_over = [&](const ink& other) {

@@ -164,7 +164,7 @@ const layout layouts[] = {
      [](drawing& on) {
          teken_blad(on, {100, 30, 5'180, 2'020}, bladsoort::paneel, "", {9, "(a + b)"});
      }},
-    {"four advertisements", 12, 12, 5'356, 2'106, 20, 8.25,
+    {"four advertisements", 12, 12, 5'356, 2'106, 16, 8.25,
      [](drawing& on) {
          for (const int number : {1, 2, 3, 4})
              teken_advertentie(on, number, {"Te huur:", "op brandstof van 123 eurocent per liter."});

@@ -49,8 +49,14 @@ double drawn(const reading& n) {
     const std::size_t before = n.exercise.blocks.size();
     const std::vector<box_op> laid = n.exercise.when_explained().blocks;
     EXPECT_NEAR(laid.at(before - 1).y, n.exercise.texts.back().y + 100, 60) << "beside its words";
-    EXPECT_NEAR(laid.at(before).x + laid.back().x + laid.back().width, drawing::inner_width, 1) << "in the middle";
-    return (laid.back().x + laid.back().width - laid.at(before).x) / 567.0;
+    std::set<int> at;
+    for (const box_op& part : n.exercise.blocks)
+        if (part.pen.colour != blauw) at.insert({part.x, part.x + part.width}); // of the water
+    at.erase(laid.at(before - 1).x), at.erase(laid.at(before - 1).x + 567);
+    for (const polygon_op& part : all<polygon_op>(n))
+        for (const auto& [x, y] : part.corners) at.insert(x);
+    EXPECT_EQ(std::pair(*at.begin(), *at.rbegin()), std::pair(laid.at(before).x, laid.back().x + laid.back().width));
+    return (*at.rbegin() - *at.begin()) / 567.0;
 }
 const formula scale = B * 100 / C;
 formula one_to(double times) { return says("1 : #", scale * times); }
