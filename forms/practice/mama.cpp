@@ -138,6 +138,7 @@ void mama::presentatielijst_click() {
     const auto selected = static_cast<std::size_t>(presentatielijst.selected);
     if (selected >= presentatielijst.items.size()) return;
 
+    forms_.get<scoreblad>().unload(); // it would lie over the new picture
     toon_opgave(true);
     uitleg_bericht.colour = donkerblauw;
     uitleg_bericht.caption = "UITLEG/BERICHT";
