@@ -187,11 +187,8 @@ QWidget* form_page::widget(const control* shown) const {
 void form_page::lay_out(placed_control& placed) {
     const control& shown = placed.shown;
     const auto corner = [this](int x, int y) { return (corner_ + QPointF(x, y) * unit_).toPoint(); };
-    constexpr int picture_edge = 15; // lies around the picture
-    const int around = shown.kind == control_kind::picture_box ? picture_edge : 0;
-    placed.widget->setGeometry(
-        QRect(corner(shown.left - around, shown.top - around),
-              corner(shown.left + shown.width + around, shown.top + shown.height + around) - QPoint(1, 1)));
+    placed.widget->setGeometry(QRect(corner(shown.left, shown.top),
+                                     corner(shown.left + shown.width, shown.top + shown.height) - QPoint(1, 1)));
     if (auto* list = dynamic_cast<list_widget*>(placed.widget)) list->lay_out();
 }
 

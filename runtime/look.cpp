@@ -461,10 +461,10 @@ void painter::paint_row(const list_box& list, int row, bool hovered) {
     if (mark == list_box::item_mark::later) add_disc(made_, centre, 58, inverted ? paper : soft);
 }
 
-// The edge comes last: where it is thinner than a pixel, it lies on the picture's.
+// The edge lies on the picture, which ends where the cards under it end.
 void painter::paint_picture(const picture_box& shown) {
     made_.emplace_back(scene_drawing{box_, &shown, true});
-    if (shown.role == theme_role::picture) box(box_.inset(-hairline), 0, none, edge);
+    if (shown.role == theme_role::picture) box(box_, 0, none, edge);
 }
 
 // ---- buttons ----
@@ -551,9 +551,9 @@ void painter::paint_answer(const button& shown) {
         }
     }
     box(box_, panel_corner, card.fill, card.edge, card.thick);
-    ring(panel_corner);
     box(letter_box, letter_corner, mark.fill, mark.edge, mark.thick);
     text(letter_box, shown.caption, {wide ? 14.0 : 12.5, true, mark.text}, align::middle);
+    ring(panel_corner);
     if (shown.enabled || (shown.result != answer_result::tried && shown.result != answer_result::right)) return;
 
     const bool right = shown.result == answer_result::right;
