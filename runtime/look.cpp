@@ -270,10 +270,10 @@ double painter::grown(double own_points, Fits fits) const {
     return own_points;
 }
 
-// Of the control's text: as large as all controls of its name have room for; options are all alike.
+// Of the control's text: as large as all controls of its name and role have room for; options are all alike.
 double painter::points(bool bold, int room) const {
     const auto alike = [this](const control& each) {
-        return each.name == shown_.name ||
+        return (each.name == shown_.name && each.role == shown_.role) ||
                (each.kind == control_kind::option_button && shown_.kind == control_kind::option_button);
     };
     return grown(shown_.font_size, [&](double tried) {
@@ -564,23 +564,35 @@ void painter::paint_answer(const button& shown) {
 }
 
 // An entry of a menu: a tile with its mark, at the left of a wide card and at the top of another; a small line, and
-// under it its name.
+// under it its name. Larger text gets some of the tile's room.
 void painter::paint_menu_card(const button& shown) {
     const subject_colours& own = colours_of(shown.about);
     const bool wide = box_.width > 2 * box_.height;
-    const place tile = wide ? place{0, 0, box_.height, box_.height}
-                            : place{0, 0, box_.width, box_.height > 900 ? 690 : box_.height * 45 / 100};
+    const int tile_width = with_.larger_text ? box_.height * 3 / 4 : box_.height;
+    const int tile_height = box_.height <= 900 ? box_.height * 45 / 100 : with_.larger_text ? 600 : 690;
+    const place tile = wide ? place{0, 0, tile_width, box_.height} : place{0, 0, box_.width, tile_height};
     const rgb24 tile_fill = active() ? blend(own.tint, own.mid, now_.pressed ? 40 : 20) : own.tint;
     box(box_, menu_corner, now_.pressed ? blend(own.tint, own.mid, 20) : now_.hovered ? own.tint : paper);
     box(tile, menu_corner, tile_fill, none, 0, wide ? round_corners::left : round_corners::top);
     box(box_, menu_corner, none, active() ? own.dark : edge, active() ? hovered_edge : hairline);
-    add_mark(made_, shown.mark, tile, wide ? 1080 : 1020, wide ? 960 : tile.height - 150);
+    add_mark(made_, shown.mark, tile, wide ? tile.width * 9 / 13 : 1020, wide ? 960 : tile.height - 150);
     ring(menu_corner);
 
     const int left = wide ? tile.width + 195 : 150, width = box_.width - left - 90;
-    const type small{wide ? 9.75 : 8.25, true, own.dark, 12}, large{shown.font_size, true, ink};
-    const int pitch = static_cast<int>(std::lround(shown.font_size * (wide ? 24.3 : 21.2)));
-    const auto lines = lines_of(shown.headline.empty() ? shown.caption : shown.headline, large, width);
+    const auto lines_in = [width](const button& entry, const type& set) {
+        return lines_of(entry.headline.empty() ? entry.caption : entry.headline, set, width);
+    };
+    const double points = grown(shown.font_size, [&](double tried) {
+        const type set{tried, true};
+        return std::ranges::all_of(form_.controls(), [&](const control* each) {
+            return each->name != shown.name ||
+                   std::ranges::all_of(lines_in(static_cast<const button&>(*each), set),
+                                       [&](const std::string& line) { return width_in(line, set) <= width; });
+        });
+    });
+    const type small{(wide ? 9.75 : 8.25) * points / shown.font_size, true, own.dark, 12}, large{points, true, ink};
+    const int pitch = static_cast<int>(std::lround(points * (wide ? 24.3 : 21.2)));
+    const auto lines = lines_in(shown, large);
     const int above = shown.overline.empty() ? 0 : line_height(small) + (wide ? 45 : 0);
     const int height = above + static_cast<int>(lines.size() - 1) * pitch + line_height(large);
     int top = wide ? (box_.height - height) / 2 : tile.height + 50;
