@@ -186,15 +186,14 @@ QWidget* form_page::widget(const control* shown) const {
 
 void form_page::lay_out(placed_control& placed) {
     const control& shown = placed.shown;
-    const auto corner = [this](int x, int y) { return (corner_ + QPointF(x, y) * unit_).toPoint(); };
+    const auto corner = [this](int x, int y) { return (corner_ + QPointF(x, y) * unit()).toPoint(); };
     placed.widget->setGeometry(QRect(corner(shown.left, shown.top),
                                      corner(shown.left + shown.width, shown.top + shown.height) - QPoint(1, 1)));
     if (auto* list = dynamic_cast<list_widget*>(placed.widget)) list->lay_out();
 }
 
 void form_page::fit() {
-    unit_ = std::min(1.0 * width() / form_.width, 1.0 * height() / form_.height);
-    corner_ = QPointF(width() - form_.width * unit_, height() - form_.height * unit_) / 2;
+    corner_ = QPointF(width() - form_.width * unit(), height() - form_.height * unit()) / 2;
     if (behind_.bar_height > 0) corner_.setY(0); // a bar stays at the top
     for (placed_control& placed : placed_) lay_out(placed);
 }
@@ -204,20 +203,20 @@ void form_page::paintEvent(QPaintEvent*) {
     if (form_.overlay) return;
     QPainter on(this);
     QRegion seen(rect()); // without what panels cover
-    const int corners = static_cast<int>(std::ceil(look::largest_corner * unit_)) + 1;
+    const int corners = static_cast<int>(std::ceil(look::largest_corner * unit())) + 1;
     for (const placed_control& placed : placed_)
         if (placed.shown.visible &&
             (placed.shown.role == theme_role::panel || placed.shown.kind == control_kind::list_box))
             seen -= placed.widget->geometry().adjusted(corners, corners, -corners, -corners);
     for (const QRect& part : seen) on.fillRect(part, theme::colour(behind_.ground));
     if (behind_.bar_height > 0)
-        on.fillRect(0, 0, width(), static_cast<int>(std::lround(behind_.bar_height * unit_)),
+        on.fillRect(0, 0, width(), static_cast<int>(std::lround(behind_.bar_height * unit())),
                     theme::colour(behind_.bar));
 }
 
 void form_page::paint(QWidget& widget, const scene& face, const control& shown, picture_cache& pictures) const {
     QPainter on(&widget);
-    theme::paint(on, face, origin_of(shown, widget.pos()), unit_, pictures);
+    theme::paint(on, face, origin_of(shown, widget.pos()), unit(), pictures);
 }
 
 // ---- from the widgets to the handlers ----

@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -26,12 +27,13 @@ public:
     // The control of one of the page's widgets and the widget of one of the form's controls, or null.
     const control* control_of(const QWidget* widget) const;
     QWidget* widget(const control* shown) const;
-    double unit() const { return unit_; } // pixels per twip
-    QPoint place_of(point on_form) const { return (corner_ + QPointF(on_form.x, on_form.y) * unit_).toPoint(); }
+    // Pixels per twip.
+    double unit() const { return std::min(1.0 * width() / form_.width, 1.0 * height() / form_.height); }
+    QPoint place_of(point on_form) const { return (corner_ + QPointF(on_form.x, on_form.y) * unit()).toPoint(); }
     look_settings settings() const { return desktop_settings(); }
     // Where a control begins, to the fraction of a pixel, on a widget whose corner is here on the page.
     QPointF origin_of(const control& shown, QPoint corner) const {
-        return corner_ + QPointF(shown.left, shown.top) * unit_ - corner;
+        return corner_ + QPointF(shown.left, shown.top) * unit() - corner;
     }
     // Paints the face of a control on its widget.
     void paint(QWidget& widget, const scene& face, const control& shown, picture_cache& pictures) const;
@@ -62,7 +64,6 @@ private:
     event_runner run_;
     std::vector<placed_control> placed_;
     backdrop behind_{};
-    double unit_ = 1.0 / 15;
     QPointF corner_;             // the top-left corner of the form on the page
     QObject* pressed_ = nullptr; // what the pointer pressed last; only compared
     bool updating_ = false;
