@@ -353,10 +353,7 @@ void mama::terug_click() {
 }
 
 void mama::ga_terug() {
-    if (globalen_.booklets())
-        forms_.get<menucl>().show();
-    else
-        forms_.get<menusw>().show();
+    toon_menu(forms_);
     forms_.get<scoreblad>().unload(); // its numbers are those of the practice that ends here
     unload();
 }

@@ -38,6 +38,11 @@ colofon::colofon(outside& with, formulieren& forms, std::string form_name, std::
     klik.click = verder.click = [this] { klik_click(); };
 }
 
+void colofon::klik_click() {
+    toon_menu(forms_);
+    unload();
+}
+
 colofoncl::colofoncl(outside& with, formulieren& forms)
     : colofon(with, forms, "colofoncl", booklet_set,
               {"Twaalf boekjes vol sommen, van procenten tot cijferen.",
@@ -45,21 +50,11 @@ colofoncl::colofoncl(outside& with, formulieren& forms)
                "Gemaakt voor iedereen die beter wil leren rekenen.",
                "Klik op het scherm of druk op Enter om een boekje te kiezen."}) {}
 
-void colofoncl::klik_click() {
-    forms_.get<menucl>().show();
-    unload();
-}
-
 colofonsw::colofonsw(outside& with, formulieren& forms)
     : colofon(with, forms, "colofonsw", task_set,
               {"Twintig taken in twee delen, met vier keer herhaling.",
                "Sommen, uitleg en tekeningen: de makers van Cijferwerf.",
                "Gemaakt voor iedereen die beter wil leren rekenen.",
                "Klik op het scherm of druk op Enter om een taak te kiezen."}) {}
-
-void colofonsw::klik_click() {
-    forms_.get<menusw>().show();
-    unload();
-}
 
 } // namespace cijferwerf

@@ -15,7 +15,7 @@ public:
 
     void close_requested() override { forms_.vraag_of_stoppen(*this); }
 
-    virtual void klik_click() = 0;
+    void klik_click();
 
     frame klik; // the whole screen
     frame kaart, streep;
@@ -29,19 +29,18 @@ protected:
 
     void load() override { focus = &verder; }
 
+private:
     formulieren& forms_;
 };
 
 class colofoncl : public colofon {
 public:
     colofoncl(outside& with, formulieren& forms);
-    void klik_click() override;
 };
 
 class colofonsw : public colofon {
 public:
     colofonsw(outside& with, formulieren& forms);
-    void klik_click() override;
 };
 
 } // namespace cijferwerf

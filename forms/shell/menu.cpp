@@ -107,4 +107,11 @@ void menusw::load() {
     focus = &plaatje[1];
 }
 
+void toon_menu(formulieren& forms) {
+    if (forms.globalen.booklets())
+        forms.get<menucl>().show();
+    else
+        forms.get<menusw>().show();
+}
+
 } // namespace cijferwerf

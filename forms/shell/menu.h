@@ -62,4 +62,7 @@ protected:
     void load() override;
 };
 
+// Shows the menu of the course set that is chosen.
+void toon_menu(formulieren& forms);
+
 } // namespace cijferwerf
