@@ -672,6 +672,10 @@ scene heightened(scene shown, look_settings with) {
 
 } // namespace
 
+std::vector<std::string> bold_lines(std::string_view text, double points, int width) {
+    return lines_of(text, {points, true}, width);
+}
+
 scene face_of(const form& on, const control& shown, control_state now, look_settings with) {
     return heightened(painter(on, shown, now, with).paint(), with);
 }

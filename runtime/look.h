@@ -40,6 +40,9 @@ struct control_state {
     bool hovered = false, pressed = false, focused = false;
 };
 
+// A bold text in lines of at most this width in twips, at least one, broken between words and at carriage returns.
+std::vector<std::string> bold_lines(std::string_view text, double points, int width);
+
 // A control with its top-left corner at the origin; of a list the panel only.
 scene face_of(const form& on, const control& shown, control_state now = {}, look_settings with = {});
 

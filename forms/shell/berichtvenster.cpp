@@ -1,6 +1,7 @@
 #include "forms/shell/berichtvenster.h"
 
 #include "forms/marks.h"
+#include "runtime/look.h"
 
 #include <algorithm>
 
@@ -10,27 +11,6 @@ namespace {
 
 constexpr int band = 570, text_left = 300, text_top = 855, button_height = 510;
 constexpr double text_points = 15;
-
-// The text in lines of at most this width, broken at blanks; a carriage return breaks it too.
-std::string in_lines(std::string_view text, int width) {
-    std::string lines, line;
-    while (!text.empty()) {
-        const auto end = std::min(text.find_first_of(" \r\n"), text.size());
-        const std::string with_word =
-            line.empty() ? std::string(text.substr(0, end)) : line + ' ' + std::string(text.substr(0, end));
-        if (!line.empty() && bold_text_width(with_word, text_points) > width) {
-            lines += line + '\r';
-            line = text.substr(0, end);
-        } else
-            line = with_word;
-        if (end < text.size() && text[end] != ' ') {
-            lines += line + '\r';
-            line.clear();
-        }
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return lines + line;
-}
 
 } // namespace
 
@@ -63,9 +43,12 @@ berichtvenster::berichtvenster(outside& with, const std::function<void(box_answe
 
 void berichtvenster::leg_voor(const message_box& box) {
     caption = opschrift.caption = box.title;
-    tekst.caption = in_lines(box.text, tekst.width);
-    const auto lines = 1 + std::ranges::count(tekst.caption, '\r');
-    tekst.height = static_cast<int>(lines) * text_height(text_points);
+    std::string words = box.text;
+    std::ranges::replace(words, '\n', '\r'); // of a message of the system
+    const std::vector<std::string> lines = bold_lines(words, text_points, tekst.width);
+    tekst.caption = lines[0];
+    for (std::size_t i = 1; i < lines.size(); ++i) tekst.caption += '\r' + lines[i];
+    tekst.height = static_cast<int>(lines.size()) * text_height(text_points);
     const int buttons_top = tekst.top + std::max(tekst.height, 405) + 405;
     height = vlak.height = buttons_top + button_height + 285;
 
