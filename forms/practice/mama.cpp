@@ -96,7 +96,7 @@ void mama::load() {
     focus = &presentatielijst;
 }
 
-// With the titles of the list that is chosen, as far as there is an exercise for them; none is selected.
+// With the titles of the list that is chosen; none is selected.
 void mama::vul_lijst() {
     presentatielijst.items.clear();
     presentatielijst.selected = -1;
@@ -104,8 +104,7 @@ void mama::vul_lijst() {
     presentatielijst.description = kies_opgave.caption;
     lijst_ = zoek_lijst(globalen_.gekozen_pakket, globalen_.gekozen_onderdeel);
     if (lijst_ != nullptr)
-        for (int position = 0; const std::string_view title : titels(*lijst_, toeval))
-            if (zoek_generator(*lijst_, position++, title)) presentatielijst.items.emplace_back(title);
+        for (const std::string_view title : titels(*lijst_, toeval)) presentatielijst.items.emplace_back(title);
     presentatielijst.row_height = rij_hoogte(presentatielijst.items.size());
     merk_titels();
 }
