@@ -26,7 +26,6 @@ constexpr double share_of_screen = 0.9; // of a large one
 constexpr int small_screen = 1400;      // pixels wide; room for a title bar is left on it
 constexpr int title_bar = 36;
 constexpr double smallest_unit = 0.6 / 15; // pixels per twip
-constexpr double box_points = 10.5;
 
 std::chrono::milliseconds steady_now() {
     return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now().time_since_epoch());
@@ -306,7 +305,7 @@ void dress_application() {
     load_shipped_face();
     qApp->installEventFilter(new held_keys(qApp));
     install_accessibility();
-    QFont font = twip_font(box_points);
+    QFont font = face();
     font.setPixelSize(14);
     QApplication::setFont(font);
 }

@@ -2,11 +2,10 @@
 
 #include "desktop/shipped.h"
 #include "runtime/drawn.h"
-
-#include <QFontMetricsF>
-#include <QHash>
+#include "runtime/look.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace cijferwerf {
@@ -45,14 +44,9 @@ public:
           pixels_(on.device()->devicePixelRatioF()) {}
 
     void operator()(const text_op& op) {
-        on_.save();
-        on_.translate(place({op.x, op.y}));
-        on_.scale(unit_ * narrowing, unit_down_);
-        const QFont font = twip_font(op.size);
-        on_.setFont(font);
-        on_.setPen(QColor::fromRgb(text_colour_on(shown_, op.colour)));
-        on_.drawText(QPointF(0, QFontMetricsF(font).ascent()), QString::fromStdString(op.text));
-        on_.restore();
+        const int baseline = static_cast<int>(std::lround(look::ascent * op.size * 20));
+        paint_text(on_, {0, baseline, op.size, false, text_colour_on(shown_, op.colour), op.text}, place({op.x, op.y}),
+                   {unit_ * narrowing, unit_down_});
     }
 
     void operator()(const line_op& op) {
@@ -139,18 +133,33 @@ private:
 
 } // namespace
 
-// Each font is made once, and what it finds out about itself is then found out once too. They outlive the application.
-QFont twip_font(double points, bool bold) {
-    static auto& made = *new QHash<std::pair<int, bool>, QFont>;
-    const int size = std::max(1, static_cast<int>(std::lround(points * 20)));
-    if (const auto found = made.constFind({size, bold}); found != made.constEnd()) return *found;
-    QFont font(faces);
-    font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(size);
-    font.setBold(bold);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    font.setKerning(false); // lines are laid out by adding up widths
-    return *made.insert({size, bold}, font);
+const QFont& face(bool bold) {
+    static auto& made = *new std::array<QFont, 2>{QFont(faces), QFont(faces)}; // outlive the application
+    QFont& font = made[bold ? 1 : 0];
+    if (font.pixelSize() != face_size) {
+        font.setStyleHint(QFont::SansSerif);
+        font.setPixelSize(face_size);
+        font.setBold(bold);
+        font.setHintingPreference(QFont::PreferNoHinting);
+        font.setKerning(false); // lines are laid out by adding up widths
+    }
+    return font;
+}
+
+void paint_text(QPainter& on, const scene_text& text, QPointF origin, QSizeF twip) {
+    const double scale = text.points * 20 / face_size;
+    on.save();
+    on.translate(origin + QPointF(text.x * twip.width(), text.baseline * twip.height()));
+    on.scale(twip.width() * scale, twip.height() * scale);
+    on.setFont(face(text.bold));
+    if (text.spacing != 0) {
+        QFont spaced = face(text.bold);
+        spaced.setLetterSpacing(QFont::AbsoluteSpacing, text.spacing / scale);
+        on.setFont(spaced);
+    }
+    on.setPen(QColor::fromRgb(text.colour));
+    on.drawText(QPointF(0, 0), QString::fromStdString(text.text));
+    on.restore();
 }
 
 const QImage& picture_cache::scaled(const std::string& file, QSize size) {

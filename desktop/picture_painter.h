@@ -2,16 +2,21 @@
 // What is drawn is the drawing's; this only replays its operations.
 #pragma once
 
-#include "runtime/picture_box.h"
+#include "runtime/scene.h"
 
 #include <QImage>
 #include <QPainter>
 
 namespace cijferwerf {
 
-// The face in which everything is set. Its pixel size is in twips: paint with the painter scaled to twips, and the
-// text has the same proportions at every scale (Qt rounds the sizes of fonts to whole pixels).
-QFont twip_font(double points, bool bold = false);
+// The face in which everything is set, in one size for all texts: the painter is scaled for each. So a text has the
+// same proportions at every scale (Qt rounds the sizes of fonts to whole pixels), and what is costly about a font,
+// asking the machine how it is to be drawn, is done once.
+inline constexpr int face_size = 256; // pixels; at this size all widths are exact
+const QFont& face(bool bold = false);
+
+// Paints a line of text; a twip from the origin is so large in the painter's coordinates.
+void paint_text(QPainter& on, const scene_text& text, QPointF origin, QSizeF twip);
 
 // The picture file that was painted last, scaled to the size in which it was painted.
 class picture_cache {

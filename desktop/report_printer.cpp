@@ -1,8 +1,7 @@
 #include "desktop/report_printer.h"
 
-#include "desktop/picture_painter.h"
+#include "desktop/theme.h"
 
-#include <QFontMetricsF>
 #include <QLibrary>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -30,19 +29,6 @@ std::optional<std::string> refusal() {
 
 } // namespace
 
-void paint_report(QPainter& on, const report& printed) {
-    double top = 0;
-    for (const report_line& line : printed.lines) {
-        const QFont font = twip_font(line.size);
-        const QFontMetricsF metrics(font);
-        on.setFont(font);
-        for (const report_cell& cell : line.cells)
-            on.drawText(QPointF(cell.column * metrics.averageCharWidth(), top + metrics.ascent()),
-                        QString::fromStdString(cell.text));
-        top += metrics.lineSpacing();
-    }
-}
-
 print_result print_report(const report& printed, const QString& pdf_file) {
     using outcome = print_result::outcome;
     QPrinter printer(QPrinter::HighResolution);
@@ -64,8 +50,8 @@ print_result print_report(const report& printed, const QString& pdf_file) {
 
     QPainter on;
     if (!on.begin(&printer)) return {outcome::failed, "de printer kan niet worden geopend."};
-    on.scale(printer.logicalDpiX() / twips_per_inch, printer.logicalDpiY() / twips_per_inch);
-    paint_report(on, printed);
+    picture_cache none;
+    theme::paint(on, scene_of(printed), {}, printer.logicalDpiX() / twips_per_inch, none);
     if (!on.end() || printer.printerState() == QPrinter::Error) return {outcome::failed, "de printer meldt een fout."};
     if (const auto reason = pdf_file.isEmpty() ? refusal() : std::nullopt) return {outcome::failed, *reason};
     return {};

@@ -37,17 +37,7 @@ public:
             draw_half_rounded(inner, radius, box.rounded);
     }
 
-    void operator()(const scene_text& text) {
-        on_.save();
-        on_.translate(place_of(text.x, text.baseline));
-        on_.scale(unit_, unit_);
-        QFont font = twip_font(text.points, text.bold);
-        if (text.spacing != 0) font.setLetterSpacing(QFont::AbsoluteSpacing, text.spacing);
-        on_.setFont(font);
-        on_.setPen(colour(text.colour));
-        on_.drawText(QPointF(0, 0), QString::fromStdString(text.text));
-        on_.restore();
-    }
+    void operator()(const scene_text& text) { paint_text(on_, text, origin_, {unit_, unit_}); }
 
     void operator()(const scene_stroke& stroke) {
         on_.setPen(QPen(colour(stroke.colour), stroke.thick * unit_, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

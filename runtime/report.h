@@ -2,8 +2,7 @@
 // Paper, margins and the printer are left to the front end.
 #pragma once
 
-#include <string>
-#include <vector>
+#include "runtime/scene.h"
 
 namespace cijferwerf {
 
@@ -21,5 +20,8 @@ struct report {
     std::string title; // of the document, for the print queue
     std::vector<report_line> lines;
 };
+
+// The lines in black, one under the other.
+scene scene_of(const report& printed);
 
 } // namespace cijferwerf

@@ -35,10 +35,10 @@ TEST(picture_text, is_as_wide_in_the_face_as_it_is_laid_out) {
     for (const double points : {8.25, 12.0, 20.0})
         for (const char* text :
              {"            =", "Bereken: 5 % van 26.400 = ...", "€ 1,25 ½ ² é", "AVAToWe f. 'Yes' \"LT\""})
-            EXPECT_NEAR(QFontMetricsF(twip_font(points)).horizontalAdvance(QString::fromUtf8(text)),
+            EXPECT_NEAR(QFontMetricsF(face()).horizontalAdvance(QString::fromUtf8(text)) * points * 20 / face_size,
                         text_width(text, points, 1.0), 1.5)
-                << text << " in " << QFontInfo(twip_font(points)).family().toStdString();
-    EXPECT_NEAR(QFontMetricsF(twip_font(13, true)).horizontalAdvance("Dat is 1.250,50 euro!"),
+                << text << " in " << QFontInfo(face()).family().toStdString();
+    EXPECT_NEAR(QFontMetricsF(face(true)).horizontalAdvance("Dat is 1.250,50 euro!") * 260 / face_size,
                 bold_text_width("Dat is 1.250,50 euro!", 13), 1.5);
 }
 
