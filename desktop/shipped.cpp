@@ -13,8 +13,9 @@ namespace cijferwerf {
 
 QString shipped_file(const QString& name) {
     const QString folder = QCoreApplication::applicationDirPath();
-    const QString beside = folder + '/' + name;
-    return QFile::exists(beside) ? beside : folder + "/../share/cijferwerf/" + name;
+    for (const char* place : {"/", "/../share/cijferwerf/"})
+        if (const QString file = folder + place + name; QFile::exists(file)) return file;
+    return folder + "/../lib/cijferwerf/" + name;
 }
 
 QIcon program_icon() {
@@ -28,8 +29,8 @@ QIcon program_icon() {
 }
 
 void load_shipped_face() {
-    if (std::any_of(faces.begin(), faces.end(), [](const QString& face) { return QFontDatabase::hasFamily(face); }))
-        return;
+    const QStringList there = QFontDatabase::families();
+    if (std::any_of(faces.begin(), faces.end(), [&](const QString& face) { return there.contains(face); })) return;
     for (const char* file : {"LiberationSans-Regular.ttf", "LiberationSans-Bold.ttf"})
         QFontDatabase::addApplicationFont(shipped_file(file));
 }
