@@ -33,7 +33,7 @@ void make_exercises(benchmark::State& state) {
     std::size_t next = 0;
     for (auto _ : state) {
         maker.maak(static_cast<oefening_id>(next));
-        benchmark::DoNotOptimize(maker.antwoord_1.data());
+        benchmark::DoNotOptimize(maker.antwoord_1);
         next = (next + 1) % generators;
     }
     state.SetItemsProcessed(state.iterations());
@@ -61,13 +61,13 @@ BENCHMARK(present_exercises);
 // Eight arrays of seven lines of which half hold a sentence, four answers, and three texts on a picture.
 void reference_record_of_strings(benchmark::State& state) {
     struct record {
-        std::array<tekstregels, 8> texts;
+        std::array<std::array<std::string, 7>, 8> texts;
         std::array<std::string, 4> answers;
         std::vector<std::string> picture;
     } made;
     long long number = 0;
     for (auto _ : state) {
-        for (tekstregels& lines : made.texts) {
+        for (auto& lines : made.texts) {
             lines.fill(std::string(leeg));
             for (std::size_t i = 0; i < 3; ++i)
                 lines[i] = "Hoeveel is dat ongeveer als het er " + std::to_string(++number) + " zijn?";

@@ -11,12 +11,9 @@ namespace cijferwerf {
 void oefening::maak_leeg() {
     for (tekstregels* lines : {&vraagregels, &uitlegregels, &tipregels_1, &tipregels_2, &foutregels_2, &foutregels_3,
                                &foutregels_4, &uitlegopdrachten})
-        for (std::string& line : *lines) { // each keeps its room for the next exercise
-            line.resize(1);
-            line[0] = ' ';
-        }
-    for (int i = 1; i <= 4; ++i) antwoord(i).clear();
-    vergeet_plakregels();
+        lines->fill(leeg);
+    for (int i = 1; i <= 4; ++i) antwoord(i) = {};
+    klad_.begin();
     juiste_positie = 0;
     hulpmiddel = leeg;
     tijdlimiet = 0;
@@ -42,14 +39,11 @@ void oefening::toon_snelle_som(int ticks, std::string_view som) {
     druk(links, 300, som);
 }
 
-void oefening::opdracht(std::string_view line) {
+void oefening::opdracht(plakregel line) {
     if (line.empty() || line == leeg) return;
-    for (std::string& slot : uitlegopdrachten)
-        if (slot == leeg) {
-            slot = line;
-            return;
-        }
-    stop_run("an eighth drawing command: " + std::string(line));
+    const auto slot = std::ranges::find(uitlegopdrachten, leeg);
+    if (slot == uitlegopdrachten.end()) stop_run("an eighth drawing command: " + std::string(line));
+    *slot = line;
 }
 
 void oefening::druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som,
@@ -74,27 +68,37 @@ void oefening::druk_antwoord_over_stippen(int x, int y, kleur in, std::string_vi
     opdracht(druk_midden_opdracht(midden, y, in, punten, antwoord));
 }
 
-int oefening::trek_eronder(int lager, int hoger) {
-    if (lager + hoger < 3) stop_run("fewer than three different mistakes");
-    return trek_van(std::max(0, 3 - hoger), std::min(3, lager));
+std::array<std::size_t, 3> oefening::trek_drie(std::span<vergissing> andere) {
+    if (andere.size() < 3) stop_run("fewer than three different mistakes");
+    geschud(andere);
+    const auto lager = static_cast<int>(std::ranges::count(andere, true, &vergissing::lager));
+    const int hoger = static_cast<int>(andere.size()) - lager;
+    const auto eronder = static_cast<std::size_t>(trek_van(std::max(0, 3 - hoger), std::min(3, lager)));
+    std::array<std::size_t, 3> drie{};
+    std::size_t onder = 0, boven = eronder;
+    for (const auto& [plek, is_lager] : andere) {
+        std::size_t& volgende = is_lager ? onder : boven;
+        if (volgende < (is_lager ? eronder : drie.size())) drie[volgende++] = plek;
+    }
+    return geschud(drie);
 }
 
 void oefening::druk_delen(int x, int y, std::initializer_list<regeldeel> delen) {
     plaatje.print_at(x, y, plak_even(delen));
 }
 
-void oefening::volgende_fout(regeldeel text, std::initializer_list<std::string_view> feedback) {
+void oefening::volgende_fout(plakregel text, std::initializer_list<plakregel> feedback) {
     const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
-    antwoord(which) = std::string_view(plak_even({text}));
+    antwoord(which) = text;
     schrijf(foutregels(which), 0, feedback);
 }
 
-void oefening::zet_op_plaats(int plaats, regeldeel text, std::initializer_list<std::string_view> feedback) {
-    antwoord(plaats) = std::string_view(plak_even({text}));
+void oefening::zet_op_plaats(int plaats, plakregel text, std::initializer_list<plakregel> feedback) {
+    antwoord(plaats) = text;
     if (plaats != juiste_positie) schrijf(foutregels(getoond_antwoord(plaats, juiste_positie)), 0, feedback);
 }
 
-void oefening::fout_met(std::string_view text, const melding& feedback) {
+void oefening::fout_met(plakregel text, const melding& feedback) {
     const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
     antwoord(which) = text;
     schrijf_melding(foutregels(which), feedback);
@@ -102,11 +106,11 @@ void oefening::fout_met(std::string_view text, const melding& feedback) {
 
 void oefening::schrijf_melding(tekstregels& to, const melding& feedback) {
     for (std::size_t i = 0; i < feedback.size(); ++i)
-        if (const std::string_view line = feedback[i]; !line.empty()) to[i] = line;
+        if (!feedback[i].empty()) to[i] = feedback[i];
 }
 
-void oefening::schrijf(tekstregels& to, std::size_t first, std::initializer_list<std::string_view> lines) {
-    for (const std::string_view line : lines) to[first++] = line;
+void oefening::schrijf(tekstregels& to, std::size_t first, std::initializer_list<plakregel> lines) {
+    for (const plakregel& line : lines) to[first++] = line;
 }
 
 oefening::vier_keuzes oefening::verdeeld(std::span<const keuze<>> opties) {
@@ -159,12 +163,12 @@ void oefening::toon_kleurkeuze(point plaats, int regelhoogte, const std::array<k
 }
 
 void oefening::leg_vast(int plaats) {
-    const std::array<std::string, 4> written{antwoord_1, antwoord_2, antwoord_3, antwoord_4};
+    const std::array<plakregel, 4> written{antwoord_1, antwoord_2, antwoord_3, antwoord_4};
     for (int i = 1; i <= 4; ++i) antwoord(i) = written[static_cast<std::size_t>(getoond_antwoord(i, plaats) - 1)];
     juiste_positie = plaats;
 }
 
-std::string& oefening::antwoord(int which) {
+plakregel& oefening::antwoord(int which) {
     switch (which) {
     case 1: return antwoord_1;
     case 2: return antwoord_2;

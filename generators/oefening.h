@@ -22,9 +22,9 @@
 namespace cijferwerf {
 
 // Seven lines of text; a single blank is an empty line.
-using tekstregels = std::array<std::string, 7>;
+using tekstregels = std::array<plakregel, 7>;
 
-inline constexpr std::string_view leeg = " ";
+inline constexpr char leeg[] = " ";
 
 // Whether no two of these values are equal.
 template<class Value, std::size_t N>
@@ -40,9 +40,9 @@ public:
 
     tekstregels vraagregels, uitlegregels, tipregels_1, tipregels_2, foutregels_2, foutregels_3, foutregels_4,
         uitlegopdrachten;
-    std::string antwoord_1, antwoord_2, antwoord_3, antwoord_4;
+    plakregel antwoord_1, antwoord_2, antwoord_3, antwoord_4;
     int juiste_positie = 0; // 0: answer 1 is right and the four are shuffled; 1 to 4: shown in order, this one is right
-    std::string hulpmiddel; // "REKENMACHINE" or " "
+    plakregel hulpmiddel;   // "REKENMACHINE" or " "
     int tijdlimiet = 0;     // ticks; 0: no limit
     int variant = 0;        // counts the presentations; each generator wraps it to its own number of sub-variants
     picture_box plaatje;
@@ -134,26 +134,26 @@ protected:
     template<class... Lines>
     void vraag(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(vraagregels, 1, {std::string_view(lines)...});
+        schrijf(vraagregels, 1, {plakregel(lines)...});
     }
     template<class... Lines>
     void tip_1(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(tipregels_1, 0, {std::string_view(lines)...});
+        schrijf(tipregels_1, 0, {plakregel(lines)...});
     }
     template<class... Lines>
     void tip_2(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(tipregels_2, 0, {std::string_view(lines)...});
+        schrijf(tipregels_2, 0, {plakregel(lines)...});
     }
     template<class... Lines>
     void uitleg(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 6);
-        schrijf(uitlegregels, 0, {std::string_view(lines)...});
+        schrijf(uitlegregels, 0, {plakregel(lines)...});
     }
     // One more drawing command of the explanation, or several; an empty line is none. There are at most seven in all:
     // an eighth ends the run.
-    void opdracht(std::string_view line);
+    void opdracht(plakregel line);
     template<class... Lines>
     void opdrachten(const Lines&... lines) {
         static_assert(sizeof...(Lines) <= 7);
@@ -179,13 +179,13 @@ protected:
     // The right answer, where the four are shuffled.
     template<line_part Text>
     void goed(const Text& text) {
-        antwoord_1 = std::string_view(regel(text));
+        antwoord_1 = als_regel(text);
     }
     // The next wrong answer; three in all, a fourth ends the run.
     template<line_part Text, class... Lines>
     void fout(const Text& text, const Lines&... feedback) {
         static_assert(sizeof...(Lines) <= 6);
-        volgende_fout(text, {std::string_view(feedback)...});
+        volgende_fout(als_regel(text), {plakregel(feedback)...});
     }
 
     // For answers with fixed places: the place, 1 to 4, of the right one. Say this first.
@@ -195,7 +195,7 @@ protected:
     template<line_part Text, class... Lines>
     void op_plaats(int plaats, const Text& text, const Lines&... feedback) {
         static_assert(sizeof...(Lines) <= 6);
-        zet_op_plaats(plaats, text, {std::string_view(feedback)...});
+        zet_op_plaats(plaats, als_regel(text), {plakregel(feedback)...});
     }
     // Fixes the places of answers that were written with goed() and fout(): the right one stands at this place and
     // every button keeps the feedback of the answer that it shows.
@@ -211,14 +211,14 @@ protected:
     template<class Value, class Vorm, class List = std::initializer_list<keuze<Value>>>
     void drie_andere(const Value& juist, Vorm vorm, const List& vergissingen) {
         goed(vorm(juist));
-        for (const keuze<Value>* k : kies_drie(juist, vergissingen)) fout_met(regel(vorm(k->waarde)), k->melding);
+        for (const keuze<Value>* k : kies_drie(juist, vergissingen)) fout_met(als_regel(vorm(k->waarde)), k->melding);
     }
     // The same four as options, the right one first, for kleurkeuze() and vier_rekenaars().
     template<class Value, class Vorm, class List = std::initializer_list<keuze<Value>>>
     std::array<keuze<>, 4> vier_opties(const Value& juist, Vorm vorm, const List& vergissingen) {
         const auto [een, twee, drie] = kies_drie(juist, vergissingen);
-        const auto optie = [&vorm](const keuze<Value>* k) { return keuze<>{regel(vorm(k->waarde)), k->melding}; };
-        return {keuze<>{regel(vorm(juist))}, optie(een), optie(twee), optie(drie)};
+        const auto optie = [&vorm](const keuze<Value>* k) { return keuze<>{als_regel(vorm(k->waarde)), k->melding}; };
+        return {keuze<>{als_regel(vorm(juist))}, optie(een), optie(twee), optie(drie)};
     }
     // The right answer and three near it, some steps away; where it stands among the four in size is drawn evenly.
     // Nothing is 0 or less.
@@ -268,37 +268,48 @@ public:
     // one at A the buttons show 1 2 3 4, at B 2 1 4 3, at C 3 4 1 2, at D 4 3 2 1.
     static constexpr int getoond_antwoord(int button, int right) { return ((button - 1) ^ (right - 1)) + 1; }
 
-    std::string& antwoord(int which);   // 1 to 4
+    plakregel& antwoord(int which);     // 1 to 4
     tekstregels& foutregels(int which); // 2 to 4
 
 private:
     using vier_keuzes = std::array<const keuze<>*, 4>;
 
+    // A text or a number as a line of the record.
+    template<line_part Text>
+    static plakregel als_regel(const Text& text) {
+        if constexpr (whole_number<Text>)
+            return regel(text);
+        else
+            return text;
+    }
+
+    // A mistake that can be offered: its place in the list, and whether it lies below the right answer.
+    struct vergissing {
+        std::size_t plek;
+        bool lager;
+    };
     template<class Value, class List>
     std::array<const keuze<Value>*, 3> kies_drie(const Value& juist, const List& vergissingen) {
-        std::vector<const keuze<Value>*> andere;
-        andere.reserve(std::size(vergissingen));
-        for (const keuze<Value>& k : vergissingen) {
-            const bool komt_voor = std::any_of(andere.begin(), andere.end(),
-                                               [&k](const keuze<Value>* eerder) { return eerder->waarde == k.waarde; });
-            if (!komt_voor && k.waarde != juist && (k.waarde > Value{} || !(juist > Value{}))) andere.push_back(&k);
+        const keuze<Value>* const alle = std::data(vergissingen);
+        std::array<vergissing, 32> andere;
+        int aantal = 0;
+        for (std::size_t plek = 0; plek < std::size(vergissingen); ++plek) {
+            const Value& waarde = alle[plek].waarde;
+            const bool komt_voor = std::any_of(andere.begin(), andere.begin() + aantal, [&](const vergissing& eerder) {
+                return alle[eerder.plek].waarde == waarde;
+            });
+            if (!komt_voor && waarde != juist && (waarde > Value{} || !(juist > Value{})))
+                rij(andere, ++aantal) = {plek, waarde < juist};
         }
-        andere = geschud(std::move(andere));
-        std::vector<const keuze<Value>*> op_rij(andere.size()); // those below the right one, then those above
-        const auto is_lager = [&juist](const keuze<Value>* k) { return k->waarde < juist; };
-        const auto hoger = std::copy_if(andere.begin(), andere.end(), op_rij.begin(), is_lager);
-        std::remove_copy_if(andere.begin(), andere.end(), hoger, is_lager);
-        const auto lager = static_cast<int>(hoger - op_rij.begin());
-        const int eronder = trek_eronder(lager, static_cast<int>(andere.size()) - lager);
-        std::rotate(op_rij.begin() + eronder, hoger, op_rij.end());
-        return geschud(std::array{op_rij[0], op_rij[1], op_rij[2]});
+        const auto [een, twee, drie] = trek_drie({andere.data(), static_cast<std::size_t>(aantal)});
+        return {&alle[een], &alle[twee], &alle[drie]};
     }
-    // Draws how many of three mistakes lie below the right answer, when so many do and so many lie above it.
-    int trek_eronder(int lager, int hoger);
-    void volgende_fout(regeldeel text, std::initializer_list<std::string_view> feedback);
-    void zet_op_plaats(int plaats, regeldeel text, std::initializer_list<std::string_view> feedback);
+    // Draws how many of three lie below the right answer, and which they are; shuffles the list.
+    std::array<std::size_t, 3> trek_drie(std::span<vergissing> andere);
+    void volgende_fout(plakregel text, std::initializer_list<plakregel> feedback);
+    void zet_op_plaats(int plaats, plakregel text, std::initializer_list<plakregel> feedback);
     void druk_delen(int x, int y, std::initializer_list<regeldeel> delen);
-    void fout_met(std::string_view text, const melding& feedback);
+    void fout_met(plakregel text, const melding& feedback);
     void toon_snelle_som(int ticks, std::string_view som);
     void druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som, std::string_view antwoord);
     void druk_antwoord_over_stippen(int x, int y, kleur in, std::string_view stippen, std::string_view antwoord);
@@ -310,7 +321,9 @@ private:
     void toon_kleurkeuze(point plaats, int regelhoogte, const std::array<kleur, 4>& kleuren, const vier_keuzes& opties);
 
     static void schrijf_melding(tekstregels& to, const melding& feedback);
-    static void schrijf(tekstregels& to, std::size_t first, std::initializer_list<std::string_view> lines);
+    static void schrijf(tekstregels& to, std::size_t first, std::initializer_list<plakregel> lines);
+
+    kladblok klad_;
 };
 
 } // namespace cijferwerf

@@ -28,7 +28,7 @@ void oefeningen::maak(std::optional<oefening_id> generator) {
     ++variant;
     if (generator) (this->*soorten[static_cast<std::size_t>(*generator)].maak)();
     for (int i = 1; i <= 4; ++i)
-        if (!antwoord(i).starts_with(' ')) antwoord(i).insert(0, 1, ' ');
+        if (!std::string_view(antwoord(i)).starts_with(' ')) antwoord(i) = plak_even({leeg, antwoord(i)});
 }
 
 } // namespace cijferwerf

@@ -3,130 +3,26 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <memory>
-#include <vector>
 
 namespace cijferwerf {
 
 namespace {
 
-constexpr std::array<std::uint64_t, 10> powers_of_ten{1,       10,        100,        1'000,       10'000,
-                                                      100'000, 1'000'000, 10'000'000, 100'000'000, 1'000'000'000};
+constexpr auto powers_of_ten = [] {
+    std::array<std::uint64_t, 20> made{1};
+    for (std::size_t i = 1; i < made.size(); ++i) made[i] = made[i - 1] * 10;
+    return made;
+}();
 
 std::uint64_t magnitude(long long number) {
     const auto bits = static_cast<std::uint64_t>(number);
     return number < 0 ? 0 - bits : bits;
 }
 
-// The digits of a number, at least so many of them.
-std::string_view digits(std::uint64_t number, std::array<char, 32>& buffer, int at_least = 1) {
-    char* const end = buffer.data() + buffer.size();
-    char* begin = end;
-    for (int n = 0; n < at_least || number > 0; ++n, number /= 10) *--begin = static_cast<char>('0' + number % 10);
-    return {begin, static_cast<std::size_t>(end - begin)};
-}
+// Each of these writes from a place on and returns the end of what it wrote.
 
-number_text signed_blank(long long number) {
-    number_text text;
-    text.append(number < 0 ? "-" : " ");
-    return text;
-}
-
-void append_thousands(number_text& text, std::uint64_t number) {
-    std::array<char, 32> buffer{};
-    const std::string_view all = digits(number, buffer);
-    if (all.size() > 3) {
-        text.append(all.substr(0, all.size() - 3));
-        text.append(".");
-        text.append(all.substr(all.size() - 3));
-    } else
-        text.append(all);
-}
-
-void append_groups(number_text& text, std::uint64_t number) {
-    std::array<char, 32> buffer{};
-    std::string_view all = digits(number, buffer);
-    const std::size_t first = (all.size() - 1) % 3 + 1;
-    text.append(all.substr(0, first));
-    for (all.remove_prefix(first); !all.empty(); all.remove_prefix(3)) {
-        text.append(".");
-        text.append(all.substr(0, 3));
-    }
-}
-
-number_text decimal(long long scaled, int decimals, std::string_view separator, bool shortest, bool thousands) {
-    const std::uint64_t one = powers_of_ten.at(static_cast<std::size_t>(decimals));
-    std::uint64_t fraction = magnitude(scaled) % one;
-    while (shortest && decimals > 0 && fraction % 10 == 0) {
-        fraction /= 10;
-        --decimals;
-    }
-    std::array<char, 32> buffer{};
-    number_text text = signed_blank(scaled);
-    if (thousands)
-        append_thousands(text, magnitude(scaled) / one);
-    else
-        text.append(digits(magnitude(scaled) / one, buffer));
-    if (decimals > 0) {
-        text.append(separator);
-        text.append(digits(fraction, buffer, decimals));
-    }
-    return text;
-}
-
-} // namespace
-
-number_text tekst(long long number) {
-    std::array<char, 32> buffer{};
-    number_text text = signed_blank(number);
-    text.append(digits(magnitude(number), buffer));
-    return text;
-}
-
-number_text duizend(long long number) {
-    number_text text = signed_blank(number);
-    append_thousands(text, magnitude(number));
-    return text;
-}
-
-number_text komma(long long scaled, int decimals) { return decimal(scaled, decimals, ",", false, true); }
-number_text komma_kort(long long scaled, int decimals) { return decimal(scaled, decimals, ",", true, true); }
-number_text punt(long long scaled, int decimals) { return decimal(scaled, decimals, ".", true, false); }
-
-number_text groepen(long long number) {
-    number_text text = signed_blank(number);
-    append_groups(text, magnitude(number));
-    return text;
-}
-
-number_text euro(long long cents) {
-    number_text text;
-    text.append(cents < 0 ? " € -" : " € ");
-    append_groups(text, magnitude(cents) / 100);
-    text.append(",");
-    std::array<char, 32> buffer{};
-    const std::uint64_t rest = magnitude(cents) % 100;
-    text.append(rest == 0 ? "-" : digits(rest, buffer, 2));
-    return text;
-}
-
-long long afgerond(double value, int decimals) {
-    const double scaled = value * static_cast<double>(powers_of_ten.at(static_cast<std::size_t>(decimals)));
-    return std::abs(scaled) < 9e18 ? std::llround(scaled) : 0;
-}
-
-number_text kaal(const number_text& number) {
-    number_text text;
-    text.append(kaal(std::string_view(number)));
-    return text;
-}
-
-number_text kaal(long long number) { return kaal(tekst(number)); }
-
-namespace {
-
-// Copies a text and returns the end of the copy. The lengths come as they like, which the library's copying, made for
-// long ones, guesses wrong at every step: here pieces overlap instead.
+// The lengths come as they like, which the library's copying, made for long texts, guesses wrong at every step: here
+// pieces overlap instead.
 char* copied(std::string_view text, char* to) {
     const char* from = text.data();
     const std::size_t length = text.size();
@@ -149,28 +45,105 @@ char* copied(std::string_view text, char* to) {
     return end;
 }
 
+char* character(char c, char* to) {
+    *to = c;
+    return to + 1;
+}
+
+// The last so many digits of a number.
+char* last_digits(std::uint64_t number, int count, char* to) {
+    char* const end = to + count;
+    for (char* at = end; at != to; number /= 10) *--at = static_cast<char>('0' + number % 10);
+    return end;
+}
+
+char* digits(std::uint64_t number, char* to) {
+    int count = 1;
+    while (count < static_cast<int>(powers_of_ten.size()) && number >= powers_of_ten[static_cast<std::size_t>(count)])
+        ++count;
+    return last_digits(number, count, to);
+}
+
+// A "." before the last three of them.
+char* thousands(std::uint64_t number, char* to) {
+    if (number < 1000) return digits(number, to);
+    return last_digits(number % 1000, 3, character('.', digits(number / 1000, to)));
+}
+
+// A "." before every three of them.
+char* groups(std::uint64_t number, char* to) {
+    if (number < 1000) return digits(number, to);
+    return last_digits(number % 1000, 3, character('.', groups(number / 1000, to)));
+}
+
+// What stands in front of a number.
+char* sign(long long number, char* to) { return character(number < 0 ? '-' : ' ', to); }
+
+number_text decimal(long long scaled, int decimals, char separator, bool shortest,
+                    char* (*whole)(std::uint64_t, char*)) {
+    const std::uint64_t one = powers_of_ten.at(static_cast<std::size_t>(decimals));
+    std::uint64_t fraction = magnitude(scaled) % one;
+    while (shortest && decimals > 0 && fraction % 10 == 0) {
+        fraction /= 10;
+        --decimals;
+    }
+    return number_text([&](char* to) {
+        to = whole(magnitude(scaled) / one, sign(scaled, to));
+        return decimals == 0 ? to : last_digits(fraction, decimals, character(separator, to));
+    });
+}
+
 } // namespace
+
+number_text tekst(long long number) {
+    return number_text([=](char* to) { return digits(magnitude(number), sign(number, to)); });
+}
+
+number_text duizend(long long number) {
+    return number_text([=](char* to) { return thousands(magnitude(number), sign(number, to)); });
+}
+
+number_text komma(long long scaled, int decimals) { return decimal(scaled, decimals, ',', false, thousands); }
+number_text komma_kort(long long scaled, int decimals) { return decimal(scaled, decimals, ',', true, thousands); }
+number_text punt(long long scaled, int decimals) { return decimal(scaled, decimals, '.', true, digits); }
+
+number_text groepen(long long number) {
+    return number_text([=](char* to) { return groups(magnitude(number), sign(number, to)); });
+}
+
+number_text euro(long long cents) {
+    return number_text([=](char* to) {
+        to = groups(magnitude(cents) / 100, copied(cents < 0 ? " € -" : " € ", to));
+        const std::uint64_t rest = magnitude(cents) % 100;
+        to = character(',', to);
+        return rest == 0 ? character('-', to) : last_digits(rest, 2, to);
+    });
+}
+
+long long afgerond(double value, int decimals) {
+    const double scaled = value * static_cast<double>(powers_of_ten.at(static_cast<std::size_t>(decimals)));
+    return std::abs(scaled) < 9e18 ? std::llround(scaled) : 0;
+}
+
+number_text kaal(const number_text& number) {
+    return number_text([&](char* to) { return copied(kaal(std::string_view(number)), to); });
+}
+
+number_text kaal(long long number) {
+    return number_text([=](char* to) { return digits(magnitude(number), number < 0 ? character('-', to) : to); });
+}
 
 char* regeldeel::schrijf(const char* begin, char* end) const {
     const bool after_blank = end != begin && end[-1] == ' ';
-    if (maat_ == geheel) {
-        if (geheel_ < 0)
-            *end++ = '-';
-        else if (!after_blank)
-            *end++ = ' ';
-        std::array<char, 32> buffer;
-        const std::string_view all = digits(magnitude(geheel_), buffer);
-        return copied(all, end);
-    }
+    if (maat_ == geheel) return digits(magnitude(geheel_), geheel_ >= 0 && after_blank ? end : sign(geheel_, end));
     std::string_view text = tekst();
     if ((maat_ & getal) != 0 && after_blank && text.starts_with(' ')) text.remove_prefix(1);
     return copied(text, end);
 }
 
 char* regeldeel::schrijf_kaal(char* end) const {
-    const number_text number = maat_ == geheel ? cijferwerf::tekst(geheel_) : number_text();
-    const std::string_view text = kaal(maat_ == geheel ? std::string_view(number) : tekst());
-    return copied(text, end);
+    if (maat_ == geheel) return digits(magnitude(geheel_), geheel_ < 0 ? sign(geheel_, end) : end);
+    return copied(kaal(tekst()), end);
 }
 
 namespace {
@@ -188,39 +161,54 @@ char* schrijf(std::initializer_list<regeldeel> delen, char* const begin) {
     return end;
 }
 
-// Where the lines of one exercise stand: one piece of memory that serves each anew, and more pieces once it is full.
-class scratch_pad {
-public:
-    // Where the next line is to be written.
-    char* room(std::size_t characters) {
-        if (left_ < characters) {
-            left_ = std::max(characters, first_.size());
-            next_ = more_.emplace_back(std::make_unique<char[]>(left_)).get();
-        }
-        return next_;
-    }
-    // The line that was written there, up to this end.
-    plakregel written(char* end) {
-        const std::string_view line(next_, static_cast<std::size_t>(end - next_));
-        left_ -= line.size();
-        next_ = end;
-        return plakregel(line);
-    }
-    void clear() {
-        more_.clear();
-        next_ = first_.data();
-        left_ = first_.size();
-    }
+// Where lines are glued now; without an exercise under way it is a place of the thread's own.
+constinit thread_local kladblok* onder_handen = nullptr;
 
-private:
-    std::array<char, 16'384> first_;
-    std::vector<std::unique_ptr<char[]>> more_;
-    char* next_ = first_.data();
-    std::size_t left_ = first_.size();
-};
-thread_local scratch_pad this_exercise;
+kladblok& nu() {
+    if (onder_handen != nullptr) return *onder_handen;
+    thread_local kladblok los;
+    return los;
+}
 
 } // namespace
+
+kladblok::~kladblok() {
+    if (onder_handen == this) onder_handen = nullptr;
+}
+
+void kladblok::begin() {
+    onder_handen = this;
+    meer_.clear();
+    vul(eerste_.data(), eerste_.size());
+}
+
+void kladblok::ruimte(std::size_t characters) {
+    if (rest_ >= characters) return;
+    const std::size_t size = std::max(characters, eerste_.size());
+    vul(meer_.emplace_back(std::make_unique<char[]>(size)).get(), size);
+}
+
+plakregel kladblok::tot(char* end) {
+    const plakregel line(vrij_, end);
+    rest_ -= static_cast<std::size_t>(end - vrij_);
+    vrij_ = end;
+    return line;
+}
+
+plakregel kladblok::plak(std::initializer_list<regeldeel> delen) {
+    ruimte(room_for(delen));
+    return tot(schrijf(delen, vrij_));
+}
+
+plakregel kladblok::plak_velden(std::initializer_list<regeldeel> delen) {
+    ruimte(room_for(delen));
+    char* end = vrij_;
+    for (const regeldeel& deel : delen) {
+        if (end != vrij_) *end++ = '_';
+        end = deel.schrijf_kaal(end);
+    }
+    return tot(end);
+}
 
 std::string plak(std::initializer_list<regeldeel> delen) {
     std::string line(room_for(delen), ' ');
@@ -228,21 +216,8 @@ std::string plak(std::initializer_list<regeldeel> delen) {
     return line;
 }
 
-plakregel plak_even(std::initializer_list<regeldeel> delen) {
-    return this_exercise.written(schrijf(delen, this_exercise.room(room_for(delen))));
-}
-
-plakregel plak_velden(std::initializer_list<regeldeel> delen) {
-    char* const begin = this_exercise.room(room_for(delen));
-    char* end = begin;
-    for (const regeldeel& deel : delen) {
-        if (end != begin) *end++ = '_';
-        end = deel.schrijf_kaal(end);
-    }
-    return this_exercise.written(end);
-}
-
-void vergeet_plakregels() { this_exercise.clear(); }
+plakregel plak_even(std::initializer_list<regeldeel> delen) { return nu().plak(delen); }
+plakregel plak_velden(std::initializer_list<regeldeel> delen) { return nu().plak_velden(delen); }
 
 double lees_getal(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));

@@ -6,8 +6,10 @@
 #include <concepts>
 #include <cstdint>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace cijferwerf {
 
@@ -15,13 +17,11 @@ namespace cijferwerf {
 class number_text {
 public:
     constexpr number_text() = default;
+    // What a function writes from a place on, whose end it returns.
+    template<std::invocable<char*> Write>
+    explicit number_text(Write write)
+        : length_(static_cast<std::uint8_t>(write(characters_.data()) - characters_.data())) {}
     constexpr operator std::string_view() const { return {characters_.data(), length_}; }
-
-    // Characters past the 31st are dropped.
-    constexpr void append(std::string_view text) {
-        for (const char c : text)
-            if (length_ < characters_.size()) characters_[length_++] = c;
-    }
 
 private:
     std::array<char, 31> characters_{};
@@ -112,24 +112,68 @@ private:
     std::size_t maat_;
 };
 
-// A line glued for the exercise under way. It is only looked at, costs nothing to hand on, and is gone when the next
-// exercise is begun: what lives longer keeps a std::string, into which it turns by itself.
+// A line of the exercise under way: one that stands in the program as it is, or one that is glued for this exercise. It
+// is only looked at, costs nothing to hand on, and is gone when the next exercise is begun: what lives longer keeps a
+// std::string, into which it turns by itself.
 class plakregel {
 public:
-    explicit constexpr plakregel(std::string_view text) : text_(text) {}
+    constexpr plakregel() = default;
     constexpr plakregel(const char* literal) : text_(literal) {}
+    // Of every other text a copy is glued, as no one knows how long it lives.
+    template<std::convertible_to<std::string_view> Text>
+    plakregel(const Text& text);
     constexpr operator std::string_view() const { return text_; }
     operator std::string() const { return std::string(text_); }
-    friend bool operator==(const plakregel& one, std::string_view other) { return one.text_ == other; }
+    constexpr bool empty() const { return text_.empty(); }
+
+    friend constexpr bool operator==(const plakregel& one, const plakregel& other) { return one.text_ == other.text_; }
+    template<std::convertible_to<std::string_view> Text>
+    friend constexpr bool operator==(const plakregel& one, const Text& other) {
+        return one.text_ == std::string_view(other);
+    }
 
 private:
+    friend class kladblok;
+    constexpr plakregel(const char* begin, const char* end) : text_(begin, end) {}
+
     std::string_view text_;
+};
+
+// The memory in which the lines of one exercise are glued: the next exercise is written over it.
+class kladblok {
+public:
+    kladblok() { vul(eerste_.data(), eerste_.size()); }
+    ~kladblok();
+    kladblok(const kladblok&) = delete;
+    kladblok& operator=(const kladblok&) = delete;
+
+    // Forgets every line in it. From now on lines are glued here.
+    void begin();
+
+    plakregel plak(std::initializer_list<regeldeel> delen);
+    plakregel plak_velden(std::initializer_list<regeldeel> delen);
+
+private:
+    void vul(char* memory, std::size_t size) {
+        vrij_ = memory;
+        rest_ = size;
+    }
+    // Room for so many characters at least, at vrij_.
+    void ruimte(std::size_t characters);
+    plakregel tot(char* end);
+
+    std::array<char, 16'384> eerste_;
+    std::vector<std::unique_ptr<char[]>> meer_; // once that is full
+    char* vrij_;
+    std::size_t rest_;
 };
 
 std::string plak(std::initializer_list<regeldeel> delen);
 plakregel plak_even(std::initializer_list<regeldeel> delen);
 plakregel plak_velden(std::initializer_list<regeldeel> delen);
-void vergeet_plakregels(); // an exercise is begun
+
+template<std::convertible_to<std::string_view> Text>
+plakregel::plakregel(const Text& text) : plakregel(plak_even({std::string_view(text)})) {}
 
 // Glues a line from its parts in the order in which they are read. A number, whole or in one of the forms above, has
 // its blank in front unless the line so far ends in one; texts go in as they stand.

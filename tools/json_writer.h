@@ -41,7 +41,6 @@ private:
 };
 
 void put(output& out, std::string_view text);
-inline void put(output& out, const std::string& text) { put(out, std::string_view(text)); }
 inline void put(output& out, bool value) { out << (value ? "true" : "false"); }
 
 template<class Number>

@@ -126,8 +126,8 @@ void teken_opdracht(drawing& on, std::string_view opdracht) {
     if (keyword == "PARTJES") partjes(on, fields);
 }
 
-void teken_opdrachten(drawing& on, std::span<const std::string> opdrachten) {
-    for (const std::string& opdracht : opdrachten) {
+void teken_opdrachten(drawing& on, std::span<const plakregel> opdrachten) {
+    for (const std::string_view opdracht : opdrachten) {
         if (opdracht == " ") return;
         teken_opdracht(on, opdracht);
     }

@@ -24,6 +24,6 @@ namespace cijferwerf {
 void teken_opdracht(drawing& on, std::string_view opdracht);
 
 // Draws the commands in order, up to the first that is a single blank.
-void teken_opdrachten(drawing& on, std::span<const std::string> opdrachten);
+void teken_opdrachten(drawing& on, std::span<const plakregel> opdrachten);
 
 } // namespace cijferwerf

@@ -46,7 +46,7 @@ int rij_hoogte(std::size_t titels) { return std::min(420, 6690 / std::max(1, sta
 double vraag_punten(const tekstregels& regels) {
     return grootste(vraag_stappen, [&](double punten) {
         return std::ranges::all_of(
-            regels, [&](const std::string& line) { return text_width(line, punten, 1.0) <= vraag_breedte; });
+            regels, [&](std::string_view line) { return text_width(line, punten, 1.0) <= vraag_breedte; });
     });
 }
 

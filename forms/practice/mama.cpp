@@ -45,7 +45,7 @@ int balk_links(int limiet) { return balk_midden - limiet * balk_per_tik / 2; }
 template<class Lines>
 std::string in_een_zin(const Lines& lines) {
     std::string said;
-    for (const std::string& line : lines)
+    for (const std::string_view line : lines)
         if (const std::string_view words = kaal(line); !words.empty())
             said.append(said.empty() ? "" : " ").append(words);
     return said;

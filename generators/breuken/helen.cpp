@@ -147,7 +147,8 @@ void oefeningen::M_aanvullen_1_03_14_click() {
     const breuk som = getal.maal(fijner / getal.noemer);
     const auto met_noemer = [&](breuk b) {
         const breuk gelijknamig = b.maal(fijner / b.noemer);
-        return b.noemer == fijner ? streepbreuk(b) : regel(streepbreuk(b), " (= ", streepbreuk(gelijknamig), ")");
+        return b.noemer == fijner ? plakregel(streepbreuk(b))
+                                  : regel(streepbreuk(b), " (= ", streepbreuk(gelijknamig), ")");
     };
     uitleg(regel("Schrijf voor het getal", helen, " de breuk ", streepbreuk({helen * fijner, fijner}),
                  ". Tel daar die ", met_noemer(links)),

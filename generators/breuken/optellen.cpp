@@ -88,14 +88,14 @@ void oefeningen::L_prijzen_03_03_click() {
           "Als de noemers gelijk zijn, tel je alleen de tellers op."}});
     leg_vast(trek(4) + 1);
 
-    const std::string slot = regel("Over is dus 1 - ", kortste(samen), " = ", kortste(prijzen.over()), " deel.");
+    const plakregel slot = regel("Over is dus 1 - ", kortste(samen), " = ", kortste(prijzen.over()), " deel.");
     uitleg(regel("In de som staan twee breuken, namelijk ", streepbreuk(eerste), " en ", streepbreuk(tweede), "."),
            gelijknamig ? "Deze hoeven niet gelijknamig gemaakt te worden."
                        : "Deze moeten eerst gelijknamig gemaakt worden.",
            regel("Opgeteld: ", streepbreuk(eerste.maal(samen.noemer / eerste.noemer)), "  + ",
                  streepbreuk(tweede.maal(samen.noemer / tweede.noemer)), "  = ", streepbreuk(samen), "."),
            samen.vereenvoudigbaar() ? regel("Vereenvoudigd is dat ", kortste(samen), ".") : slot,
-           samen.vereenvoudigbaar() ? slot : std::string(leeg));
+           samen.vereenvoudigbaar() ? slot : leeg);
 }
 
 void oefeningen::L_optellen_03_14_click() {

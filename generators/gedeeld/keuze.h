@@ -5,29 +5,12 @@
 #include "runtime/number_text.h"
 
 #include <array>
-#include <string>
-#include <string_view>
 
 namespace cijferwerf {
 
-// A line that stands in the program as it is, or one that was glued for the exercise under way.
-class zin {
-public:
-    constexpr zin() = default;
-    constexpr zin(const char* literal) : text_(literal) {}
-    // The text must outlive the line, as the texts in a generator's tables do.
-    constexpr zin(std::string_view vast) : text_(vast) {}
-    constexpr zin(plakregel geplakt) : text_(geplakt) {}
-    zin(const std::string& text) : zin(plak_even({text})) {}
-    constexpr operator std::string_view() const { return text_; }
+using melding = std::array<plakregel, 6>; // lines; an empty one is not shown
 
-private:
-    std::string_view text_;
-};
-
-using melding = std::array<zin, 6>; // lines; an empty one is not shown
-
-template<class Waarde = zin>
+template<class Waarde = plakregel>
 struct keuze {
     Waarde waarde;
     cijferwerf::melding melding{};

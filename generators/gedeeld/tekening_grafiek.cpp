@@ -97,7 +97,6 @@ void assen::lijnen_langs() {
 
 void assen::getallen_links(std::string_view achter, int om) {
     omhoog_.getallen = getallen_langs(langs_y_, om == 0 ? langs_y_.stap : om, achter);
-    vertel();
     const verteld_als stil(on_);
     for (int waarde = langs_y_.van; waarde <= langs_y_.tot; waarde += om == 0 ? langs_y_.stap : om)
         on_.print_right(plot_.links - room, y(waarde) - halve_regel(on_.text_size),
@@ -106,7 +105,6 @@ void assen::getallen_links(std::string_view achter, int om) {
 
 void assen::getallen_onder(int om) {
     opzij_.getallen = getallen_langs(langs_x_, om == 0 ? langs_x_.stap : om, "");
-    vertel();
     const verteld_als stil(on_);
     for (int waarde = langs_x_.van; waarde <= langs_x_.tot; waarde += om == 0 ? langs_x_.stap : om)
         on_.print_centred(x(waarde), plot_.onder() + room / 2, kaal(duizend(waarde / langs_x_.een)));
@@ -114,7 +112,6 @@ void assen::getallen_onder(int om) {
 
 void assen::namen_onder(const std::vector<std::string>& namen) {
     namen_ = namen;
-    vertel();
     const verteld_als stil(on_);
     int links = langs_x_.van;
     for (const std::string& naam : namen) {
@@ -125,7 +122,6 @@ void assen::namen_onder(const std::vector<std::string>& namen) {
 
 void assen::naam_boven(std::string_view naam) {
     omhoog_.naam = naam;
-    vertel();
     const verteld_als stil(on_);
     // Clear of the uppermost number, half of which rises above the plot.
     const int left = std::max(plot_.links - text_width(naam, on_.text_size) / 2, 60);
@@ -134,7 +130,6 @@ void assen::naam_boven(std::string_view naam) {
 
 void assen::naam_rechts(std::string_view naam) {
     opzij_.naam = naam;
-    vertel();
     const verteld_als stil(on_);
     on_.print_at(plot_.rechts() + 2 * room, plot_.onder() - halve_regel(on_.text_size), naam);
 }
@@ -142,7 +137,6 @@ void assen::naam_rechts(std::string_view naam) {
 void assen::lijn(const std::vector<point>& waarden, kleur met, bool stippen) {
     constexpr int dot = 32;
     lijnen_.push_back({met, waarden});
-    vertel();
     const zelfde_stand bewaard(on_, 2);
     for (std::size_t i = 1; i < waarden.size(); ++i)
         on_.line(x(waarden[i - 1].x), y(waarden[i - 1].y), x(waarden[i].x), y(waarden[i].y), met);
@@ -152,7 +146,6 @@ void assen::lijn(const std::vector<point>& waarden, kleur met, bool stippen) {
 
 vlak assen::kolom(int van, int tot, int waarde, kleur met) {
     kolommen_.push_back({met, waarde});
-    vertel();
     const vlak staat{x(van), y(waarde), x(tot) - x(van), plot_.onder() - y(waarde)};
     const zelfde_stand bewaard(on_);
     on_.filled_box(staat.links, staat.boven, staat.breedte, staat.hoogte, met);

@@ -19,6 +19,10 @@ class assen {
 public:
     // Draws a white plot with its axes. Gridlines and labels come when they are asked for, before lines and columns.
     assen(drawing& on, const vlak& plot, asschaal langs_x, asschaal langs_y);
+    // Tells what the graph shows, once all of it is known.
+    ~assen() { vertel(); }
+    assen(const assen&) = delete;
+    assen& operator=(const assen&) = delete;
 
     // The place of a value, also of one outside the plot.
     int x(int waarde) const;
@@ -44,7 +48,6 @@ public:
     vlak kolom(int van, int tot, int waarde, kleur met);
 
 private:
-    // What is known of the graph so far, as its sentence.
     void vertel();
     std::string hoogte(int waarde) const;
 

@@ -62,6 +62,7 @@ std::vector<std::string> telwoord_in_groepen(int getal, spelling schrijfwijze) {
 }
 
 std::string telwoord(int getal, spelling schrijfwijze) {
+    if (getal > 0 && getal < 1'000) return groep(getal, schrijfwijze);
     std::string tekst;
     for (const std::string& groep : telwoord_in_groepen(getal, schrijfwijze)) {
         if (!tekst.empty()) tekst += ' ';

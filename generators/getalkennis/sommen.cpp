@@ -181,7 +181,7 @@ void oefeningen::L_schoolbord_11_06_click() {
         10 * juist, [](int duizendsten) { return komma_kort(duizendsten, 3); }, vergissingen);
     tip_1("Maak eerst honderdsten van dat kommagetal en", "deel vervolgens door de noemer van de breuk.");
     tip_2(regel("Reken verder met", duizend(getal), " honderdsten: deel door", deel.noemer),
-          deel.teller == 1 ? std::string("en maak van de uitkomst weer een kommagetal.")
+          deel.teller == 1 ? "en maak van de uitkomst weer een kommagetal."
                            : regel("en vermenigvuldig dan met", deel.teller, "."));
 
     uitleg("Het gegeven getal kun je lezen als", regel(kaal(duizend(getal)), " honderdste. Deel dit aantal eerst"),
@@ -189,7 +189,7 @@ void oefeningen::L_schoolbord_11_06_click() {
            deel.teller == 1 ? regel("Dat is", een_deel, " honderdste, dus het antwoord is ", antwoord, ".")
                             : regel("Vermenigvuldig daarna met", deel.teller, ":", een_deel, " x", deel.teller, " =",
                                     duizend(juist), "."),
-           deel.teller == 1 ? std::string(leeg)
+           deel.teller == 1 ? leeg
                             : regel("Dat is", duizend(juist), " honderdste, dus het antwoord is ", antwoord, "."));
     opdracht(druk_opdracht(antwoord_x, boven, rood, punten, antwoord));
 }

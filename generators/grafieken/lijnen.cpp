@@ -267,7 +267,7 @@ void oefeningen::M_dollars_04_18_click() {
 
     const auto bedrag = [](int cent) { return regel("€", komma(cent, 2)); };
     const int juist = dollars * verschil;
-    const zin afgelezen = "Je hebt een van de twee koersen niet goed afgelezen.";
+    const plakregel afgelezen = "Je hebt een van de twee koersen niet goed afgelezen.";
     drie_andere(
         juist, bedrag,
         {{dollars * hoogste, "Dit is de waarde bij de hoogste koers. Je moet het",

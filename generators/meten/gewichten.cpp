@@ -44,7 +44,7 @@ void oefeningen::L_gewichten_08_17_click() {
         if (gezet != stappen)
             vergissingen.push_back(
                 {getal.verschoven(naar_kleiner ? gezet : -gezet),
-                 {gezet == 0 ? std::string("Je hebt het getal niet omgerekend.")
+                 {gezet == 0 ? "Je hebt het getal niet omgerekend."
                              : regel("Je hebt", gezet, gezet == 1 ? " stap" : " stappen", " gezet, dus",
                                      bewerking(gezet), "."),
                   regel("Van ", van.teken, " naar ", naar.teken, stappen == 1 ? " is het" : " zijn het", stappen,
@@ -119,7 +119,7 @@ void oefeningen::M_worst_08_17_click() {
     vraag("Op een weegschaal wordt een", "stuk worst afgewogen.", leeg, "Hoeveel gram weegt die worst", "ongeveer?");
 
     const auto gram = [](int aantal) { return regel(duizend(aantal), " gram"); };
-    const zin kijk_eerst = "Kijk eerst hoeveel gram elk streepje is.";
+    const plakregel kijk_eerst = "Kijk eerst hoeveel gram elk streepje is.";
     drie_andere(
         juist, gram,
         {{(streepje + 1) * per_streepje, {"Je bent bij 1 begonnen met tellen.", "(de schaal begint met een nul!)"}},

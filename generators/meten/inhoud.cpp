@@ -253,9 +253,9 @@ void oefeningen::L_watertank_07_17_click() {
     for (int andere = std::min(-3, macht - 1); andere <= std::max(3, macht + 1); ++andere) {
         if (andere == macht) continue;
         const bool verkeerde_kant = andere * macht < 0;
-        const std::string gedaan = andere == 0 ? std::string("Je hebt het getal gelijk gelaten.")
-                                               : regel("Je hebt", andere > 0 ? " vermenigvuldigd met" : " gedeeld door",
-                                                       duizend(tien_tot_de(std::abs(andere))), ".");
+        const plakregel gedaan = andere == 0 ? "Je hebt het getal gelijk gelaten."
+                                             : regel("Je hebt", andere > 0 ? " vermenigvuldigd met" : " gedeeld door",
+                                                     duizend(tien_tot_de(std::abs(andere))), ".");
         if (verkeerde_kant)
             vergissingen.push_back({kommagetal{liters}.verschoven(andere),
                                     {"Denk nog eens goed na over hoe je", "liters moet omrekenen.", gedaan}});

@@ -235,7 +235,7 @@ void oefeningen::B_grasveld_01_08_click() {
            regel("Je kunt ook zeggen: ", procent_gemaaid, " / 100 van het gras is"),
            regel("gemaaid = ", procent_gemaaid, " %."),
            gemaaid_gevraagd
-               ? std::string(leeg)
+               ? leeg
                : regel("Er moet dus nog 100 % -", procent_gemaaid, " % =", procent_rest, " % gemaaid worden."));
 }
 

@@ -75,7 +75,7 @@ TEST(explanation, of_any_line_can_be_drawn) {
 
 TEST(explanation, what_one_command_sets_stays_in_force_for_the_next_up_to_a_single_blank) {
     drawing board;
-    const std::array<std::string, 7> opdrachten{
+    const std::array<plakregel, 7> opdrachten{
         "PRINT_0_0_12_14_", "LINE_0_0_5_5_1_X_2", "PARTJES_0_0_1_", "", "TELLERSNOEMERS_1_1_1", " ", "PRINT_0_0_1_8_a"};
     teken_opdrachten(board, opdrachten);
     EXPECT_EQ(as_texts(board)[1], "line 0,0 to 770,0 colour 14 width 3 style 2");

@@ -18,7 +18,7 @@ drawing explained(const oefening& made) {
 
 std::string joined(const tekstregels& lines) {
     std::string all;
-    for (const std::string& line : lines)
+    for (const std::string line : lines)
         if (line != leeg) all += line + ' ';
     return all;
 }
@@ -27,7 +27,7 @@ seen::seen(const oefening& exercise)
     : made(exercise),
       question(joined(exercise.vraagregels)),
       explanation(joined(exercise.uitlegregels)) {
-    for (const std::string& line : made.uitlegregels)
+    for (const plakregel& line : made.uitlegregels)
         if (line != leeg) last = line;
     look_at(made.plaatje);
     right = answer(right_place());

@@ -47,7 +47,7 @@ struct seen {
     int right_place() const { return std::max(made.juiste_positie, 1); }
     std::string answer(int which) const { return answers()[static_cast<std::size_t>(which - 1)]; }
     std::array<std::string, 4> answers() const {
-        std::array all{made.antwoord_1, made.antwoord_2, made.antwoord_3, made.antwoord_4};
+        std::array<std::string, 4> all{made.antwoord_1, made.antwoord_2, made.antwoord_3, made.antwoord_4};
         for (std::string& each : all) each.erase(0, 1);
         return all;
     }

@@ -81,7 +81,7 @@ TEST(mistakes, three_that_differ_are_drawn_with_their_own_feedback_and_no_rank_g
             EXPECT_EQ(made.antwoord_1, std::string(tekst(right)));
             for (int i = 2; i <= 4; ++i) {
                 came.insert(whole(made.antwoord(i)));
-                EXPECT_EQ(made.foutregels(i)[0] + made.foutregels(i)[1], "fout" + made.antwoord(i) + "tweede");
+                EXPECT_EQ(joined(made.foutregels(i)), regel("fout", made.antwoord(i), " tweede "));
             }
             second.insert(whole(made.antwoord_2));
         }

@@ -131,8 +131,8 @@ TEST_P(every_exercise, has_four_answers_of_different_value) {
         different += texts.size() == 4;
         const bool all_told_apart = allowed(equal_answers_meant, texts.size() == 4) &&
                                     (texts.size() < 4 || allowed(simplest_form_asked, values.size() == 4));
-        EXPECT_TRUE(all_told_apart) << made.antwoord_1 << " |" << made.antwoord_2 << " |" << made.antwoord_3 << " |"
-                                    << made.antwoord_4;
+        EXPECT_TRUE(all_told_apart) << regel(made.antwoord_1, " |", made.antwoord_2, " |", made.antwoord_3, " |",
+                                             made.antwoord_4);
     });
     EXPECT_GE(different, rounds / 2);
 }
@@ -146,7 +146,7 @@ TEST_P(every_exercise, uses_each_sub_variant_each_place_and_many_different_numbe
         ++places[made.juiste_positie];
         std::string all;
         for (const std::string& text : as_texts(made.plaatje)) all += text;
-        for (const std::string& text : made.vraagregels) all += text;
+        for (const std::string_view text : made.vraagregels) all += text;
         for (const std::string& text : answers(made)) all += text;
         different.insert(all);
         EXPECT_GE(made.juiste_positie, 0);
@@ -294,12 +294,12 @@ TEST_P(every_exercise, reads_its_picture_aloud_without_giving_away_the_answer) {
 TEST_P(every_exercise, fits_the_screen) {
     each([&](const oefening& made) {
         const double size = vraag_punten(made.vraagregels);
-        for (const std::string& line : made.vraagregels) EXPECT_LE(text_width(line, size, 1.0), vraag_breedte) << line;
+        for (std::string_view line : made.vraagregels) EXPECT_LE(text_width(line, size, 1.0), vraag_breedte) << line;
         const antwoordindeling layout = leg_antwoorden(answers(made), made.hulpmiddel == "REKENMACHINE");
         for (const std::string& answer : answers(made)) EXPECT_TRUE(layout.past(answer)) << answer;
         for (const tekstregels* lines : {&made.uitlegregels, &made.tipregels_1, &made.tipregels_2, &made.foutregels_2,
                                          &made.foutregels_3, &made.foutregels_4}) {
-            for (const std::string& line : *lines)
+            for (const std::string_view line : *lines)
                 EXPECT_LE(text_width(line, bericht_punten, 1.0), bericht_breedte) << line;
             EXPECT_EQ(lines->back(), leeg) << "a seventh line is never shown";
         }
@@ -540,7 +540,7 @@ std::string command_fault(const std::string& command) {
 TEST_P(every_exercise, gives_drawing_commands_that_draw_what_they_say) {
     each([&](const oefening& made) {
         bool ended = false;
-        for (const std::string& command : made.uitlegopdrachten) {
+        for (const std::string command : made.uitlegopdrachten) {
             if (command == leeg) {
                 ended = true;
                 continue;
