@@ -1,5 +1,6 @@
-// Events on a form that has a control of every kind: one at a time, in the right order, each where it belongs.
+// Events on a form with real widgets: one at a time, in the right order, each where it belongs.
 #include "tests/desktop/screen.h"
+#include "tests/support/try_out.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -8,60 +9,11 @@
 namespace cijferwerf {
 namespace {
 
-class try_out : public form {
-public:
-    explicit try_out(outside& with, std::string form_name = "try_out") : form(with, std::move(form_name)) {
-        using enum theme_role;
-        add(grond, "grond", {100, 100, 9000, 7000}, panel);
-        add(tekst, "tekst", {200, 200, 3000, 400}, body, "  één\rtwee & drie");
-        add(klik, "klik", {200, 700, 3000, 400}, choice, "klik hier");
-        add(knop, "knop", {200, 1200, 3000, 400}, action, "R & B");
-        add(lijst, "lijst", {200, 2000, 3000, 3000}, list);
-        add(links, "links", {4000, 200, 2000, 1000}, choice, "links");
-        add(rechts, "rechts", {4000, 1400, 2000, 1000}, choice, "rechts");
-        add(uitgang, "uitgang", {6500, 200, 2000, 1000}, action, "uitgang");
-        add(plaatje, "plaatje", {4000, 3000, drawing::inner_width, drawing::inner_height}, picture);
-        add(klok, "klok", 20);
-        lijst.items = {"eerste", "tweede", "derde"};
-        knop.mnemonic = 'b';
-        knop.keys = "K\r";
-        klik.click = [this] { log += "klik "; };
-        klik.hover = [this] { ++hovers; };
-        knop.click = [this] {
-            log += "knop ";
-            if (on_knop) on_knop();
-        };
-        lijst.click = [this] { log += "lijst" + std::to_string(lijst.selected) + " "; };
-        lijst.keypress = [this](int key) { log += "toets" + std::to_string(key) + " "; };
-        uitgang.click = [this] { log += "uitgang "; };
-        links.click = [this] { log += rechts.selected ? "beide " : "links "; };
-        klok.tick = [this] {
-            log += busy ? "TIK-BINNENIN " : "tik ";
-            if (--ticks_left == 0) klok.stop();
-        };
-    }
-    void close_requested() override { log += "sluiten "; }
-    outside& with() { return buiten; }
-
-    frame grond;
-    label tekst, klik;
-    button knop, uitgang;
-    list_box lijst;
-    option_button links, rechts;
-    picture_box plaatje;
-    timer klok;
-
-    std::function<void()> on_knop;
-    std::string log;
-    int hovers = 0;
-    bool busy = false;
-    int ticks_left = 3;
-};
-
 class events : public testing::Test {
 protected:
     events() {
         outside.run([this] { screen.show(); });
+        EXPECT_EQ(screen.happened(), "laden ");
         EXPECT_TRUE(QTest::qWaitForWindowActive(outside.page(screen)->window()));
     }
     template<class Widget = QWidget>
@@ -76,16 +28,13 @@ protected:
 
 TEST_F(events, a_message_box_lets_nothing_through_but_its_answer) {
     screen.on_knop = [this] {
-        screen.with().ask(screen, {"even wachten", "", box_buttons::yes_no},
-                          [this](box_answer given) { screen.log += given == box_answer::no ? "nee " : "ja "; });
+        screen.ask_it({"even wachten", "", box_buttons::yes_no},
+                      [this](box_answer given) { screen.log += given == box_answer::no ? "nee " : "ja "; });
     };
-    const struct {
-        Qt::Key key;
-        Qt::KeyboardModifiers with;
-        const char* follows;
-    } rows[]{{Qt::Key_Escape, {}, "nee "}, {Qt::Key_Return, {}, "nee "},        {Qt::Key_N, {}, "nee "},
-             {Qt::Key_J, {}, "ja "},       {Qt::Key_J, Qt::AltModifier, "ja "}, {Qt::Key_Space, {}, "nee "}};
-    for (const auto& row : rows) {
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, const char*> rows[]{
+        {Qt::Key_Escape, {}, "nee "}, {Qt::Key_Return, {}, "nee "},        {Qt::Key_N, {}, "nee "},
+        {Qt::Key_J, {}, "ja "},       {Qt::Key_J, Qt::AltModifier, "ja "}, {Qt::Key_Space, {}, "nee "}};
+    for (const auto& [key, with, follows] : rows) {
         screen.log.clear();
         screen.ticks_left = 2;
         outside.run([this] { screen.klok.start(); });
@@ -103,10 +52,10 @@ TEST_F(events, a_message_box_lets_nothing_through_but_its_answer) {
             EXPECT_TRUE(outside.box_page()->isAncestorOf(page->focusWidget()));
             type(outside, screen, Qt::Key_Tab);
         }
-        type(outside, screen, row.key, row.with);
+        type(outside, screen, key, with);
         EXPECT_EQ(outside.box_page(), nullptr);
-        const std::string expected = std::string("knop ") + row.follows + "tik tik ";
-        EXPECT_TRUE(QTest::qWaitFor([&] { return screen.log == expected; })) << row.key << ": " << screen.log;
+        const std::string expected = std::string("knop ") + follows + "tik tik ";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return screen.log == expected; })) << key << ": " << screen.log;
         EXPECT_EQ(page->focusWidget(), &widget("knop"));
     }
 }
@@ -131,8 +80,9 @@ TEST_F(events, keys_and_clicks_go_to_the_form_with_what_has_the_focus) {
     EXPECT_EQ(order, "knop lijst links rechts ");
 
     screen.log = "";
+    screen.links.click = [this] { screen.log += screen.rechts.selected ? "beide " : "links "; };
     for (const char* name : {"rechts", "links", "links"}) click(widget(name));
-    EXPECT_EQ(screen.log, "links links ");
+    EXPECT_EQ(screen.log, "rechts links links ");
     EXPECT_TRUE(widget<QRadioButton>("links").isChecked() && !widget<QRadioButton>("rechts").isChecked());
     EXPECT_EQ(focused(), "links");
 
@@ -170,7 +120,7 @@ TEST_F(events, a_key_that_is_held_presses_once) {
     hold(Qt::Key_Down, {});
     EXPECT_EQ(screen.lijst.selected, 2) << "what moves goes on";
 
-    screen.on_knop = [this] { screen.with().ask(screen, {"even wachten"}, {}); };
+    screen.on_knop = [this] { screen.ask_it({"even wachten"}, {}); };
     widget("knop").setFocus();
     hold(Qt::Key_Return, {});
     EXPECT_NE(outside.box_page(), nullptr) << "a finger closed the box that it opened";
@@ -199,7 +149,7 @@ TEST_F(events, a_form_covers_another_or_stands_beside_it_and_scales_with_it) {
     outside.run([&] { above.show(); });
     EXPECT_TRUE(outside.page(above)->isVisible() && !outside.page(screen)->isVisible());
     outside.page(above)->window()->close();
-    EXPECT_EQ(above.log + screen.log, "sluiten ");
+    EXPECT_EQ(above.log + screen.log, "laden sluiten ");
     outside.run([&] { above.unload(); });
     EXPECT_EQ(outside.page(above), nullptr);
 
@@ -217,7 +167,7 @@ TEST_F(events, a_form_covers_another_or_stands_beside_it_and_scales_with_it) {
     click(widget("knop"));
     EXPECT_EQ(screen.log, "knop ") << "the main window stays usable";
     beside.close();
-    EXPECT_EQ(side.log, "sluiten ");
+    EXPECT_EQ(side.log, "laden sluiten ");
     EXPECT_TRUE(beside.isVisible()) << "whether it closes is the form's to say";
     outside.run([&] { side.unload(); });
 
