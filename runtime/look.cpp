@@ -397,9 +397,10 @@ void painter::paint_frame(const frame& shown) {
         box({0, 0, box_.width, shown.header_height}, panel_corner, colours_.dark, none, 0, round_corners::top);
         return box(box_, panel_corner, none, form_.overlay ? ink : edge, form_.overlay ? box_edge : hairline);
     }
-    if (shown.role == theme_role::lesson) return box(box_, panel_corner, colours_.tint);
+    const fill_colour strong = with_.high_contrast ? fill_colour(edge) : none; // of what its tint alone sets apart
+    if (shown.role == theme_role::lesson) return box(box_, panel_corner, colours_.tint, strong);
     if (!shown.caption.empty()) {
-        box(box_, panel_corner, group, with_.high_contrast ? fill_colour(edge) : none);
+        box(box_, panel_corner, group, strong);
         return text({180, 60, box_.width - 360, 285}, shown.caption, {std::max(shown.font_size, 11.25), true, accent});
     }
     const control* under_display = nullptr; // the last panel before it
