@@ -16,7 +16,7 @@ using fill_colour = std::optional<rgb24>;
 constexpr std::nullopt_t none = std::nullopt;
 
 constexpr int hairline = 15, hovered_edge = 30, chosen_edge = 45, box_edge = 22, focus_edge = 42,
-              strong_focus_edge = 63, focus_gap = 24;
+              strong_focus_edge = 51, focus_gap = 24, focus_room = 75; // above and under a larger text, together
 constexpr int panel_corner = 120, button_corner = 105, menu_corner = 150, start_corner = 180, letter_corner = 90,
               key_corner = 75, row_corner = 75;
 constexpr int button_padding = 105;
@@ -281,7 +281,8 @@ double painter::points(bool bold, int room) const {
         return std::ranges::all_of(form_.controls(), [&](const control* each) {
             if (!alike(*each)) return true;
             const auto lines = lines_of(each->caption, set, 0);
-            return static_cast<int>(lines.size()) * text_height(tried) <= each->height &&
+            const int height = each->height - (each->is_button() ? focus_room : 0);
+            return static_cast<int>(lines.size()) * text_height(tried) <= height &&
                    std::ranges::all_of(lines, [&](const std::string& line) { return width_in(line, set) <= room; });
         });
     });
@@ -335,8 +336,8 @@ void painter::paint_label(const label& shown) {
         return text(words, shown.caption, {points(true, box_.width - beside), true, colour_of(shown.tone, ink)});
     }
     case lesson_title: return text(box_, shown.caption, set(true, ink), at);
-    case lesson_word: return text(box_, shown.caption, set(true, colours_.dark), at);
-    case lesson_value: return text(box_, shown.caption, set(true, ink), align::middle);
+    case lesson_word: return text(box_, shown.caption, set(true, colours_.dark, 30), at);
+    case lesson_value: return text(box_, shown.caption, set(true, ink, 60), align::middle);
     default: {
         const auto* names = static_cast<const label*>(shown.caption_of);
         const bool whole = names != nullptr && names->subdued; // the value of which others are a part
