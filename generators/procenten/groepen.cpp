@@ -69,7 +69,7 @@ void oefeningen::L_voetbal_01_08_click() {
     }
 
     uitleg(regel(kaal(procent_thuis), " % van alle mensen is supporter van ", thuis, ", dus"),
-           regel("100 % - ", procent_thuis, "% =", procent_bezoekers, " % is supporter van ", bezoekers, "."),
+           regel("100 % -", procent_thuis, " % =", procent_bezoekers, " % is supporter van ", bezoekers, "."),
            regel("Nu is 1 % van alle toeschouwers gelijk aan", een_procent, ","),
            regel("zodat", procent_bezoekers, " % hetzelfde is als", procent_bezoekers, " x", een_procent, " = ongeveer",
                  duizend(supporters), " supporters."));
