@@ -650,16 +650,16 @@ void painter::paint_start_card(const option_button& shown) {
 
 // ---- high contrast ----
 
-// Edges in ink and twice as thick, light grounds white, grey texts in ink.
+// Edges in ink, thin ones twice as thick (but of what is off), light grounds white, grey texts in ink.
 void heighten(scene& shown) {
     for (scene_op& op : shown) {
         if (auto* box = std::get_if<scene_box>(&op)) {
             if (box->fill && contrast(*box->fill, paper) < 1.6) box->fill = paper;
             const bool ring = box->thick == strong_focus_edge || box->thick == focus_gap;
             if (box->edge && !ring) {
+                if (*box->edge != off_edge && box->thick < chosen_edge) box->thick += hairline;
                 if (*box->edge != green && *box->edge != red && *box->edge != accent && *box->edge != paper)
                     box->edge = ink;
-                box->thick += hairline;
             }
         }
         if (auto* text = std::get_if<scene_text>(&op))
