@@ -85,12 +85,13 @@ private:
     desktop& of_;
 };
 
-// Over a page while a message box is open: darkens it and keeps pointer and keyboard from it. Where the box lies in
-// another window, that one gets the keys again when the pupil points at this one.
+// Over a page while a message box is open: darkens it and keeps pointer and keyboard from it; closing its window closes
+// the box. Where the box lies in another window, that one gets the keys again when the pupil points at this one.
 class desktop::shade : public QWidget {
 public:
     shade(form_page& over, const desktop& of) : QWidget(&over), of_(of), had_focus_(over.focusWidget()) {
         over.installEventFilter(this);
+        over.window()->installEventFilter(this);
         setGeometry(over.rect());
         show();
         setFocus();
@@ -110,11 +111,17 @@ public:
 
 protected:
     bool eventFilter(QObject*, QEvent* event) override {
+        if (of_.box_page_ == nullptr) return false;
+        if (event->type() == QEvent::Close) { // of the window, which means the box
+            event->ignore();
+            of_.box_page_->close();
+            return true;
+        }
         if (event->type() == QEvent::Resize) {
             setGeometry(parentWidget()->rect());
             place_box();
         }
-        if (event->type() == QEvent::WindowActivate && of_.box_page_ != nullptr) of_.box_page_->activateWindow();
+        if (event->type() == QEvent::WindowActivate) of_.box_page_->activateWindow();
         return false;
     }
     void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), QColor(0x17, 0x20, 0x2E, 0x73)); }
