@@ -15,7 +15,7 @@ QString shipped_file(const QString& name) {
     const QString folder = QCoreApplication::applicationDirPath();
     for (const char* place : {"/", "/../share/cijferwerf/"})
         if (const QString file = folder + place + name; QFile::exists(file)) return file;
-    return folder + "/../lib/cijferwerf/" + name;
+    return folder + "/../libexec/cijferwerf/" + name;
 }
 
 QIcon program_icon() {

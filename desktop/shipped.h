@@ -12,8 +12,8 @@ namespace cijferwerf {
 // Faces of the same widths, for which all texts are laid out; the best one first.
 inline const QStringList faces(look::font_families.begin(), look::font_families.end());
 
-// Where a shipped file is: beside the program, else in share/cijferwerf or lib/cijferwerf beside the program's folder.
-// A file that is nowhere gets a path all the same.
+// Where a shipped file is: beside the program, else in share/cijferwerf or libexec/cijferwerf beside the program's
+// folder. A file that is nowhere gets a path all the same.
 QString shipped_file(const QString& name);
 
 QIcon program_icon();
