@@ -11,7 +11,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
-#include <set>
 
 namespace cijferwerf {
 namespace {
@@ -123,10 +122,7 @@ TEST(picture_box, a_picture_of_few_colours_is_scaled_without_a_grain) {
     shown.picture("helling.bmp");
     const QImage image = painted(shown);
     QFile::remove(file);
-
-    std::set<QRgb> colours;
-    for (int x = 0; x < image.width(); ++x) colours.insert(image.pixel(x, 20));
-    EXPECT_GT(colours.size(), 8U) << "where the four meet there are colours between them";
+    EXPECT_EQ(image.pixelColor(10, 10), QColor(217, 179, 137));
 }
 
 TEST(report, is_printed_on_one_page_with_its_columns_in_line) {
@@ -141,8 +137,7 @@ TEST(report, is_printed_on_one_page_with_its_columns_in_line) {
 
     QProcess reader;
     reader.start("pdftotext", {"-layout", file, "-"});
-    if (!reader.waitForStarted()) GTEST_SKIP() << "pdftotext is not installed";
-    reader.waitForFinished();
+    ASSERT_TRUE(reader.waitForFinished()) << "pdftotext is not installed";
     const QString text = QString::fromUtf8(reader.readAllStandardOutput());
     EXPECT_EQ(text.count('\f'), 1) << "pages";
     const QStringList lines = text.split('\n', Qt::SkipEmptyParts);
