@@ -84,16 +84,16 @@ void oefeningen::M_flesjes_12_02_click() {
 
     // The caption sets its two words as wide apart as they are printed here.
     constexpr std::string_view opschrift = "VOORAANZICHT                            ZIJAANZICHT";
-    constexpr int links = 302, midden_voor = links + 858, midden_opzij = links + 4776 - 690;
+    constexpr int grond = 2040, hoogte = 335, links = 302, midden_voor = links + 858, midden_opzij = links + 4776 - 690;
     bord(wit, donkerblauw, 12);
     const auto kratten_naast = [hoog](int naast) {
         return regel(telwoord(naast), " kratten naast elkaar en ", telwoord(hoog), " op elkaar.");
     };
     vertel(plaatje, regel("Van voren ", kratten_naast(breed), " Van opzij ", kratten_naast(diep)));
-    druk(links, 40, opschrift);
-    plaatje.filled_box(100, 2040, 5180, 30, grijs);
-    teken_stapel(plaatje, midden_voor, 2040, breed, hoog, 400, 335);
-    teken_stapel(plaatje, midden_opzij, 2040, diep, hoog, 300, 335);
+    druk(links, grond - hoog * hoogte - 290, opschrift);
+    plaatje.filled_box(100, grond, 5180, 30, grijs);
+    teken_stapel(plaatje, midden_voor, grond, breed, hoog, 400, hoogte);
+    teken_stapel(plaatje, midden_opzij, grond, diep, hoog, 300, hoogte);
 
     vraag(regel("In elk krat zitten", n, " flesjes."), "Hoeveel flesjes zijn er in totaal?", leeg,
           "Gebruik de muispijl om de kratjes", "te tellen.");
@@ -118,8 +118,7 @@ void oefeningen::M_snel_12_06_click() {
     const kommasom som = trek_kommasom(toeval, variant);
 
     snel_bord(20, 20);
-    druk(500, 100, "Hoeveel is...");
-    druk(500, 540, som.opgave);
+    teken_kommasom(plaatje, "Hoeveel is...", som);
 
     vraag("Kijk hiernaast.", leeg, "Je hebt weinig tijd!");
 

@@ -73,4 +73,10 @@ kommasom trek_kommasom(random_draws& toeval, int patroon) {
     return som;
 }
 
+void teken_kommasom(drawing& on, std::string_view vraag, const kommasom& som) {
+    constexpr int links = 500;
+    on.print_at(links, 100, vraag);
+    on.print_at(links, 540, som.opgave);
+}
+
 } // namespace cijferwerf

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "generators/gedeeld/keuze.h"
+#include "runtime/picture_box.h"
 #include "runtime/random_draws.h"
 
 #include <array>
@@ -19,6 +20,9 @@ struct kommasom {
     std::vector<keuze<int>> vergissingen;
     std::array<std::string, 5> uitleg;
 };
+
+// In the board's type, with the question above it.
+void teken_kommasom(drawing& on, std::string_view vraag, const kommasom& som);
 
 // With the signs of this pattern, 1 to 4.
 kommasom trek_kommasom(random_draws& toeval, int patroon);

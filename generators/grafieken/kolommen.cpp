@@ -43,7 +43,7 @@ void oefeningen::L_inkomen_04_18_click() {
             return (uiterst(&gezin::half_jaar, stijging) || uiterst(&gezin::vorig_jaar, !stijging)) == valt_op;
         });
 
-    bord(wit, zwart, 8);
+    bord(wit, zwart, 7.5);
     // Along the axis below, values are places in the picture.
     assen grafiek(plaatje, {1000, 70, 3600, 1600}, {1000, 4600, 3600}, {0, 80'000, 5000});
     grafiek.lijnen_op();
@@ -248,7 +248,7 @@ void oefeningen::Z_verkiezingen_04_18_click() {
     const auto deel = [procent](int van) { return van * procent / 100; };
     const int erbij = deel(samen);
 
-    bord(wit, zwart, 8);
+    bord(wit, zwart, 7.5);
     druk_midden(2690, 20, "Zetelverdeling Gemeenteraad Juinen");
     assen grafiek(plaatje, {400, 270, 3280, 1620}, {0, 15, 3}, {0, 50, 5});
     grafiek.lijnen_op();

@@ -83,8 +83,7 @@ void oefeningen::Z_komma_09_06_click() {
     const kommasom som = trek_kommasom(toeval, variant);
 
     snel_bord(20, 20);
-    druk(500, 100, "Hoeveel is");
-    druk(500, 540, som.opgave);
+    teken_kommasom(plaatje, "Hoeveel is", som);
 
     vraag("Kijk hiernaast.", leeg, "Je hebt niet veel tijd!");
 

@@ -200,7 +200,6 @@ void oefeningen::B_grasveld_01_08_click() {
     const int procent_rest = 100 - procent_gemaaid;
     const bool gemaaid_gevraagd = variant == 1;
 
-    bord(wit, zwart, 8);
     const int breedte = 5000 / n;
     const int links = (drawing::inner_width - n * breedte) / 2;
     vertel(plaatje, regel("Een grasveld in ", telwoord(n), " gelijke banen. Lichtgroen: ", telwoord(m), "."));

@@ -10,18 +10,22 @@ namespace {
 formula digit(const formula& number, int place) {
     return lifted([=](double x) { return static_cast<int>(x / std::pow(10, place - 1)) % 10; }, number);
 }
-const formula top = largest(A, B), low = A + B - top, apart = top - low;
+const formula top = largest(B, C), low = B + C - top, apart = top - low;
 
-// One ten is borrowed, or a hundred too.
-void town(oefening_id id, const char* second_tip) {
-    const formula tens = digit(low, 2) - digit(top, 2);
-    const formula swapped =
-        100 * (digit(top, 3) - digit(low, 3)) + 10 * largest(tens, 0 - tens) + digit(low, 1) - digit(top, 1);
-    row(id, 2, "vorig jaar @? *| stad # mensen. | Dit jaar zijn er # inwoners.",
-        range({{15000, 54989, 999}, {15000, 54989, 999}}), range({{60000, 99989, 999}, {60000, 99989, 999}}),
-        right(apart), wrong("", swapped, apart + 10, apart - 10, apart + 100, apart - 100),
-        tips("Zet het grootste getal boven", second_tip),
-        [](const reading& n) { EXPECT_EQ(n[0] > n[1], n.words[0] == "vertrokken"); });
+// One ten is borrowed, or so many hundreds too.
+void town(oefening_id id, double hundreds, const char* second_tip) {
+    const span of_ten{1, 9}, below{hundreds, 8 + hundreds}, of_hundred{2, 9}, less{0, 8 - hundreds};
+    const formula tens = digit(top, 2) - digit(low, 2), of_hundreds = digit(top, 3) - digit(low, 3),
+                  swapped = 100 * of_hundreds + 10 * abs(tens) + digit(low, 1) - digit(top, 1);
+    row(id, 2, "vorig jaar (vertrokken|bijgekomen)? *| stad # mensen. | Dit jaar zijn er # inwoners.",
+        counts(A - (B < C), digit(top, 2), digit(low, 2), digit(top, 3), digit(low, 3)),
+        range({{0, 1}, {15000, 54989, 999}, {15000, 54989, 999}, {0, 0}, of_ten, below, of_hundred, less}),
+        range({{0, 1}, {60000, 99989, 999}, {60000, 99989, 999}}), right(apart),
+        wrong("", swapped, apart + 10, apart - 10, apart + 100, apart - 100),
+        explains("eenheden doe je # -*tientallen doe je # - # = #, *honderdtallen doe je # - # = #.", digit(top, 1) + 10,
+                 digit(top, 2) - 1 + hundreds * 10, digit(low, 2), digit(apart, 2), digit(top, 3) - hundreds,
+                 digit(low, 3), digit(apart, 3)),
+        tips("Zet het grootste getal boven", second_tip));
 }
 
 formula factor(std::size_t word) {
@@ -63,10 +67,12 @@ void check_alignment(const reading& n) {
         }
     }
 }
-double without_comma(const reading& n) {
-    for (std::size_t k = 1; k < 4; ++k)
-        if (n.exercise.words[k].find(',') == std::string::npos) return decimal(n.exercise.words[k]);
-    return 0;
+// The number that has so many decimals.
+formula with_decimals(std::size_t count) {
+    return [count](const reading& n) {
+        const auto has = [&](const std::string& w) { return w.size() - std::min(w.find(','), w.size() - 1) == count + 1; };
+        return decimal(*std::find_if(n.exercise.words.begin() + 1, n.exercise.words.end(), has));
+    };
 }
 
 // The options that turn the numbers of the sum into the one that is left.
@@ -118,19 +124,21 @@ const formula pupils = (A + 2) * B, raised = pupils * C * D;
 const formula months = 0 - floor(0 - B / C);
 
 const exercise_rows columns([] {
-    town(B_inwoners_1_12_01_click, "lenen van de tientallen.");
-    town(B_inwoners_2_12_01_click, "tientallen moet je dan ook nog lenen.");
+    town(B_inwoners_1_12_01_click, 0, "lenen van de tientallen.");
+    town(B_inwoners_2_12_01_click, 1, "tientallen moet je dan ook nog lenen.");
     row(Z_sponsorloop_12_07, 6,
         "deze (twee|drie|vier) klassen zitten elk # leerlingen. *gemiddeld # km * € #* op. * | Krant van @ | * in @ "
         "organiseerde |*{twee|drie|vier} klassen een sponsorloop | voor een goed doel @.",
         range({{0, 2}, {15, 30}, {1.5, 6.5}, {.2, 1.5}}), words({7, 20, 6}), right(raised),
         wrong("(van één klas uitgegaan|nu één klas geweest)", raised / (A + 2)),
         wrong("gedeeld in plaats van", pupils / C * D), wrong("halve kilometer vergeten", pupils * (C - .5) * D),
-        wrong("naar boven afgerond", pupils * (C + .5) * D), wrong("een klas te veel", raised + B * C * D));
+        wrong("naar boven afgerond", pupils * (C + .5) * D), wrong("een klas te veel", raised + B * C * D),
+        explains("kilometer leverde € #* op", D));
     row(L_na_elkaar_12_01_click, 2, "| # - # (+|-) # =", range({{80, 480, 10}, {60, 160}, {0, 0}, {15, 45}}),
         range({{80, 480, 10}, {60, 160}, {1, 1}, {15, 45}}), right(after),
         wrong("getallen bij elkaar opgeteld", A - B - D), wrong("getallen van elkaar afgetrokken", A - B + D),
-        wrong("dat je alleen de eerste", A - B), wrong("alleen iets gedaan met de laatste", B + sign * D));
+        wrong("dat je alleen de eerste", A - B), wrong("alleen iets gedaan met de laatste", B + sign * D),
+        explains("Dus eerst doe je # - # = # en dan doe je ten slotte # (+|-) #", A, B, A - B, A - B, C, D));
     row(L_door_elkaar_12_02_click, 2, "| # + # x # - # =", range({{3, 19}, {3, 12}, {4, 10}, {2, 6}}),
         range({{15, 79}, {3, 12}, {4, 13}, {2, 9}}), right(A + B * C - D),
         wrong("eerst de vermenigvuldiging", (A + B) * C - D), wrong("geen haakjes", A + B * (C - D)),
@@ -145,8 +153,8 @@ const exercise_rows columns([] {
         wrong("op de haakjes gelet", A + B * (C + D)), wrong("haakjes heb je goed", (A + B) * (C + D)),
         wrong("laatste getal vergeten", (A + B) * C), wrong("alles opgeteld", A + B + C + D));
     row(L_onder_elkaar_12_06_click, 2,
-        "zijn de getallen goed onder elkaar gezet? | A          B           C           D |", counts(without_comma),
-        range({{12, 98}}), range({{102, 989}}), check_alignment);
+        "zijn de getallen goed onder elkaar gezet? | A          B           C           D |", counts(with_decimals(0), with_decimals(1), with_decimals(2)),
+        range({{12, 98}, {1.1, 9.9}, {1.01, 9.99}}), range({{102, 989}, {1.1, 99.9, 1}, {1.01, 99.99, 1}}), check_alignment);
     row(M_maal_12_02_click, 2, "Bereken de uitkomst.", counts(factor(0), factor(1)), range({{12, 99}, {12, 99}}),
         range({{102, 989}, {12, 49}}), right(product),
         wrong("", product - 10 * carried, product - 100 * digit(digit(A, 1) * digit(B, 2), 2),
@@ -158,6 +166,7 @@ const exercise_rows columns([] {
         range({{18, 89}, {12, 98}, {1, 2}}), range({{21, 92}, {12, 98}, {1, 2}}), right(makes(minus, rest, B)),
         wrong("", makes(1 - minus, rest, B), makes(minus, rest, tens), makes(1 - minus, rest, tens),
               makes(minus, rest, A), makes(minus, 10 - rest, B), makes(minus, rest + 1, B)),
+        explains("tiental: # = # (-|+) #. *eerst # x # *en daar # x #", A, tens, 1 - minus, rest, tens, B, rest, B),
         tips("Misschien kun je", "vlak bij een tiental"));
     row(M_flesjes_12_02_click, 4, "In elk krat zitten # flesjes.",
         counts(crates(true, true), crates(false, true), crates(true, false), crates(false, false)),
@@ -188,8 +197,7 @@ const exercise_rows columns([] {
         explains("Deel € # eerst door 120; dan weet je wat 1 % is. Dat is € #.", A, A / 120), with_calculator);
     row(Z_lenen_12_07_click, 4,
         "De (vader|moeder) van @ koopt een auto. {Hij|Zij} leent * € #,- bij de bank. {Hij|Zij} kan per maand € #,- ",
-
-        range({{0, 1}, {1800, 12390, 600}, {150, 400}}), words({15}), right(months),
+        counts(A - by_variant({0, 1, 0, 1})), range({{0, 1}, {1800, 12390, 600}, {150, 400}, {0, 0}}), words({15}), right(months),
         tips("Deel eerst het geleende", "Een restbedrag wordt in"), with_calculator);
 });
 
