@@ -107,6 +107,10 @@ std::optional<ink> extent(const drawing_op& operation, kleur ground) {
     for (const ink& part : parts)
         all = {std::min(all.left, part.left), std::min(all.top, part.top), std::max(all.right, part.right),
                std::max(all.bottom, part.bottom), all.word};
+    if (const auto* text = std::get_if<text_op>(&operation)) { // of the line, whatever its letters
+        all.top = text->y + digit_top(text->size);
+        all.bottom = text->y + text->size * 18;
+    }
     return all;
 }
 bool holds(const ink& outer, const ink& inner, double slack = 0) {
@@ -151,15 +155,26 @@ std::optional<std::string> out_of_place(const drawing& drawn) {
         if (!path.empty() && std::any_of(at + 1, drawn.operations().end(), hides)) return "a shape that nobody sees";
     }
     for (const ink& one : all) {
-        if (!one.word.empty() && !one.within(30, 10, width - 60, height - 30))
-            return "\"" + one.word + "\" at the edge";
+        const bool text = !one.word.empty();
+        if (text && !one.within(30, 10, width - 60, height - 30)) return "\"" + one.word + "\" at the edge";
         const auto beside = [&](const ink& other) {
             const bool behind = holds(other, one) && other.right - other.left > 1600; // a panel
             const bool itself = holds(other, one) && holds(one, other);               // or its edge
-            return distance(other, one) < std::max(365.0, 1.85 * (one.bottom - one.top)) && !behind && !itself;
+            const double near = text ? 60 : std::max(365.0, 1.85 * (one.bottom - one.top));
+            return distance(other, one) < near && !behind && !itself;
         };
-        if (!file && all.size() > 1 && std::ranges::none_of(all, beside))
-            return "\"" + one.word + "\" or a shape stands alone";
+        const auto level = [&](const ink& other) {
+            const auto as = [](double a, double b, double c, double d) {
+                return std::min({std::abs(a - c), std::abs(b - d), std::abs(a + b - c - d) / 2}) <= 30;
+            };
+            return text && &other != &one &&
+                   (as(one.left, one.right, other.left, other.right) ||
+                    as(one.top, one.bottom, other.top, other.bottom));
+        };
+        const bool central = text && std::abs(one.left + one.right - width) < 60;
+        if (!file && !central && all.size() > 1 && std::ranges::none_of(all, beside) &&
+            std::ranges::none_of(all, level))
+            return "\"" + one.word + "\", or a shape, stands alone";
     }
     for (const ink& one : boxes) {
         const auto half_over = [&](const ink& other) {

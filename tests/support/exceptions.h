@@ -18,7 +18,7 @@ enum class exception_kind {
     step_not_exact,          // an arithmetic step that is not meant to be exact, or is quoted as a mistake
     tip_gives_more,          // the first tip has numbers that the second one lacks
     crossing_line_meant,     // a line of the picture is meant to cross a word
-    loose_place_meant,       // boxes lie half over one another, or a word stands far from everything
+    loose_place_meant,       // boxes lie half over one another, or a word is level with nothing
 };
 
 bool excepted(exception_kind kind, oefening_id generator);

@@ -22,9 +22,9 @@ void town(oefening_id id, double hundreds, const char* second_tip) {
         range({{0, 1}, {15000, 54989, 999}, {15000, 54989, 999}, {0, 0}, of_ten, below, of_hundred, less}),
         range({{0, 1}, {60000, 99989, 999}, {60000, 99989, 999}}), right(apart),
         wrong("", swapped, apart + 10, apart - 10, apart + 100, apart - 100),
-        explains("eenheden doe je # -*tientallen doe je # - # = #, *honderdtallen doe je # - # = #.", digit(top, 1) + 10,
-                 digit(top, 2) - 1 + hundreds * 10, digit(low, 2), digit(apart, 2), digit(top, 3) - hundreds,
-                 digit(low, 3), digit(apart, 3)),
+        explains("eenheden doe je # -*tientallen doe je # - # = #, *honderdtallen doe je # - # = #.",
+                 digit(top, 1) + 10, digit(top, 2) - 1 + hundreds * 10, digit(low, 2), digit(apart, 2),
+                 digit(top, 3) - hundreds, digit(low, 3), digit(apart, 3)),
         tips("Zet het grootste getal boven", second_tip));
 }
 
@@ -70,7 +70,9 @@ void check_alignment(const reading& n) {
 // The number that has so many decimals.
 formula with_decimals(std::size_t count) {
     return [count](const reading& n) {
-        const auto has = [&](const std::string& w) { return w.size() - std::min(w.find(','), w.size() - 1) == count + 1; };
+        const auto has = [&](const std::string& w) {
+            return w.size() - std::min(w.find(','), w.size() - 1) == count + 1;
+        };
         return decimal(*std::find_if(n.exercise.words.begin() + 1, n.exercise.words.end(), has));
     };
 }
@@ -153,8 +155,9 @@ const exercise_rows columns([] {
         wrong("op de haakjes gelet", A + B * (C + D)), wrong("haakjes heb je goed", (A + B) * (C + D)),
         wrong("laatste getal vergeten", (A + B) * C), wrong("alles opgeteld", A + B + C + D));
     row(L_onder_elkaar_12_06_click, 2,
-        "zijn de getallen goed onder elkaar gezet? | A          B           C           D |", counts(with_decimals(0), with_decimals(1), with_decimals(2)),
-        range({{12, 98}, {1.1, 9.9}, {1.01, 9.99}}), range({{102, 989}, {1.1, 99.9, 1}, {1.01, 99.99, 1}}), check_alignment);
+        "zijn de getallen goed onder elkaar gezet? | A          B           C           D |",
+        counts(with_decimals(0), with_decimals(1), with_decimals(2)), range({{12, 98}, {1.1, 9.9}, {1.01, 9.99}}),
+        range({{102, 989}, {1.1, 99.9, 1}, {1.01, 99.99, 1}}), check_alignment);
     row(M_maal_12_02_click, 2, "Bereken de uitkomst.", counts(factor(0), factor(1)), range({{12, 99}, {12, 99}}),
         range({{102, 989}, {12, 49}}), right(product),
         wrong("", product - 10 * carried, product - 100 * digit(digit(A, 1) * digit(B, 2), 2),
@@ -197,8 +200,8 @@ const exercise_rows columns([] {
         explains("Deel € # eerst door 120; dan weet je wat 1 % is. Dat is € #.", A, A / 120), with_calculator);
     row(Z_lenen_12_07_click, 4,
         "De (vader|moeder) van @ koopt een auto. {Hij|Zij} leent * € #,- bij de bank. {Hij|Zij} kan per maand € #,- ",
-        counts(A - by_variant({0, 1, 0, 1})), range({{0, 1}, {1800, 12390, 600}, {150, 400}, {0, 0}}), words({15}), right(months),
-        tips("Deel eerst het geleende", "Een restbedrag wordt in"), with_calculator);
+        counts(A - by_variant({0, 1, 0, 1})), range({{0, 1}, {1800, 12390, 600}, {150, 400}, {0, 0}}), words({15}),
+        right(months), tips("Deel eerst het geleende", "Een restbedrag wordt in"), with_calculator);
 });
 
 } // namespace

@@ -237,7 +237,8 @@ TEST_P(every_exercise, writes_numbers_as_pupils_do_and_single_blanks) {
         }
         for (const std::string& word : seen(made).when_explained().words) EXPECT_EQ(fault(word), "") << word;
         EXPECT_TRUE(made.vraagregels[0] == leeg && made.vraagregels[1] != leeg);
-        const auto& [ground, text, size] = std::tie(made.plaatje.ground, made.plaatje.fore_colour, made.plaatje.text_size);
+        const auto& [ground, text, size] =
+            std::tie(made.plaatje.ground, made.plaatje.fore_colour, made.plaatje.text_size);
         EXPECT_TRUE(seen(made).words.empty() || ground != wit || text != zwart || size != 8) << "no board";
         EXPECT_TRUE(made.hulpmiddel == "REKENMACHINE" || made.hulpmiddel == leeg);
     });
