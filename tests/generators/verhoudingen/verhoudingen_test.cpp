@@ -34,17 +34,19 @@ auto marks(const reading& n, int from) {
 const formula full_marks = [](const reading& n) { return marks(n, n.exercise.blocks[1].y); };
 const formula all_marks = [](const reading& n) { return marks(n, 0); };
 
-// The red part of the left (0) or right (1) circle.
+// The red part of the left (0) or right (1) circle, in twenty-fourths.
 formula red_part(std::size_t which) {
     return [which](const reading& n) {
         auto red = all<circle_op>(n);
         std::erase_if(red, [](const circle_op& c) { return c.pen.colour != rood; });
-        return red.at(which).sweep / 360;
+        return red.at(which).sweep / 15;
     };
 }
+// From one such part of either circle to all but one.
+row_part one_of(double parts) { return range({{24 / parts, 24 - 24 / parts}, {24 / parts, 24 - 24 / parts}}); }
 // The least whole numbers in the ratio of the red parts, so many times, in this order or the other.
 formula ratio(int times, bool swapped = false) {
-    const formula unit = divisor(A * 24, B * 24) / 24 / times;
+    const formula unit = divisor(A, B) / times;
     return swapped ? says("# : #", B / unit, A / unit) : says("# : #", A / unit, B / unit);
 }
 // What can be misread in "one of the eight"; the last two are 1,8 and 8,1, also where it is 2.000 of the 16.000.
@@ -67,6 +69,7 @@ const formula large_turns = lifted([](double a, double b) { return a > b; }, tur
 const formula common = divisor(A, B);
 const formula per_turn = turns / common, turned_per_turn = turned_by / common;
 // Of the four cars, what a kilometre costs; and which one is the cheapest.
+const std::string car = "| Te koop: @, rijdt | * # eurocent per liter. | *1 : #. *";
 const formula cost_1 = rounded(A / B, 1), cost_2 = rounded(C / D, 1), cost_3 = rounded(E / F, 1),
               cost_4 = rounded(G / H, 1);
 const formula least = smallest(cost_1, cost_2, cost_3, cost_4);
@@ -102,15 +105,12 @@ const exercise_rows ratios([] {
                  (A + 1) * 100 / C, C, C, C));
     row(B_vakantie_02_16_click, 3, "ging naar @? *| # van de # gingen naar het mooie $a.", of({3}),
         range({{1000, 57000}, {4000, 60000}}), words({6}), right(A * 100 / B), wrong(misread(A / 1000, B / 1000)));
-    row(L_cirkels_02_16_click, 7, "| links | rechts", counts(red_part(0), red_part(1)),
-        range({{1.0 / 3, 2.0 / 3}, {1.0 / 3, 2.0 / 3}}), range({{0.25, 0.75}, {0.25, 0.75}}),
-        range({{0.25, 0.75}, {0.25, 0.75}}), range({{1.0 / 6, 5.0 / 6}, {1.0 / 6, 5.0 / 6}}),
-        range({{1.0 / 6, 5.0 / 6}, {1.0 / 6, 5.0 / 6}}), range({{0.125, 0.875}, {0.125, 0.875}}),
-        range({{0.125, 0.875}, {0.125, 0.875}}), right(ratio(1)), wrong("cirkels verwisseld", ratio(1, true)),
+    row(L_cirkels_02_16_click, 7, "| links | rechts", counts(red_part(0), red_part(1)), one_of(3), one_of(4), one_of(4),
+        one_of(6), one_of(6), one_of(8), one_of(8), right(ratio(1)), wrong("cirkels verwisseld", ratio(1, true)),
         wrong("Je had moeten vereenvoudigen", ratio(2), ratio(3)),
         wrong("Bovendien moet je nog vereenvoudigen", ratio(2, true), ratio(3, true)),
-        explains("het & deel rood*het & deel. De verhouding & : & kun je * met # te verm", A, B, A, B,
-                 [](const reading& n) { return std::stod(n.exercise.right) / n[0]; }));
+        explains("het & deel rood*het & deel. De verhouding & : & kun je * met # te verm", A / 24, B / 24, A / 24,
+                 B / 24, 24 / divisor(A, B)));
     row(L_fietspad_1_02_16_click, 5, "heeft van # cm. De schaal is 1 : # *| 1 : $1", range({{2, 5}, {10000, 100000}}),
         range({{3, 9}, {12000, 99000}}), range({{7, 9}, {12000, 100000}}), range({{12, 20}, {10000, 78000}}),
         range({{16, 30}, {10000, 56000}}), right(says("# m", A * B / 100)),
@@ -140,16 +140,12 @@ const exercise_rows ratios([] {
             "{kleine|grote} wiel niet # keer rond, maar # keer, dan is dat # keer zo veel. Het {grote|kleine} draait",
             large_turns, per_turn, turned_per_turn, per_turn, D, D / per_turn),
         tips("omgekeerd evenredig'.", "juist (minder|vaker)"));
-    row(Z_brandstofverbruik_02_16_click, 5,
-        "| Te koop: @, rijdt | * # eurocent per liter. | *1 : #. *| Te koop: @, rijdt | * # eurocent per liter. | *1 : #. "
-        "*| Te koop: @, rijdt | * # eurocent per liter. | *1 : #. *| Te koop: @, rijdt | * # eurocent per liter. | *1 : #.",
-        range({{60, 210, 9}, {7, 21}}), words({17}),
+    row(Z_brandstofverbruik_02_16_click, 5, (car + car + car + car), range({{60, 210, 9}, {7, 21}}), words({17}),
         right([](const reading& n) { return n.words.at(static_cast<std::size_t>(cheapest.in(n))); }),
         explains(
             "$= is de kostprijs # delen door # is *) # eurocent. *| # eurocent per km | # eurocent per km | # eurocent per km | # eurocent",
             chosen(cheapest, {A, C, E, G}), chosen(cheapest, {B, D, F, H}), least, cost_1, cost_2, cost_3, cost_4),
-        tips("(Bereken eerst|Reken bij|Kijk niet alleen|Hoeveel eurocent)",
-             "(Deel daarvoor|1 : 15 betekent|Wat kost|De prijs van een liter gedeeld|Deel steeds)"));
+        tips("(auto|bereken wat)", "(Deel |1 : 15|gedeeld)"));
     row(Z_tuinman_02_16_click, 5,
         "doet hij # kilogram turfmolm. * nodig om # kilogram tuinaarde te maken? | Groeten uit... @",
         range({{2, 2}, {36, 240}}), range({{3, 3}, {36, 240}}), range({{4, 4}, {40, 240}}), range({{5, 5}, {60, 240}}),
