@@ -66,12 +66,9 @@ formula marks(bool up_to_B) {
 }
 // ---- shortening ----
 
-// The numerator and denominator of what was read as A/B, in its simplest form, with so much added and multiplied.
-formula shortened(int teller, int noemer, bool teller_left = false, bool noemer_left = false) {
-    const formula by = divisor(A, B), left = lifted([](double x) { return std::fmod(x, 2) == 0 ? 2 : 3; }, by);
-    const formula over = A / by + teller, under = B / by + noemer;
-    return (teller_left ? over * left : over) / (noemer_left ? under * left : under);
-}
+// The numerator and denominator of A/B in its simplest form, and by what a child divides too little.
+const formula by = divisor(A, B), top = A / by, foot = B / by;
+const formula too_small = lifted([](double x) { return std::fmod(x, 2) == 0 ? 2 : 3; }, by);
 
 // Of the square.
 const formula yellow_part = [](const reading& n) {
@@ -223,12 +220,12 @@ const exercise_rows fractions([] {
         explains("van & een*wordt dus # liter*aftrekken van # liter.", B, B, A),
         tips("streepbreuk", "Bedenk dat & liter hetzelfde is als #"));
     row(M_snel_03_03_click, 2, "| Vereenvoudig: #/#", range({{4, 60}, {12, 70}}), range({{9, 90}, {27, 99}}),
-        right(says("#/#", A / divisor(A, B), B / divisor(A, B))), wrong("nog niet klaar", A / B),
-        wrong("delen van de teller", shortened(-1, 0), shortened(1, 0)),
-        wrong("delen van de noemer", shortened(0, -1), shortened(0, 1)),
-        wrong("hetzelfde getal", shortened(0, 0, false, true), shortened(0, 0, true, false)),
-        explains("delen door # *getal # is het grootste", divisor(A, B), divisor(A, B)), ticks({8, 15}));
-    row(L_procenten_03_14_click, 2, "| # % =  .. deel", counts(100, divisor(A, B), rounded(yellow_part * 100) - A),
+        right(says("#/#", top, foot)), wrong("nog niet klaar", A / B),
+        wrong("delen van de teller", (top - 1) / foot, (top + 1) / foot),
+        wrong("delen van de noemer", top / (foot - 1), top / (foot + 1)),
+        wrong("hetzelfde getal", top / foot / too_small, top / foot * too_small),
+        explains("delen door # *getal # is het grootste", by, by), ticks({8, 15}));
+    row(L_procenten_03_14_click, 2, "| # % =  .. deel", counts(100, by, rounded(yellow_part * 100) - A),
         range({{5, 95}, any, {5, 50}, {0, 0}}), range({{2, 98}, any, {2, 4}, {0, 0}}), right(A / 100),
         wrong("", 1 / A, 1 - A / 100, A / (100 - A), numerator / 100, A / denominator, A / 1000, A / 200,
               (numerator - 1) / denominator, (numerator + 1) / denominator, numerator / (denominator - 1)),
