@@ -57,7 +57,7 @@ int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view 
     return first;
 }
 
-void teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& regels) {
+vlak teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& regels) {
     if (nummer < 1 || nummer > 4) stop_run("no advertisement " + std::to_string(nummer));
     const zelfde_stand bewaard(on);
     constexpr int rand = 12;
@@ -73,6 +73,7 @@ void teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& 
         on.fore_colour = zwart;
         middle += step;
     }
+    return waar;
 }
 
 } // namespace cijferwerf

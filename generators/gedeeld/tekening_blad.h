@@ -16,7 +16,7 @@ int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view 
                const std::vector<std::string>& regels, kleur tint = donkerblauw);
 
 // One of four advertisements that fill the picture two by two, 1 to 4 in reading order: centred lines in black, the
-// first of them in a colour of its own, at the drawing's text size. A line has room for 2640.
-void teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& regels);
+// first of them in a colour of its own, at the drawing's text size. A line has room for 2640. Returns its place.
+vlak teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& regels);
 
 } // namespace cijferwerf

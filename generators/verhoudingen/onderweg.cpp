@@ -129,13 +129,11 @@ void oefeningen::Z_brandstofverbruik_02_16_click() {
     bord(lichtgrijs, zwart, 8);
     const auto prijs_per_km = [](const wagen& w) { return regel(komma(w.per_km(), 1), " eurocent"); };
     for (int nummer = 1; const wagen& w : geschud(wagens)) {
-        teken_advertentie(plaatje, nummer,
-                          {regel("Te koop:", w.merk, ", rijdt"),
-                           regel("op brandstof van", w.prijs, " eurocent per liter."),
-                           regel("Brandstofverbruik  1 :", w.kilometers, "."), " "});
-        const int midden = nummer % 2 == 1 ? 1345 : 4035, onder = nummer <= 2 ? 1065 : 2130;
-        opdracht(druk_midden_opdracht(midden, onder - 290, donkerrood, 9, prijs_per_km(w), " per km"));
-        ++nummer;
+        const vlak waar = teken_advertentie(plaatje, nummer++,
+                                            {regel("Te koop:", w.merk, ", rijdt"),
+                                             regel("op brandstof van", w.prijs, " eurocent per liter."),
+                                             regel("Brandstofverbruik  1 :", w.kilometers, "."), " "});
+        opdracht(druk_midden_opdracht(waar.midden().x, waar.onder() - 278, donkerrood, 9, prijs_per_km(w), " per km"));
     }
 
     vraag("Een autohandelaar biedt in een", "advertentie in de krant vier auto's", "te koop aan.", leeg,
