@@ -26,6 +26,7 @@ void oefeningen::maak(std::optional<oefening_id> generator) {
     maak_leeg();
     plaatje.reset();
     ++variant;
+    zaai();
     if (generator) (this->*soorten[static_cast<std::size_t>(*generator)].maak)();
     for (int i = 1; i <= 4; ++i)
         if (!std::string_view(antwoord(i)).starts_with(' ')) antwoord(i) = plak_even({leeg, antwoord(i)});

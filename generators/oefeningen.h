@@ -21,8 +21,9 @@ class oefeningen : public oefening {
 public:
     using oefening::oefening;
 
-    // Makes a fresh exercise: blanks the record and the picture box, raises the variant, runs the generator (none: the
-    // record stays blank), and puts a blank in front of every answer that has none.
+    // Makes a fresh exercise: blanks the record and the picture box, raises the variant, seeds the draws from the
+    // clock, runs the generator (none: the record stays blank), and puts a blank in front of every answer that has
+    // none.
     void maak(std::optional<oefening_id> generator);
 
 #define OEFENING(name) void name();

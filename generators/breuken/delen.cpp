@@ -14,7 +14,6 @@ void oefeningen::B_chocolade_03_03_click() {
     static constexpr std::array groepen_kinderen{4, 2, 11, 9, 7, 5, 3};
     static constexpr std::array<kleur, 4> truien{blauw, rood, groen, paars};
     kies_variant(14);
-    zaai();
     const int kinderen = rij(groepen_kinderen, (variant + 1) / 2);
     const int repen =
         trek_tot([this] { return trek(11) + 2; }, [&](int drawn) { return std::gcd(drawn, kinderen) == 1; });
@@ -80,7 +79,6 @@ void oefeningen::B_vlakjes_03_03_click() {
     static constexpr std::array<int, 14> te_vereenvoudigen{8, 9, 10, 12, 14, 15, 16, 20, 21, 22, 24, 26, 27, 28};
     static constexpr std::array<int, 8> niet_te_vereenvoudigen{7, 11, 13, 17, 19, 23, 25, 29};
     kies_variant(4);
-    zaai();
     const int rood_aantal = variant % 2 == 1 ? kies(te_vereenvoudigen) : kies(niet_te_vereenvoudigen);
     const breuk deel{rood_aantal, totaal};
     const int verteld = rood_aantal + (kop() ? 1 : -1);
@@ -137,7 +135,6 @@ void oefeningen::L_marathon_03_03_click() {
                                                                  {{{7, 8}, {3, 10}, {7, 10}, {9, 10}}},
                                                                  {{{2, 7}, {5, 7}, {4, 9}, {5, 9}}}}};
     kies_variant(4);
-    zaai();
     const std::string_view stad = kies(steden);
     const breuk deel = kies(rij(vormen, variant));
     const int een_deel = deel.noemer * 10 * (trek(30) + 5); // what one part of so many parts is
@@ -184,7 +181,6 @@ void oefeningen::L_marathon_03_03_click() {
 void oefeningen::L_stukken_03_14_click() {
     static constexpr std::array<int, 7> delingen{4, 5, 6, 7, 8, 9, 10};
     kies_variant(14);
-    zaai();
     const bool vraag_AB = variant % 2 == 1;
     const int stukken = rij(delingen, (variant + 1) / 2);
     const int tot_B = trek(stukken - 1) + 1;

@@ -7,7 +7,6 @@ namespace cijferwerf {
 
 void oefeningen::B_helen_03_03_click() {
     kies_variant(2);
-    zaai();
     const bool optellen = variant == 1;
     const int helen = trek(8) + 2;
     const breuk deel = trek_breuk(toeval, 3, 12);
@@ -54,7 +53,6 @@ void oefeningen::B_helen_03_03_click() {
 
 void oefeningen::L_helen_maken_03_03_click() {
     kies_variant(2);
-    zaai();
     const int helen = trek(9) + 1;
     const breuk deel = variant == 1 ? trek_breuk(toeval, 4, 10) : trek_breuk(toeval, 11, 20);
     const int nodig = deel.noemer - deel.teller;
@@ -96,7 +94,6 @@ void oefeningen::L_helen_maken_03_03_click() {
 
 void oefeningen::M_aanvullen_1_03_14_click() {
     kies_variant(9);
-    zaai();
     // Of each three: a 1 with a fraction, a larger number, and one that leaves more than 1 over.
     const int grootte = (variant - 1) % 3;
     // The first three have equal denominators; then the right one is a multiple, then the left one.

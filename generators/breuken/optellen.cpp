@@ -46,7 +46,6 @@ void oefeningen::L_prijzen_03_03_click() {
     };
     static const std::array verdelingen{alle(true), alle(false)};
     kies_variant(2);
-    zaai();
     const bool gelijknamig = variant == 1;
     const std::string_view stad = kies(steden);
     const verdeling& prijzen = kies(kies(rij(verdelingen, variant)));
@@ -116,7 +115,6 @@ void oefeningen::L_optellen_03_14_click() {
         alle_sommen(10, [](const breuksom& s) { return past(s) && s.gelijke_noemer() <= 60; }),
     };
     kies_variant(3);
-    zaai();
     breuksom s = kies(rij(sommen, variant));
     if (variant == 3) {
         s.helen_links = trek_van(1, 4);
@@ -168,7 +166,6 @@ void oefeningen::M_aftrekken_03_14_click() {
         alle_sommen(15, [](const breuksom& s) { return past(s) && !s.noemers_passen(); }),
     };
     kies_variant(2);
-    zaai();
     breuksom s = kies(rij(sommen, variant));
     s.helen_links = trek_van(2, 6);
     s.helen_rechts = trek_van(1, s.helen_links - 1);

@@ -16,7 +16,6 @@ void oefeningen::M_getallenlijn_03_03_click() {
     static constexpr int tussenruimte = 430; // of arrows, for the words under them
     static constexpr std::array<int, 5> noemers[]{{3, 4, 6, 8, 20}, {7, 9, 12, 14, 15}};
     kies_variant(2);
-    zaai();
     // Above 1/10; in their simplest form none of these is a tenth itself.
     const auto trek_gegeven = [&] {
         return trek_tot(
@@ -97,7 +96,6 @@ void oefeningen::M_grootste_kleinste_03_03_click() {
     static constexpr std::array<breuk, 4> makkelijke{{{1, 3}, {2, 3}, {1, 4}, {3, 4}}};
 
     kies_variant(4);
-    zaai();
     // The green or the white one lies on one side of a simple fraction that the other of these two equals; the yellow
     // and the red one lie on the far side.
     const bool paar_kleiner = variant % 2 == 1;
@@ -173,7 +171,6 @@ void oefeningen::M_grootste_kleinste_03_03_click() {
 void oefeningen::M_tussen_in_03_14_click() {
     static constexpr std::array<int, 8> noemers{3, 4, 6, 7, 8, 9, 11, 12};
     kies_variant(2);
-    zaai();
     // Between tenths, or between hundredths.
     const int decimalen = variant;
     const int schaal = variant == 1 ? 10 : 100;

@@ -157,7 +157,6 @@ void oefeningen::Z_delen_03_14_click() {
         return k.eerste > 1 ? 1 : 2;
     });
     kies_variant(4);
-    zaai();
     const breuksom s = kies(rij(sommen, (variant - 1) % 2 + 1));
     const breuk a = s.eerste();
     const breuk b = s.tweede();
@@ -209,7 +208,6 @@ void oefeningen::Z_vermenigvuldigen_03_14_click() {
         return k.tweede == 1 ? 1 : k.eerste == 1 ? 2 : 3;
     });
     kies_variant(3);
-    zaai();
     const breuksom s = kies(rij(sommen, variant));
     const breuk a = s.eerste();
     const breuk b = s.tweede();

@@ -7,7 +7,6 @@ namespace cijferwerf {
 
 void oefeningen::L_procenten_03_14_click() {
     kies_variant(2);
-    zaai();
     // Fives, or the even numbers between the tens: all can be simplified.
     const int tiental = variant == 1 ? 0 : trek(10) * 10;
     const int procent = variant == 1 ? trek_van(5, 95, 5) : tiental + trek_van(2, 8, 2);
@@ -67,7 +66,6 @@ void oefeningen::M_olievat_03_06_click() {
                                                  {1, 2, "Je moet van de streepbreuk een kommagetal maken."},
                                                  {2, 3, "Zet de streepbreuk eerst om in een kommagetal."}}};
     kies_variant(5);
-    zaai();
     const vorm& kwarten = rij(vormen, variant);
     const int liters_eruit = trek(18) + 2;
     const int liters = liters_eruit + trek(60) + 10;
@@ -139,7 +137,6 @@ void oefeningen::M_snel_03_03_click() {
         bool operator==(const geschreven&) const = default;
     };
     kies_variant(2);
-    zaai();
     struct opgave {
         breuk kort;
         int deler;
@@ -195,7 +192,6 @@ void oefeningen::M_snel_03_03_click() {
 
 void oefeningen::M_vereenvoudigen_03_14_click() {
     kies_variant(2);
-    zaai();
     // The last fraction in its simplest form, made larger and with one of its wholes put into the numerator. The two
     // numbers on the dots differ, whichever mistake is made.
     struct keten {

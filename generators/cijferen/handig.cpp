@@ -41,7 +41,6 @@ void teken_stapel(drawing& on, int midden, int grond, int kolommen, int rijen, i
 
 void oefeningen::L_anders_12_02_click() {
     kies_variant(2);
-    zaai();
     const int rond = trek(8) * 10 + 20, k = trek(2) + 1;
     const bool plus = variant == 2;
     const int a = plus ? rond + k : rond - k;
@@ -76,7 +75,6 @@ void oefeningen::L_anders_12_02_click() {
 void oefeningen::M_flesjes_12_02_click() {
     static constexpr std::array<int, 4> flesjes_per_krat{6, 12, 20, 24};
     kies_variant(4);
-    zaai();
     const int n = rij(flesjes_per_krat, variant);
     const auto aantallen = geschud(std::array{2, 3, 4, 5});
     const int breed = aantallen[0], diep = aantallen[1], hoog = trek_van(2, 5);
@@ -114,7 +112,6 @@ void oefeningen::M_flesjes_12_02_click() {
 
 void oefeningen::M_snel_12_06_click() {
     kies_variant(tekenpatronen);
-    zaai();
     const kommasom som = trek_kommasom(toeval, variant);
 
     snel_bord(20, 20);

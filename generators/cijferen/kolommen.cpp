@@ -40,7 +40,6 @@ void oefeningen::L_onder_elkaar_12_06_click() {
     static constexpr std::array<std::string_view, 4> namen{"OPTELLING A", "OPTELLING B", "OPTELLING C", "OPTELLING D"};
     constexpr std::array<int, 4> kolommen{735, 1975, 3315, 4675}; // the middles of the letters of the caption
     kies_variant(2);
-    zaai();
     const int grootste = variant == 1 ? 9 : 99;
     const int geheel = variant == 1 ? trek_van(12, 98) : trek_van(102, 989);
     const int tienden = trek_van(1, grootste) * 10 + trek_van(1, 9);
@@ -90,7 +89,6 @@ void oefeningen::M_maal_12_02_click() {
         int boven, onder;
     };
     kies_variant(2);
-    zaai();
     const auto [eenheid, onder_eenheid] = trek_tot(
         [this] {
             return cijfers{trek_van(2, 9), trek_van(2, 9)};

@@ -90,7 +90,6 @@ std::vector<std::string> uitgewerkt(const aftrekking& a) {
 
 void oefeningen::B_inwoners_1_12_01_click() {
     kies_variant(2);
-    zaai();
     const aftrekking a = trek_aftrekking(toeval, variant == 1 ? 15 : 60, false);
     const bool vertrokken = kop();
     const int juist = a.verschil();
@@ -113,7 +112,6 @@ void oefeningen::B_inwoners_1_12_01_click() {
 
 void oefeningen::B_inwoners_2_12_01_click() {
     kies_variant(2);
-    zaai();
     const aftrekking a = trek_aftrekking(toeval, variant == 1 ? 15 : 60, true);
     const bool vertrokken = kop();
     const int juist = a.verschil();
@@ -166,7 +164,6 @@ void oefeningen::Z_sponsorloop_12_07() {
                                                  {5, 22},
                                                  {6, 26}}};
     kies_variant(6);
-    zaai();
     const std::string_view plaats = kies(plaatsen), doel = rij(doelen, variant), dag = kies(weekdagen);
     const int klassen = (variant - 1) % 3 + 2;
     const auto [hele_km, leerlingen] = kies(lopen);

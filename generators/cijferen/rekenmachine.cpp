@@ -8,7 +8,6 @@ namespace cijferwerf {
 
 void oefeningen::M_controle_12_02_click() {
     kies_variant(2);
-    zaai();
     const bool deling = variant == 1;
     // From 1,01 to 9,99, never whole.
     const auto trek_getal = [&] {
@@ -66,7 +65,6 @@ void oefeningen::M_controle_12_02_click() {
 
 void oefeningen::Z_memory_12_02_click() {
     kies_variant(2);
-    zaai();
     const int a = trek(99) + 1, b = trek(99) + 1;
     const int d = trek(49) + 1;
     const int c = d + trek(49) + 1;
@@ -117,7 +115,6 @@ void oefeningen::Z_BTW_12_08_click() {
         "Rowan", "Stephen", "Ingmar",   "Marloes", "Amber", "Danny", "Lai Man", "Vincent", "Renzo", "Lucia",
         "Kazim", "Freek",   "Matthijs", "Mark",    "Marco", "Wiebe", "Iresh",   "Ranu",    "Ivan",  "Sietske"};
     kies_variant(2);
-    zaai();
     const auto bedrag = [](long long cent) { return regel("€", komma(cent, 2)); };
 
     bord(wit, donkerblauw, 14);
@@ -169,7 +166,6 @@ void oefeningen::Z_lenen_12_07_click() {
                                                             "Anja",  "Henk",   "Jochem",   "Ronald", "Miep",
                                                             "Peter", "Ineke",  "Gijsbert", "Joke",   "Jiska"};
     kies_variant(4);
-    zaai();
     const bool vader = variant % 2 == 1, met_rest = variant >= 3;
     const std::string_view naam = kies(namen);
     const int per_maand = trek_van(150, 400, 25), hele_maanden = trek_van(12, 30);

@@ -9,7 +9,6 @@ void oefeningen::L_na_elkaar_12_01_click() {
         int a, b, c;
     };
     kies_variant(2);
-    zaai();
     const bool plus = variant == 1;
     // The last two numbers make more than the outcome below twice b, and less above it.
     const bool boven = kop();
@@ -53,7 +52,6 @@ void oefeningen::L_door_elkaar_12_02_click() {
         int uitkomst() const { return a + b * c - d; }
     };
     kies_variant(2);
-    zaai();
     const int grootste_a = variant == 1 ? 19 : 79, grootste_d = variant == 1 ? 6 : 9;
     const bool boven = kop(); // whether what comes of both other orders at once is more than the outcome
     const auto s = trek_tot(
@@ -86,7 +84,6 @@ void oefeningen::L_door_elkaar_12_02_click() {
 
 void oefeningen::L_haakjes_12_02_click() {
     kies_variant(2);
-    zaai();
     bord(donkerblauw, geel, 14);
     vraag("Maak de som die hiernaast", "staat.");
     constexpr std::array<std::string_view, 3> eerst_haakjes{"Bij deze soort sommen moet je altijd eerst uitrekenen",

@@ -28,7 +28,6 @@ void teken_cirkel(drawing& on, std::string_view straal) {
 
 void oefeningen::B_cirkel_1_00_13_click() {
     kies_variant(2);
-    zaai();
     const int r = variant == 1 ? trek(14) + 2 : trek(7) * 2 + 2;
     const bool vraagt_omtrek = kop();
     // At r = 4 the larger wrong circumference would be the number of the area.
@@ -69,7 +68,6 @@ void oefeningen::B_cirkel_1_00_13_click() {
 
 void oefeningen::L_cirkel_2_00_13_click() {
     kies_variant(2);
-    zaai();
     const int r = trek_van(3, 15);
     const bool uit_omtrek = variant == 1;
     const kommagetal straal{r}, omtrek = cirkelomtrek(straal), oppervlakte = cirkeloppervlakte(straal);
@@ -107,7 +105,6 @@ void oefeningen::L_cirkel_2_00_13_click() {
 
 void oefeningen::M_in_elkaar_00_13_click() {
     kies_variant(2);
-    zaai();
     const int r = trek_van(3, 10), breedte = 2 * r;
     // In a shorter rectangle the circle takes more than half, in a longer one less.
     const int half_vol = static_cast<int>((pi * r).op(2) / 100);

@@ -10,7 +10,6 @@ namespace cijferwerf {
 void oefeningen::M_blikjes_00_13_click() {
     static constexpr std::array<std::string_view, 4> etiketten{"SOEP", "NASI", "tonijn", "ravioli"};
     kies_variant(4);
-    zaai();
     const bool met_diameter = kop();
     const int diameter = trek_van(6, 10, 2);
     const int hoogte = diameter + trek_van(1, 5);
@@ -49,7 +48,6 @@ void oefeningen::M_blikjes_00_13_click() {
 
 void oefeningen::M_huls_00_13_click() {
     kies_variant(2);
-    zaai();
     // Never twice as long as wide: then the wrong side would give the radius.
     const int breedte = trek_van(12, 24);
     const int lengte = breedte + trek_van(3, 11);
@@ -88,7 +86,6 @@ void oefeningen::M_huls_00_13_click() {
 void oefeningen::M_pizza_00_13_click() {
     static constexpr std::array<std::string_view, 3> dozen{"PIZZA TELMORA", "PIZZA ROMANO", "PIZZA JOHANNA"};
     kies_variant(3);
-    zaai();
     const int straal = trek(3) + 2 + 3 * variant;
     // Of so few slices the length, rounded to a tenth, still tells the number within a fifth.
     const int stukken = trek_van(4, 10);
@@ -118,7 +115,6 @@ void oefeningen::Z_fietswiel_00_13_click() {
     static constexpr std::array<std::string_view, 10> fietsers{"Harald", "Klazien", "Gijsbert", "Ineke", "Peter",
                                                                "Betty",  "Jochem",  "Jiska",    "Joop",  "Els"};
     kies_variant(2);
-    zaai();
     const std::string_view fietser = kies(fietsers);
     // Tenths of a kilometre: a short ride or a long one.
     const int begin = trek_van(10000, 93999);

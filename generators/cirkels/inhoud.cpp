@@ -12,7 +12,6 @@ void oefeningen::M_cilinder_00_17_click() {
         bool geschikt() const { return middellijn != 4 && middellijn != 4 * hoogte; }
     };
     kies_variant(2);
-    zaai();
     const auto [middellijn, hoogte] = trek_tot(
         [this] {
             const int d = variant == 1 ? trek(6) + 2 : trek(8) + 8;
@@ -49,7 +48,6 @@ void oefeningen::M_cilinder_00_17_click() {
 
 void oefeningen::Z_dichtheid_00_17_click() {
     kies_variant(2);
-    zaai();
     const int lengte = trek(8) + 2;
     const int breedte = trek(7) + 3;
     const int hoogte = trek(8) + 2;
@@ -92,7 +90,6 @@ void oefeningen::Z_volumeprocent_00_17_click() {
                                                    {"wijn", {11, 12, 13}, {100, 120, 150}},
                                                    {"bier", {4, 5, 6}, {200, 220, 250}}}};
     kies_variant(3);
-    zaai();
     const drank& drank = rij(dranken, variant);
     const int aantal = trek_van(2, 6);
     const int procent = kies(drank.procenten);

@@ -7,7 +7,6 @@ namespace cijferwerf {
 
 void oefeningen::M_skelterbaan_00_13_click() {
     kies_variant(2);
-    zaai();
     // The radius is a whole number of metres, or half a metre more. The straight part is clearly longer than the track
     // is wide, as the picture shows it.
     const int breedte = trek(7) * 2 + 19 + variant;
@@ -43,7 +42,6 @@ void oefeningen::M_skelterbaan_00_13_click() {
 
 void oefeningen::M_vijver_00_13_click() {
     kies_variant(2);
-    zaai();
     const int cm = variant == 1 ? trek(10) * 10 + 150 : trek(11) * 10 + 250;
     const kommagetal straal = kommagetal{cm, 2}.kort(), boog = pi * straal, recht = straal * 2;
     const kommagetal hekwerk = boog + recht;
@@ -78,7 +76,6 @@ void oefeningen::M_vijver_00_13_click() {
 
 void oefeningen::Z_terras_00_13_click() {
     kies_variant(2);
-    zaai();
     const int cm = variant == 1 ? trek(10) * 10 + 150 : trek(11) * 10 + 250;
     const int prijs = trek_van(25, 60);
     const kommagetal straal = kommagetal{cm, 2}.kort(), oppervlakte = cirkeloppervlakte(straal);

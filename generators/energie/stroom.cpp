@@ -46,7 +46,6 @@ void teken_spaarlamp(drawing& on, point midden, int straal, int watt) {
 void oefeningen::M_elektriciteit_1_00_19_click() {
     static constexpr std::array lampen{25, 40, 60, 75, 100};
     kies_variant(5);
-    zaai();
     const int watt = rij(lampen, variant);
     const int minuten = trek(8) * 6 + 12;
     const int product = watt * minuten;
@@ -88,7 +87,6 @@ void oefeningen::M_elektriciteit_2_00_19_click() {
                                                         {"koffiezetapparaat", {700, 1200, 100}, {10, 30, 5}},
                                                         {"stofzuiger", {1000, 2000, 500}, {3, 12, 1}}}};
     kies_variant(5);
-    zaai();
     const apparaat& a = rij(apparaten, variant);
     const int watt = trek_van(a.watt.eerste, a.watt.laatste, a.watt.stap);
     const int uren = trek_van(a.uren.eerste, a.uren.laatste, a.uren.stap);
@@ -133,7 +131,6 @@ void oefeningen::Z_elektriciteit_3_00_19_click() {
     static constexpr std::array<vervanging, 5> lampen{{{25, 5}, {40, 10}, {60, 10}, {75, 15}, {100, 20}}};
     constexpr int dagen = 365;
     kies_variant(5);
-    zaai();
     const auto [lamp, spaarlamp] = rij(lampen, variant);
     const int minder = lamp - spaarlamp;
     const int uren = trek_van(2, 8);

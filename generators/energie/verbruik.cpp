@@ -48,7 +48,6 @@ std::string kubieke_meters(int aantal) { return regel(duizend(aantal), " m³"); 
 void oefeningen::L_gas_1_00_19_click() {
     static constexpr std::array<grenzen, 2> verbruiken{{{400, 990}, {1200, 2800}}}; // m³, a flat and a house
     kies_variant(2);
-    zaai();
     const auto [minste, meeste] = rij(verbruiken, variant);
     const int verbruik = trek_van(minste, meeste, 10);
     const int oud = trek_van(10'000, 96'999);
@@ -86,7 +85,6 @@ void oefeningen::L_gas_1_00_19_click() {
 void oefeningen::M_water_1_00_19_click() {
     static constexpr std::array<grenzen, 2> verbruiken{{{40, 95}, {110, 240}}}; // m³, a small and a large household
     kies_variant(2);
-    zaai();
     const auto [minste, meeste] = rij(verbruiken, variant);
     const int verbruik = trek_van(minste, meeste, 5);
     const int oud = trek_van(1000, 9699);
@@ -126,7 +124,6 @@ void oefeningen::M_water_2_00_19_click() {
     static constexpr std::array<std::string_view, 6> families{"Bakker",  "Yilmaz", "de Wit",
                                                               "Sewdien", "Postma", "Arends"};
     kies_variant(2);
-    zaai();
     // In the first sub-variant multiples of 5 %.
     const int vijfvouden = trek_van(2, 6);
     const int ander_procent = (vijfvouden - 1) * 5 + trek_van(1, 4);
@@ -172,7 +169,6 @@ void oefeningen::Z_gas_2_00_19_click() {
         }
     };
     kies_variant(2);
-    zaai();
     const auto& honderdtallen = rij(honderdtallen_bespaard, variant);
     const isolatie i = trek_tot(
         [&] {

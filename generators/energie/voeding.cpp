@@ -27,7 +27,6 @@ void oefeningen::L_energie_00_19_click() {
                                                    {"voeding", "de voeding", "De voeding"},
                                                    {"verlichting", "de verlichting", "De verlichting"}}};
     kies_variant(4);
-    zaai();
     const soort& gevraagd = rij(soorten, variant);
     struct dag {
         std::array<int, 4> energie; // by kind, in thousands of kJ
@@ -91,7 +90,6 @@ void oefeningen::M_voeding_1_00_19_click() {
                                                              "driekoren", "vierkoren", "vijfkoren", "maanzaad",
                                                              "sesamzaad", "lijnzaad"};
     kies_variant(10);
-    zaai();
     const std::string_view brood = rij(broden, variant);
     const int sneden = trek_van(16, 24);
     const int snee = trek_van(25, 40, 5); // grams
@@ -129,7 +127,6 @@ void oefeningen::M_voeding_2_00_19_click() {
     static constexpr std::array<beleg, 3> belegsoorten{
         {{"kaas", 10, 16}, {"pindakaas", 24, 27}, {"hagelslag", 17, 20}}};
     kies_variant(3);
-    zaai();
     const auto& [erop, minste, meeste] = rij(belegsoorten, variant);
     const int boterhammen = trek_van(2, 6);
     const int snee = trek_van(30, 40, 5); // grams

@@ -117,7 +117,6 @@ huursom sporthal(int prijs, int uren, const huurperiode& p) {
 
 void oefeningen::Z_huren_05_07_click() {
     kies_variant(4);
-    zaai();
     const int televisieprijs = trek_van(75, 250, 5);
     const int autoprijs = trek_van(30, 75) * 100;
     const int woningprijs = trek_van(400, 900, 25) * 100;

@@ -39,7 +39,6 @@ void teken_uitverkoop(drawing& on) {
 
 void oefeningen::L_bijbetalen_05_07_click() {
     kies_variant(2);
-    zaai();
     const persoon klant = variant == 1 ? persoon{"Een man", man} : persoon{"Een vrouw", vrouw};
     const int briefje = kies(std::array{2000, 5000, 10'000});
     // A whole number of euros comes back because of the coins.
@@ -92,7 +91,6 @@ void oefeningen::L_terugbetalen_05_07_click() {
                                                     {"Menno", man}}};
     static constexpr std::array briefsoorten{500, 1000, 2000, 5000, 10'000};
     kies_variant(5);
-    zaai();
     const persoon& wie = kies(namen);
     const stapel briefjes{rij(briefsoorten, variant), trek_van(1, 3)};
     const stapel munten{kies(std::array{100, 200}), trek_van(1, 3)};
@@ -158,7 +156,6 @@ void oefeningen::M_boodschap_05_07_click() {
         return std::accumulate(alle.begin(), alle.end(), 0, [](int som, const boodschap& b) { return som + b.kosten; });
     };
     kies_variant(4);
-    zaai();
     const persoon& wie = kies(namen);
     const bool vader = variant % 2 == 1;
     const std::size_t hoeveel = variant <= 2 ? 3 : 4;
@@ -227,7 +224,6 @@ void oefeningen::M_boodschap_05_07_click() {
 
 void oefeningen::M_CDs_05_07_click() {
     kies_variant(2);
-    zaai();
     const int drietallen = trek_van(2, 5);
     const int aantal = 3 * drietallen + (variant == 1 ? 0 : trek_van(1, 2));
     const int prijs = trek_van(690, 1990, 20);

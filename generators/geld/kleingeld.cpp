@@ -47,7 +47,6 @@ void oefeningen::B_spaarpot_05_07_click() {
     static constexpr std::array briefjes{1000, 500};
     static constexpr std::array munten{200, 100, 50, 20, 10, 5};
     kies_variant(4);
-    zaai();
     const persoon& wie = kies(namen);
     // Three kinds or four, without notes or with.
     const std::size_t soorten = variant <= 2 ? 3 : 4;
@@ -100,7 +99,6 @@ void oefeningen::B_wisselen_05_07_click() {
         {{1, "een biljet van"}, {2, "twee biljetten van"}, {3, "drie biljetten van"}, {6, "zes biljetten van"}}};
     static constexpr std::array munten{10, 20, 50};
     kies_variant(3);
-    zaai();
     const int munt = rij(munten, variant);
     const aantal_biljetten& biljetten = kies(aantallen);
     const int biljet = kies(std::array{20, 50, 100, 200});
@@ -140,7 +138,6 @@ void oefeningen::L_snel_05_07_click() {
                                                       {20, "munten van 20 eurocent"},
                                                       {50, "munten van 50 eurocent"}}};
     kies_variant(6);
-    zaai();
     const muntsoort& munt = rij(munten, variant);
     const int bedrag = kies(std::array{2, 5, 10});
     const int per_euro = 100 / munt.cent;
@@ -207,7 +204,6 @@ void oefeningen::M_niet_gepast_05_07_click() {
     static constexpr std::array groot{200, 100, 50, 20, 10};
     static constexpr std::array klein{20, 10, 5, 2, 1};
     kies_variant(4);
-    zaai();
     // Three kinds or four, large or small; at most nine coins, so that a sum of them fits a line.
     const std::size_t soorten = variant <= 2 ? 3 : 4;
     const std::vector<stapel> geld = trek_tot(

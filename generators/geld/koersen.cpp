@@ -61,7 +61,6 @@ void teken_koersen(drawing& on, const koersen& alle) {
 
 void oefeningen::L_vreemd_geld_1_05_07_click() {
     kies_variant(5);
-    zaai();
     const persoon& wie = kies(reizigers);
     const valuta& geld = rij(valutas, variant);
     const koersen alle = koersen_van_vandaag(toeval);
@@ -99,7 +98,6 @@ void oefeningen::L_vreemd_geld_1_05_07_click() {
 
 void oefeningen::L_vreemd_geld_2_05_07_click() {
     kies_variant(5);
-    zaai();
     const persoon& wie = kies(reizigers);
     const valuta& geld = rij(valutas, variant);
     const koersen alle = koersen_van_vandaag(toeval);

@@ -13,7 +13,6 @@ namespace cijferwerf {
 
 void oefeningen::L_krantenwijk_05_07_click() {
     kies_variant(2);
-    zaai();
     const persoon wie = variant == 1 ? persoon{"Een meisje", vrouw} : persoon{"Een jongen", man};
     std::array<int, 6> uren{}; // maandag to zaterdag
     for (int& dag : uren) dag = trek_van(1, 4);
@@ -80,7 +79,6 @@ void teken_pomp(drawing& on, const number_text& bedrag, int liters) {
 
 void oefeningen::M_brandstof_05_07_click() {
     kies_variant(2);
-    zaai();
     const persoon wie = variant == 1 ? persoon{"Een man", man} : persoon{"Een vrouw", vrouw};
     const int liters = trek_van(21, 52);
     const int literprijs = trek_van(111, 189);

@@ -30,7 +30,6 @@ void oefeningen::B_getallenlijn_11_01_click() {
     };
     static constexpr std::array<schaal, 5> schalen{{{2, 5}, {5, 5}, {10, 5}, {50, 50}, {100, 50}}};
     kies_variant(5);
-    zaai();
     const auto [waarde, stap] = rij(schalen, variant);
     const int eerste = trek_van(5, 905, stap);
     const int stukjes = trek_van(4, 8); // between the given numbers
@@ -77,7 +76,6 @@ void oefeningen::B_getallenlijn_11_01_click() {
 void oefeningen::B_pijl_1_11_06_click() {
     static constexpr std::array<std::array<int, 2>, 3> helen{{{0, 9}, {10, 99}, {100, 199}}};
     kies_variant(3);
-    zaai();
     const auto [van, tot] = rij(helen, variant);
     const int begin = trek_van(van, tot);
     const int streepje = trek_van(1, 9);
@@ -108,7 +106,6 @@ void oefeningen::B_pijl_1_11_06_click() {
 void oefeningen::B_pijl_2_11_06_click() {
     static constexpr std::array<std::array<int, 2>, 3> tienden{{{1, 9}, {10, 99}, {100, 199}}};
     kies_variant(3);
-    zaai();
     const auto [van, tot] = rij(tienden, variant);
     const int begin = trek_van(van, tot);
     const int streepje = trek_van(1, 9);
@@ -139,7 +136,6 @@ void oefeningen::L_pijlverwijzing_11_06_click() {
     static constexpr std::array kleuren{rood, blauw, geel, groen};
     static constexpr std::array binnenste{1, 2, 3, 4, 5, 6, 7, 8, 9};
     kies_variant(2);
-    zaai();
     const int delen = variant == 1 ? 5 : 10;
     const int begin = trek(100);
     // The marks that get an arrow, from left to right, and how far along each colour's is.

@@ -33,7 +33,6 @@ std::vector<int> verwisselingen(int groep) {
 void oefeningen::B_letters_11_01_click() {
     static constexpr std::array cijfers{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
     kies_variant(3);
-    zaai();
     // Groups of different digits, so that any two can be swapped, that start with one above 0 and are read as three.
     const auto trek_groep = [this] {
         auto c = geschud(cijfers);
@@ -105,7 +104,6 @@ void oefeningen::B_waarde_11_01_click() {
     static constexpr std::array<getallen, 3> soorten{{{4, 5, 1}, {6, 7, 3}, {8, 8, 6}}};
     static constexpr int boven = 550, pijl_van = 1600, punten = 20;
     kies_variant(3);
-    zaai();
     const auto [kortste, langste, laagste] = rij(soorten, variant);
     const int lengte = trek_van(kortste, langste);
     const int plaats = trek_van(laagste, lengte - 1);
@@ -149,7 +147,6 @@ void oefeningen::L_na_de_komma_11_06_click() {
     static constexpr std::array<std::array<int, 2>, 3> patronen{{{1, 2}, {1, 3}, {2, 3}}};
     static constexpr std::array kleuren{blauw, rood, geel, groen};
     kies_variant(3);
-    zaai();
     const auto [plaats, tweede_plaats] = rij(patronen, variant);
     const int cijfer = trek_van(2, 5);
     const int tweede = trek_van(6, 9);
@@ -198,7 +195,6 @@ void oefeningen::L_samenstellen_11_06_click() {
     static constexpr std::array<std::array<int, 2>, 6> plaatsparen{{{5, 4}, {5, 2}, {4, 2}, {4, 1}, {3, 1}, {2, 0}}};
     static constexpr int breed = 600, komma_breed = 200, links = (drawing::inner_width - 7 * breed - komma_breed) / 2;
     kies_variant(6);
-    zaai();
     const auto [plaats, tweede_plaats] = rij(plaatsparen, variant);
     const int aantal = trek_van(1, 5);
     const int ander = trek_van(2, aantal == 1 ? 9 : 8);

@@ -11,7 +11,6 @@ void oefeningen::B_onder_elkaar_11_01_click() {
     static constexpr std::string_view kop_regel = "A             B              C              D";
     static constexpr int kop_x = 400, kop_punten = 16, punten = 14;
     kies_variant(3);
-    zaai();
     // One number of two digits, one of two, three or four.
     const int kortste = trek_van(10, 99);
     const int langste = variant == 1 ? trek_van(10, 99) : variant == 2 ? trek_van(100, 999) : trek_van(1000, 9999);
@@ -62,7 +61,6 @@ void oefeningen::B_schatten_11_01_click() {
     static constexpr std::array<afronding, 3> afrondingen{
         {{100, 9, "honderdtallen"}, {1'000, 20, "duizendtallen"}, {10'000, 20, "tienduizendtallen"}}};
     kies_variant(3);
-    zaai();
     const auto& [eenheid, hoogste, naam] = rij(afrondingen, variant);
     // Both numbers so near to a round one that the exact difference is nearest to the rounded one.
     const int eerste_rond = eenheid * trek_van(3, hoogste);
@@ -113,7 +111,6 @@ void oefeningen::L_optellen_11_01_click() {
           "het eerste en vierde getal makkelijk kunt optellen,",
           "), maar ook het tweede en derde getal"}}};
     kies_variant(3);
-    zaai();
     const paren& verdeling = rij(verdelingen, variant);
     std::array<int, 4> getallen{};
     // A pair that adds up to a ten above its first member; returns that sum.
@@ -147,7 +144,6 @@ void oefeningen::L_schoolbord_11_06_click() {
                                                                 {{{3, 8}, {5, 8}, {7, 8}, {3, 10}, {7, 10}}}}};
     static constexpr int boven = 800, som_rechts = 3850, punten = 20;
     kies_variant(4);
-    zaai();
     const breuk deel = kies(rij(delen, variant));
     // In hundredths; the number itself is never a whole one.
     const int een_deel = trek_tot([this] { return kop() ? trek_van(2, 60) : trek_van(61, 300); },

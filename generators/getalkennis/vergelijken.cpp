@@ -13,7 +13,6 @@ void oefeningen::M_dichtst_bij_11_06_click() {
     static constexpr std::array<breuk, 4> achtsten{{{1, 8}, {3, 8}, {5, 8}, {7, 8}}};
     static constexpr int hoogte = 950;
     kies_variant(3);
-    zaai();
     const int geheel = trek_van(1, 20);
     const breuk deel = variant == 1 ? kies(helften) : variant == 2 ? kies(kwarten) : kies(achtsten);
     const int getal = 1000 * geheel + 1000 * deel.teller / deel.noemer; // thousandths
@@ -52,7 +51,6 @@ void oefeningen::M_dichtst_bij_11_06_click() {
 void oefeningen::M_grootste_kleinste_11_01_click() {
     static constexpr std::array cijfers{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
     kies_variant(2);
-    zaai();
     const bool kleinste = variant == 1;
     const int begin = trek_van(1, 99); // what stands before the thousands of all four
     // The right number and its neighbour have the same thousands; those of the other two lie ever farther off.
@@ -106,7 +104,6 @@ void oefeningen::M_tabel_11_01_click() {
     static constexpr std::array<eenheid, 4> eenheden{
         {{100, "100"}, {1'000, "1.000"}, {10'000, "10.000"}, {100'000, "100.000"}}};
     kies_variant(4);
-    zaai();
     const auto& [waarde, eenheid_tekst] = rij(eenheden, variant);
     // Four different numbers, upward.
     const auto trek_oplopend = [this](int van, int tot) {

@@ -37,7 +37,6 @@ void teken_mens(drawing& on, int midden, int boven, int hoogte, bool half, kleur
 void oefeningen::B_inwoners_04_18_click() {
     static constexpr std::array<int, 3> schalen{1000, 10'000, 100'000};
     kies_variant(3);
-    zaai();
     const int schaal = rij(schalen, variant);
     // With the largest scale, and where that is the wrong one, a million is never reached.
     const int hele = trek_van(3, schaal == 100'000 ? 8 : 14);
@@ -83,7 +82,6 @@ void oefeningen::L_vakanties_04_18_click() {
     static constexpr diagram zonder_helft{{{5, "5/12"}, {4, "1/3"}, {2, "1/6"}, {1, "1/12"}}};
 
     kies_variant(4);
-    zaai();
     const diagram& sectoren = variant <= 2 ? met_helft : zonder_helft;
     static constexpr std::array<point, 4> gevraagd{{{1, 1}, {2, 4}, {1, 2}, {3, 4}}}; // from which to which sector
     const auto [eerste, laatste] = rij(gevraagd, variant);

@@ -16,7 +16,6 @@ void oefeningen::L_inkomen_04_18_click() {
         int vorig_jaar, half_jaar; // euros
     };
     kies_variant(2);
-    zaai();
     const bool stijging = variant == 1;
     const int juist = trek_van(1, 4);
     // One family goes up, or down, against three; the columns are multiples of 5.000. Mostly neither its green column
@@ -91,7 +90,6 @@ void oefeningen::L_regenval_04_18_click() {
     static constexpr std::array<schaal, 5> schalen{
         {{60, 5, 10}, {100, 10, 10}, {120, 10, 20}, {200, 20, 20}, {250, 25, 50}}};
     kies_variant(5);
-    zaai();
     const auto [tot, stap, om] = rij(schalen, variant);
     // The wettest month has more than twice the rain of the driest, so that a reading is never the difference.
     const int minste = trek_van(1, 3) * stap, meeste = tot - trek(3) * stap;
@@ -148,7 +146,6 @@ void oefeningen::Z_roken_04_18_click() {
         int totaal;
     };
     kies_variant(2);
-    zaai();
     const bool meest = variant == 1;
     const int jaar = trek_van(75, 88);
     const int later = jaar + trek_van(5, 10);
@@ -226,7 +223,6 @@ void oefeningen::Z_verkiezingen_04_18_click() {
         "Gemeentebelangen", "Lijst Kroos",    "Dorpspartij",   "Ouderen Vooruit", "Lijst Van Belt"};
     static constexpr std::array<kleur, 5> kleuren{lichtcyaan, geel, lichtgroen, roze, lichtgrijs};
     kies_variant(2);
-    zaai();
     const int procent = variant == 1 ? trek_van(20, 40, 20) : trek_van(60, 80, 20);
     const auto partijen = geschud(namen); // those of the first five columns
     // The columns of the winner, the losers, and the two that stay as they were. In fives, so that 20 % is whole. Who

@@ -27,7 +27,6 @@ void oefeningen::B_rusthuis_04_18_click() {
     static constexpr std::array<int, 18> hoogten{10, 15, 20, 25, 30, 35, 40, 45, 50,
                                                  55, 60, 65, 70, 75, 80, 85, 90, 95};
     kies_variant(2);
-    zaai();
     const bool lijn = variant == 1;
     const int bedden = trek_van(40, 200, 20); // 5 % of them is whole
     const auto procenten = geschud(hoogten);  // no two months have the same
@@ -83,7 +82,6 @@ void oefeningen::B_rusthuis_04_18_click() {
 
 void oefeningen::L_hardlopen_1_04_18_click() {
     kies_variant(4);
-    zaai();
     const bool vrouw = variant % 2 == 1;
     const int duur = vrouw ? 13 : 12;
     const int juist = variant <= 2 ? trek_van(1, 6) : trek_van(7, duur);
@@ -166,7 +164,6 @@ void oefeningen::L_hardlopen_2_04_18_click() {
     static constexpr std::array<std::string_view, 4> grafieken{"hoogste", "op één na hoogste", "op twee na hoogste",
                                                                "laagste"};
     kies_variant(4);
-    zaai();
     const int t = trek_van(60, 100, 10);
     // The ranks of the four at that time and at the finish, where another one has the rank that is asked for.
     const auto stand = geschud(std::array{1, 2, 3, 4});
@@ -227,7 +224,6 @@ void oefeningen::L_hardlopen_2_04_18_click() {
 
 void oefeningen::M_dollars_04_18_click() {
     kies_variant(2);
-    zaai();
     const bool winst = variant == 1;
     const int dollars = trek_van(100, 900, 50);
     const int onderaan = trek_van(60, 84, 2); // eurocents, where the axis begins

@@ -27,7 +27,6 @@ void oefeningen::L_delen_1_09_06_click() {
     static constexpr std::array<std::array<int, 8>, 2> delers{
         {{2, 3, 4, 5, 6, 7, 8, 9}, {11, 12, 13, 14, 15, 16, 18, 25}}};
     kies_variant(2);
-    zaai();
     const int tienden = kies(rij(delers, variant));
     // The dividend has a comma too.
     std::vector<int> quotienten;
@@ -48,7 +47,6 @@ void oefeningen::L_delen_1_09_06_click() {
 void oefeningen::M_delen_2_09_06_click() {
     static constexpr std::array tijden{15, 15, 15, 10};
     kies_variant(4);
-    zaai();
     const int tijd = rij(tijden, variant);
 
     vraag("Je hebt niet veel tijd!", leeg, "Kijk hiernaast.");

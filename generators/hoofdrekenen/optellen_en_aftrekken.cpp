@@ -11,7 +11,6 @@ void oefeningen::L_aftrekken_09_01_click() {
     static constexpr std::string_view van_elkaar = "van elkaar af te trekken zijn. Hier is dat het geval: ";
     static constexpr std::string_view ook_zo = "De som kun je dus ook zo uitrekenen:";
     kies_variant(4);
-    zaai();
     const int tijd = rij(tijden, variant);
     // So many tens, and the units that make a number awkward.
     const auto krom = [this](int tientallen_van, int tientallen_tot) {
@@ -79,7 +78,6 @@ void oefeningen::L_aftrekken_09_01_click() {
 
 void oefeningen::Z_komma_09_06_click() {
     kies_variant(tekenpatronen);
-    zaai();
     const kommasom som = trek_kommasom(toeval, variant);
 
     snel_bord(20, 20);

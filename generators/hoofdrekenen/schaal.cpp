@@ -102,7 +102,6 @@ void oefeningen::L_schaal_10_16_click() {
                                                            {"trein", "de", teken_trein, {2000, 2500, 3000}},
                                                            {"vliegtuig", "het", teken_vliegtuig, {900, 1000, 1200}}}};
     kies_variant(5);
-    zaai();
     const onderwerp& o = rij(onderwerpen, variant);
     const int een_op = kies(o.schalen);
     const int stap = een_op % 100 == 0 ? 1 : 2; // for whole metres in reality

@@ -20,7 +20,6 @@ void oefeningen::L_bezoekers_10_00_click() {
         int vorig_duizend, dit_duizend, vorig_rest, dit_rest;
     };
     kies_variant(2);
-    zaai();
     const auto kinderen = geschud(namen);
     const int duizenden = variant == 1 ? 1000 : 500; // so many thousands are claimed
     const std::string_view aantal = variant == 1 ? "1 miljoen" : "een half miljoen";
@@ -67,7 +66,6 @@ void oefeningen::L_bezoekers_10_00_click() {
 
 void oefeningen::L_schatten_2_10_09_click() {
     kies_variant(2);
-    zaai();
     const bool per_maand = variant == 1;
     // The answer, as round as the wrong ones, makes whole hundreds in a year; the counter shows a little more or less.
     constexpr int stap = 50;
@@ -121,7 +119,6 @@ void oefeningen::M_erfenis_10_07_click() {
                                                       {"een bromfiets", 3},
                                                       {"een antieke vaas", 6}}};
     kies_variant(3); // both amounts just under thousands, both just over, one of each
-    zaai();
     const int erfenis = 1000 * trek_van(20, 60);
     const int belasting = 1000 * trek_van(3, 9);
     const aankoop& koopt = kies(aankopen);
@@ -175,7 +172,6 @@ void oefeningen::M_seconden_10_06_click() {
         std::vector<int> seconden, tienden;
     };
     kies_variant(3); // three, four or five runners
-    zaai();
     const int lopers = variant + 2;
     std::vector<std::string_view> op_het_blad;
     for (const std::string_view naam : geschud(namen))

@@ -34,7 +34,6 @@ void oefeningen::B_gestreept_10_03_click() {
     constexpr point midden{2690, 1065};
     constexpr int straal = 880;
     kies_variant(4); // where the hatched part begins: above, at the right, below, at the left
-    zaai();
     const int stukken = trek_van(1, 3);
     const int procent = 25 * stukken;
     // A little more or less than whole pieces.
@@ -147,7 +146,6 @@ void oefeningen::B_schatten_1_10_09_click() {
           "Een bed is ongeveer",
           " lang."}}};
     kies_variant(10);
-    zaai();
     const ding& d = rij(dingen, variant);
     const eenheid& in = kies(d.andere);
     const auto met_maat = [](kommagetal getal, std::string_view teken) {
@@ -185,7 +183,6 @@ void oefeningen::B_schatten_1_10_09_click() {
 
 void oefeningen::L_betegelen_10_12_click() {
     kies_variant(3); // the width just under whole metres, the length, or both
-    zaai();
     const int breed = trek_van(2, 6);
     const int lang = trek_van(breed + 1, 9);
     const bool breed_krom = variant != 2;

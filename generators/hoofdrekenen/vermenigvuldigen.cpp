@@ -43,7 +43,6 @@ void oefeningen::B_tafels_09_02_click() {
     static constexpr std::array<std::array<int, 2>, 10> tafels{
         {{3, 4}, {6, 7}, {9, 9}, {12, 13}, {15, 15}, {5, 5}, {8, 8}, {14, 14}, {25, 25}, {11, 11}}};
     kies_variant(10);
-    zaai();
     const int b = kies(rij(tafels, variant));
     const int a = kop() ? trek_van(2, 4) : trek_van(6, 9);
     // Near an end of the table the other rows lie on one side.
@@ -67,7 +66,6 @@ void oefeningen::B_tafels_09_02_click() {
 
 void oefeningen::L_keer_09_02_click() {
     kies_variant(2);
-    zaai();
     const int rond = trek(8) * 10 + 20;
     const int verschil = trek(2) + 1;
     const int b = trek(9) * 10 + 15;
@@ -96,7 +94,6 @@ void oefeningen::L_keer_09_02_click() {
 void oefeningen::M_nullen_09_06_click() {
     static constexpr std::array tijden{8, 10, 11, 12};
     kies_variant(4);
-    zaai();
     const int nullen = variant;
     const bool delen = kop();
     // Two or three digits of which the last is no 0, and in a product at most 9,99.

@@ -37,7 +37,6 @@ void oefeningen::M_bacterie_00_11_click() {
     // Some are themselves reached by doubling: more than those takes one period more.
     static constexpr std::array drempels{16, 20, 30, 32, 50, 64, 100, 128, 200, 250, 256, 300, 500, 512, 1000, 1024};
     kies_variant(2);
-    zaai();
     const std::string_view eenheid = variant == 1 ? "minuten" : "uren";
     const int periode = variant == 1 ? trek_van(10, 50, 5) : trek_van(3, 9);
     const int n = kies(drempels);
@@ -78,7 +77,6 @@ void oefeningen::M_bacterie_00_11_click() {
 
 void oefeningen::Z_spaargeld_00_11_click() {
     kies_variant(4);
-    zaai();
     const bool duizenden = variant % 2 == 0, jaar_te_veel = variant <= 2;
     struct rekening {
         int bedrag, p, t, fout_verschil;

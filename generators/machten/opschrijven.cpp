@@ -66,7 +66,6 @@ constexpr int regelhoogte = 430;
 
 void oefeningen::L_korter_00_11_click() {
     kies_variant(2);
-    zaai();
     const bool dubbel = variant == 2;
     // Of two powers neither the bases nor the exponents are equal.
     const auto ander_dan = [this](int getal, int tot) {
@@ -103,7 +102,6 @@ void oefeningen::L_korter_00_11_click() {
 
 void oefeningen::M_bloembollen_00_11_click() {
     kies_variant(2);
-    zaai();
     const int langs_kant = trek_van(5, 15, 5);
     const int b = trek_van(4, 8);
     const int a = langs_kant * b;
@@ -145,7 +143,6 @@ void oefeningen::M_bloembollen_00_11_click() {
 
 void oefeningen::M_fabriekshal_00_11_click() {
     kies_variant(4);
-    zaai();
     const int a = trek(5) + 5 * variant;
     const int prijs = trek_van(12, 48);
     // Base times exponent, or a slip in the square.
@@ -187,7 +184,6 @@ void oefeningen::M_stroopwafels_00_11_click() {
          {"Jiska....... ", "Tim......... ", "Pieter...... ", "Ilse........ "},
          {"Jochem...... ", "Linda....... ", "Joost....... ", "Suzan....... "}}};
     kies_variant(3);
-    zaai();
     const int k = kies(std::array{2, 4, 5, 6, 7, 8, 9, 10}); // swapped, 3^3 is what it was
     const int n = trek_van(8, 40, 2);
     // Base times exponent, or a layer too many.

@@ -25,7 +25,6 @@ std::array<keuze<long long>, 3> vergissingen_bij(const macht& m) {
 
 void oefeningen::B_snel_00_11_click() {
     kies_variant(3);
-    zaai();
     const int n = trek(4) + 4 * variant;
     const int kwadraat = n * n;
 
@@ -46,7 +45,6 @@ void oefeningen::B_snel_00_11_click() {
 
 void oefeningen::L_berekenen_00_11_click() {
     kies_variant(2);
-    zaai();
     const macht m = kies(rij(machten, variant));
     const number_text uitkomst = tekst(m.waarde());
 
@@ -63,7 +61,6 @@ void oefeningen::L_berekenen_00_11_click() {
 
 void oefeningen::L_in_woorden_00_11_click() {
     kies_variant(2);
-    zaai();
     const macht m = kies(rij(machten, variant));
     const std::string naam = machtnaam_voluit(m.exponent);
     const number_text uitkomst = tekst(m.waarde());
@@ -83,7 +80,6 @@ void oefeningen::L_in_woorden_00_11_click() {
 
 void oefeningen::L_volgorde_00_11_click() {
     kies_variant(4);
-    zaai();
     const bool kwadraat = kop();
     const macht m = kwadraat ? macht{trek_van(2, 10), 2} : macht{trek_van(2, 5), 3};
     const int p = static_cast<int>(m.waarde());

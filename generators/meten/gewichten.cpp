@@ -10,7 +10,6 @@ namespace cijferwerf {
 
 void oefeningen::L_gewichten_08_17_click() {
     kies_variant(2);
-    zaai();
     const bool naar_kleiner = variant == 1;
     const int stappen = trek(3) + 1;
     const auto plaats = static_cast<std::size_t>(trek(7 - stappen));
@@ -62,7 +61,6 @@ void oefeningen::L_gewichten_08_17_click() {
 
 void oefeningen::L_optellen_08_17_click() {
     kies_variant(4);
-    zaai();
     const bool eerste_om = variant % 2 == 1, naar_kleiner = variant <= 2;
     const auto stap = static_cast<std::size_t>(trek(6));
     const eenheid &groot = gewichtsmaten.at(stap), &klein = gewichtsmaten.at(stap + 1);
@@ -96,7 +94,6 @@ void oefeningen::M_worst_08_17_click() {
                                                             {"5,0 kg", 500, "500 gram"},
                                                             {" 10 kg", 1000, "1.000 gram"}}};
     kies_variant(5);
-    zaai();
     const weegschaal& schaal = rij(weegschalen, variant);
     const int per_streepje = schaal.gram_per_streepje, maximum = 10 * per_streepje;
     const int streepje = trek_van(2, 9);

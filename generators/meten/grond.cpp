@@ -61,7 +61,6 @@ const std::vector<stuk_grond>& stukken(int omtrek, int oppervlakte) {
 void oefeningen::M_draad_07_12_click() {
     static constexpr std::array<std::string_view, 3> letters{"A", "B", "C"};
     kies_variant(2);
-    zaai();
     const bool kortste = variant == 1;
     const int juist = trek(4) + 1;
     const bool even_lang = juist == 4;

@@ -28,7 +28,6 @@ void oefeningen::B_inhoud_08_17_click() {
           {{{maat("cm"), maat("mm")}, {maat("cm²"), maat("dm²")}, {maat("g"), maat("kg")}}}}}};
     static constexpr std::array<kleur, 4> kleuren{rood, groen, blauw, lichtgrijs};
     kies_variant(5);
-    zaai();
     const gemeten_ding& ding = rij(dingen, variant);
     const auto opties = aanvullingen(toeval, ding);
 
@@ -137,7 +136,6 @@ void oefeningen::B_schatten_08_17_click() {
             {maat("cL"), maat("dL"), maat("daL"), maat("hL")},
             {maat("kg"), maat("dm")}}}}}};
     kies_variant(4);
-    zaai();
     const ding& d = kies(rij(dingen, variant));
     const auto met = [](kommagetal getal, const eenheid& e) {
         return regel(komma_kort(getal), " ", e.teken == "g" ? "gram" : e.teken);
@@ -190,7 +188,6 @@ void oefeningen::L_doos_08_17_click() {
         std::string tekst() const { return in_liter ? regel(duizend(mL / 1000), " liter") : regel(duizend(mL), " mL"); }
     };
     kies_variant(2);
-    zaai();
     const bool in_dm = variant == 1;
     // A measure of 1 would make the area of a face equal to the volume.
     const int lang = trek(2) + 2;
@@ -235,7 +232,6 @@ void oefeningen::L_watertank_07_17_click() {
     static constexpr std::array<eenheid, 8> gevraagde{maat("mL"), maat("cL"),  maat("dL"),  maat("daL"),
                                                       maat("hL"), maat("cm³"), maat("dm³"), maat("m³")};
     kies_variant(8);
-    zaai();
     const eenheid liter = maat("liter");
     const eenheid& gevraagd = rij(gevraagde, variant);
     const int liters = trek_tot([this] { return trek_van(2, 89); }, [](int drawn) { return drawn % 10 != 0; });

@@ -30,7 +30,6 @@ void oefeningen::L_schilder_07_12_click() {
          {"Heb je wel eerst de oppervlakte van het plafond", "berekend?", "Daarna moet je dat aantal m² delen door het",
           "aantal m² dat uit een pot te halen is."}}};
     kies_variant(2);
-    zaai();
     const klus k = trek_tot(
         [this] {
             const int breed = trek(10) + 3;
@@ -89,7 +88,6 @@ void oefeningen::M_behangen_07_09_click() {
          {"Wat er van een rol overblijft, is te kort voor een baan.",
           "Rond het aantal banen per rol dus naar beneden af."}}};
     kies_variant(2);
-    zaai();
     const bool korte_rollen = variant == 1;
     const klus k = trek_tot(
         [&] {

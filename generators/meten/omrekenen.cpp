@@ -26,7 +26,6 @@ omzetting maak_omzetting(int tienden, int stappen, int plaats, bool groter) {
 
 void oefeningen::L_snel_1_07_09_click() {
     kies_variant(2);
-    zaai();
     const int tienden = trek_van(10, 99);
     const int stappen = trek(3) + 1;
     const int plaats = trek(7 - stappen);
@@ -51,7 +50,6 @@ void oefeningen::L_snel_1_07_09_click() {
 
 void oefeningen::L_snel_2_07_09_click() {
     kies_variant(2);
-    zaai();
     const int tienden = trek_van(10, 99);
     const int stappen = trek(3) + 1;
     const int plaats = trek(7 - stappen);
@@ -77,7 +75,6 @@ void oefeningen::L_snel_2_07_09_click() {
 
 void oefeningen::L_optellen_1_07_09_click() {
     kies_variant(2);
-    zaai();
     const auto stap = static_cast<std::size_t>(trek(6));
     const maatsom s =
         trek_tot([&] { return trek_maatsom(toeval, lengtematen[stap], lengtematen[stap + 1], variant == 1); },
@@ -99,7 +96,6 @@ void oefeningen::L_optellen_1_07_09_click() {
 
 void oefeningen::L_optellen_2_07_09_click() {
     kies_variant(2);
-    zaai();
     const auto stap = static_cast<std::size_t>(trek(6));
     const maatsom s =
         trek_tot([&] { return trek_maatsom(toeval, lengtematen[stap + 1], lengtematen[stap], variant == 1); },

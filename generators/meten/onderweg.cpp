@@ -18,7 +18,6 @@ void oefeningen::L_fietsen_07_09_click() {
     static constexpr std::array<std::array<int, 2>, 9> bijna_goed{
         {{-10, -1}, {-11, -9}, {-2, -1}, {-1, 1}, {-10, 1}, {-1, 10}, {1, 10}, {9, 11}, {1, 2}}};
     kies_variant(2);
-    zaai();
     const bool in_km = variant == 1;
     const std::string_view fietser = kies(fietsers);
     // Tenths of a kilometre.
@@ -62,7 +61,6 @@ void oefeningen::L_fietsen_07_09_click() {
 
 void oefeningen::L_vakantie_07_09_click() {
     kies_variant(2);
-    zaai();
     // On a mark with a number beside it, or on one between two of those.
     const int snelheid = variant == 1 ? trek_van(60, 120, 20) : trek_van(50, 110, 20);
     const int uren = trek_van(3, 12);
@@ -109,7 +107,6 @@ void oefeningen::Z_vliegtuig_07_09_click() {
     static constexpr std::array<std::string_view, 5> maatschappijen{"KL", "CT", "AC", "BP", "SD"};
     static constexpr std::array<std::string_view, 6> pieren{"A", "B", "C", "D", "E", "F"};
     kies_variant(2);
-    zaai();
     const int snelheid = trek_van(600, 900, 20);
     const int halve_uren = variant == 1 ? trek_van(4, 16, 2) : trek_van(3, 15, 2);
     // Four flights of different lengths, one of them so long, with different numbers.

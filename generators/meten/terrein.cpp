@@ -42,7 +42,6 @@ roosterfiguur maak_figuur(const halve_kolommen& kolommen, int stijgt, point begi
 
 void oefeningen::M_figuren_07_12_click() {
     kies_variant(2);
-    zaai();
     const bool kleinste = variant == 1;
     // In half squares.
     const auto oppervlakten = geschud(std::array{14, 15, 16, 17, 18, 19, 20, 21, 22});
@@ -94,7 +93,6 @@ void oefeningen::M_figuren_07_12_click() {
 
 void oefeningen::Z_tegels_07_12_click() {
     kies_variant(2);
-    zaai();
     const bool lange_kant_onder = variant == 1;
     // The two lengths differ by an even number, so that half of both together is whole.
     const int kort = trek_van(6, 12);
@@ -149,7 +147,6 @@ void oefeningen::M_opbrengst_08_12_click() {
     static constexpr std::array prijzen{2, 3, 4, 5, 6, 8, 10, 12, 15, 20};
     constexpr int grootste_bedrag = 999'999;
     kies_variant(2);
-    zaai();
     const int omtrek = (trek(100) + (variant == 1 ? 0 : 100)) * 4 + 100;
     const int zijde = omtrek / 4, oppervlakte = zijde * zijde, halve = omtrek / 2;
     // The largest of the wrong amounts has to stay below a million.

@@ -66,7 +66,6 @@ L_tekening teken_L(drawing& on, const L_vorm& l, kleur rechthoek, kleur vierkant
 
 void oefeningen::M_L_vorm_07_12_click() {
     kies_variant(2);
-    zaai();
     const int breed = trek(20) + 5;
     const int hoog = trek(3) + 12;
     const int zijde = trek(7) + 3;
@@ -100,7 +99,6 @@ void oefeningen::M_L_vorm_07_12_click() {
 
 void oefeningen::M_tuin_07_09_click() {
     kies_variant(2);
-    zaai();
     const int zijde = trek_van(4, 12);
     const int breed = trek_van(6, 20);
     const int hoog = zijde + trek_van(3, 9);

@@ -26,7 +26,6 @@ void oefeningen::B_oppervlakte_07_12_click() {
           {{{maat("m"), maat("dam")}, {maat("kg"), maat("g")}, {maat("liter"), maat("hL")}}}}}};
     static constexpr std::array<kleur, 4> kleuren{rood, geel, wit, groen};
     kies_variant(5);
-    zaai();
     const gemeten_ding& ding = rij(dingen, variant);
     const auto opties = aanvullingen(toeval, ding);
 
@@ -55,7 +54,6 @@ void oefeningen::B_rechthoek_07_12_click() {
         int lang, kort; // cm
     };
     kies_variant(2);
-    zaai();
     const bool lange_in_m = variant == 1;
     // The side in metres has one decimal; the other one could not be written in whole metres.
     const rechthoek r = trek_tot(
@@ -132,7 +130,6 @@ void oefeningen::L_doos_07_12_click() {
         }
     };
     kies_variant(3);
-    zaai();
     // One measure is small, and which one is drawn.
     const doos d = trek_tot(
         [this] {
@@ -173,7 +170,6 @@ void oefeningen::L_doos_07_12_click() {
 
 void oefeningen::M_bedrijfsruimte_07_12_click() {
     kies_variant(4);
-    zaai();
     const bool in_m = variant % 2 == 1;
     const int stap = trek(12);
     const int kort = stap * 10 + (variant <= 2 ? 40 : 160), lang = kort * 13 / 10; // dm

@@ -14,7 +14,6 @@ std::string in_euros(int euros) { return regel(kaal(duizend(euros)), " euro"); }
 
 void oefeningen::L_computer_01_08_click() {
     kies_variant(3);
-    zaai();
     const int prijs = trek(90) * 100 + 1000;
     const int korting = trek_tot(
         [this] {
@@ -53,7 +52,6 @@ void oefeningen::L_computer_01_08_click() {
 
 void oefeningen::M_hele_procenten_01_08_click() {
     kies_variant(2);
-    zaai();
     const int p = variant == 1 ? trek(7) + 2 : trek(89) + 11;
     zaai();
     const int basis = trek(320) * 100; // 0 is possible: then every answer is 0
@@ -115,7 +113,6 @@ void oefeningen::M_rente_01_08_click() {
                                                      {"Nischa", false},
                                                      {"Saoed", true}}};
     kies_variant(2);
-    zaai();
     const bool volwassen = variant == 1;
     const int oud = volwassen ? trek(80) * 100 + 1000 : trek(8) * 100 + 100;
     const int p = trek(7) + 3;
@@ -162,7 +159,6 @@ void oefeningen::M_rente_01_08_click() {
 
 void oefeningen::Z_kommaprocenten_01_08_click() {
     kies_variant(4);
-    zaai();
     // The percentage in hundredths and the base, so that 1 % and the answer have at most two decimals.
     int p = 0;
     int basis = 0;

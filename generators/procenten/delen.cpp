@@ -23,7 +23,6 @@ void oefeningen::L_snel_01_08_click() {
                                        {{5, 1}, {75, 25}, {2, 50}, {10, 100}},
                                        {{10, 10}, {1, 25}, {2, 50}, {5, 75}}};
     kies_variant(4);
-    zaai();
     const auto& vorm = vormen[variant - 1];
     const auto een_van = [this](const paar& p) {
         return p.eerste == p.tweede ? p.eerste : kop() ? p.eerste : p.tweede;
@@ -67,7 +66,6 @@ void oefeningen::B_alcohol_01_08_Click() {
                                                 {25, "1/4", 25, "2/5"},
                                                 {40, "2/5", 20, "1/4"}}};
     kies_variant(4);
-    zaai();
     const paar& deel = rij(paren, 2 * variant - (kop() ? 1 : 0));
     const int noemer = 100 / deel.gedeeld_door;
     const int getrokken = trek(850) + 150;
@@ -128,7 +126,6 @@ void oefeningen::L_bevolking_01_08_click() {
     static constexpr std::array<kleur, 4> kleuren{blauw, geel, rood, lichtgroen};
 
     kies_variant(10);
-    zaai();
     const gebied& plaats = rij(gebieden, variant);
     const auto groepen = geschud(plaats.groepen);
     const int juist = trek(4) + 1;
@@ -184,7 +181,6 @@ void oefeningen::B_grasveld_01_08_click() {
         int procent(int aantal) const { return aantal * 100 / baantjes; }
     };
     kies_variant(2);
-    zaai();
     const auto [n, m] = trek_tot(
         [this] {
             const int baantjes = rij(aantallen, trek(7) + 1);

@@ -23,7 +23,6 @@ constexpr std::array<std::string_view, 29> clubs{
 
 void oefeningen::L_voetbal_01_08_click() {
     kies_variant(5);
-    zaai();
     const int mensen = trek(10) * 1000 + 3000;
     const int procent_thuis = trek(40) + 55;
     struct affiche {
@@ -87,7 +86,6 @@ void oefeningen::L_examen_01_08_click() {
     static constexpr std::array<std::string_view, 6> examenmaanden{"januari",  "mei",     "juni",
                                                                    "augustus", "oktober", "december"};
     kies_variant(8);
-    zaai();
     const bool gezakt = variant % 2 == 1;
     const groep& vorm = rij(groepen, (variant + 1) / 2);
     struct uitslag {
@@ -170,7 +168,6 @@ void oefeningen::M_blessures_01_08_click() {
     };
 
     kies_variant(4);
-    zaai();
     const bool grootst = variant > 2;
     const std::string_view land = kies(landen);
     const int periode_nummer = trek_van(1, 19);

@@ -21,7 +21,6 @@ void oefeningen::M_snel_06_04_click() {
                                                     {"uren", "uur", "minuten", 60, 9},
                                                     {"minuten", "minuut", "seconden", 60, 9}}};
     kies_variant(5);
-    zaai();
     const int k = trek(8) + 2;
     const tijdmaat& maat = rij(maten, variant);
     const int juist = k * maat.factor;
@@ -41,7 +40,6 @@ void oefeningen::M_snel_06_04_click() {
 
 void oefeningen::B_datum_06_04_click() {
     kies_variant(2);
-    zaai();
     const int dag = variant == 1 ? trek(19) + 10 : trek(9) + 1;
     const int maand = trek(12) + 1;
     const int jaar = trek(50) + 1950;
@@ -85,7 +83,6 @@ void oefeningen::L_boeken_06_04_click() {
          {"Reken eerst uit hoeveel dagen het zijn. Hoeveel", "daarvan vallen er al in de volgende maand?"}}};
     // The month is over before the books are due, or not: those who cross its end leave two days on either side.
     kies_variant(3);
-    zaai();
     const bool over_de_maand = variant > 1;
     const persoon& lezer = kies(lezers);
     const int weken = over_de_maand ? trek_van(2, 4) : trek_van(2, 3);
@@ -130,7 +127,6 @@ void oefeningen::L_boeken_06_04_click() {
 
 void oefeningen::M_kilometers_06_04_click() {
     kies_variant(2);
-    zaai();
     const bool per_maand = variant == 1;
     // A round number that twelve or fifty-two divides, and on the counter one near it. With 15.600 a year of 48 weeks
     // would give what a wrong rounding gives.

@@ -22,7 +22,6 @@ void oefeningen::B_wedstrijd_06_04_click() {
     static constexpr std::array<std::string_view, 3> klassen{"HOOFDKLASSE-", "OVERGANGSKLASSE-", "AFDELING-"};
     static constexpr std::array<std::string_view, 4> streken{"NOORD", "OOST", "ZUID", "WEST"};
     kies_variant(4);
-    zaai();
     // By sub-variant on the hour or five past, and of one hour or of two.
     const auto namen = geschud(clubs);
     const std::string_view thuis = kop() ? ".V.C." : ".V.V.", uit = kop() ? ".V.C." : ".V.V.";
@@ -82,7 +81,6 @@ void oefeningen::L_wachten_06_04_click() {
          {"Lees het horloge af. Reken daarna eerst tot", "het volgende hele uur..."},
          {"Begin met de tijd van het horloge en vul die", "eerst aan tot een heel uur."}}};
     kies_variant(4);
-    zaai();
     // By sub-variant in steps of five minutes or of one; the minutes of the departure are more than those of the
     // arrival, or fewer.
     const persoon& wie = kies(reizigers);
@@ -145,7 +143,6 @@ void oefeningen::M_naar_school_06_04_click() {
     static constexpr std::array<std::string_view, 10> namen{"Jelmer", "Petra", "Johan", "Johanna", "Peter",
                                                             "Diana",  "Meded", "Malti", "Milan",   "Firozha"};
     kies_variant(4);
-    zaai();
     // By sub-variant without or with a whole hour between, and in steps of five minutes or of one.
     const std::string_view naam = kies(namen);
     const bool uur_ertussen = variant % 2 == 0;
@@ -192,7 +189,6 @@ void oefeningen::M_trein_06_04_click() {
                                                              "Leeuwarden", "Nijmegen",   "Arnhem",    "Den Helder",
                                                              "Den Bosch",  "Den Haag",   "Rotterdam", "Utrecht"};
     kies_variant(4);
-    zaai();
     // By sub-variant one to three quarters, with a delay that stays within the hour, and in the last one goes past it.
     const std::string_view naam = kies(namen);
     const auto richtingen = geschud(steden);
@@ -293,7 +289,6 @@ void oefeningen::Z_wereldtijden_06_04_click() {
          {"Het scheelt een uurtje.", "Je zit er een paar uurtjes naast.",
           "Heb je je soms in het deel van de dag vergist?"}}};
     kies_variant(4);
-    zaai();
     // By sub-variant earlier or later than in London, in either city, and in both on the same day.
     const auto steden = geschud(wereldsteden);
     const auto een_die = [&](auto past) { return *std::find_if(steden.begin(), steden.end(), past); };

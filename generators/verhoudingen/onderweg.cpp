@@ -20,7 +20,6 @@ void oefeningen::L_fietspad_1_02_16_click() {
     static constexpr std::array<std::array<int, 3>, 5> lengten{
         {{2, 4, 5}, {3, 6, 9}, {7, 8, 9}, {12, 15, 20}, {16, 25, 30}}};
     kies_variant(5);
-    zaai();
     const int c = kies(rij(lengten, variant));
     // The scale in thousands, such that dividing leaves whole metres.
     const int stap = c / std::gcd(c, 10);
@@ -50,7 +49,6 @@ void oefeningen::L_fietspad_1_02_16_click() {
 
 void oefeningen::M_fietspad_2_02_16_click() {
     kies_variant(5);
-    zaai();
     // In half kilometres: 1 or 2 km, 3 or 4, 5 or 6, 7 to 9, and in the last sub-variant 1,5 to 8,5.
     const int halve = variant == 5   ? trek_van(3, 17, 2)
                       : variant == 4 ? trek_van(14, 18, 2)
@@ -107,7 +105,6 @@ void oefeningen::Z_brandstofverbruik_02_16_click() {
          {"Hoeveel eurocent kost 1 km rijden bij de eerste", "auto? Reken dat ook voor de andere drie uit.",
           "Deel steeds de prijs van een liter door het getal", "achter de dubbele punt. Welke prijs is het laagst?"}}};
     kies_variant(5);
-    zaai();
     const auto namen = geschud(merken);
     const int stap = rij(stappen, variant);
     const wagen beste{namen[0], trek_van(120, 150, stap), trek_van(14, 18)};

@@ -61,7 +61,6 @@ void oefeningen::B_huis_02_16_click() {
         std::string_view bijvoeglijk() const { return cijferwerf::bijvoeglijk(verf); }
     };
     kies_variant(4);
-    zaai();
     const bool grootste = variant % 2 == 1;
     const bool gelijk = variant > 2 && kop();
     const auto verf = geschud(std::array{blauw, rood, geel, groen, paars, wit});
@@ -133,7 +132,6 @@ void oefeningen::B_maatbeker_02_16_click() {
         {{5, 8, geel}, {7, 10, lichtgroen}, {9, 13, roze}, {12, 16, lichtcyaan}}};
     static constexpr int links = 2000, breedte = 1300, bodem = 1980, hoogte = 1760;
     kies_variant(4);
-    zaai();
     const auto& [minste, meeste, limonade] = rij(bekers, variant);
     const int n = trek_van(minste, meeste);
     const int vol =
@@ -187,7 +185,6 @@ void oefeningen::L_cirkels_02_16_click() {
         {{2, 3}, {2, 4}, {3, 4}, {3, 6}, {4, 6}, {4, 8}, {2, 8}}};
     static constexpr int straal = 770, midden_y = 1000;
     kies_variant(7);
-    zaai();
     const auto noemer = geschud(rij(noemers, variant));
     const auto trek_teller = [this](int van) {
         return trek_tot([&] { return trek(van - 1) + 1; }, [&](int drawn) { return std::gcd(drawn, van) == 1; });
@@ -247,7 +244,6 @@ void oefeningen::M_tandwielen_02_16_click() {
     static constexpr std::array<tandwielen, 10> paren{
         {{12, 24}, {10, 20}, {8, 24}, {10, 30}, {12, 18}, {16, 24}, {12, 16}, {18, 24}, {12, 20}, {18, 30}}};
     kies_variant(2);
-    zaai();
     const auto [klein, groot] = kies(paren);
     const bool groot_links = kop();
     const int links = groot_links ? groot : klein, rechts = groot_links ? klein : groot;

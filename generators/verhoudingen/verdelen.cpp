@@ -19,7 +19,6 @@ void oefeningen::B_vakantie_02_16_click() {
     static constexpr std::array<std::string_view, 3> aantallen{"Een", "Twee", "Drie"};
 
     kies_variant(3);
-    zaai();
     const bool enkele = variant == 2 || (variant == 3 && kop());
     const auto [minderheid, geheel] = enkele ? kies(enkele_van) : kies(een_van);
     const int deel = variant == 3 && kop() ? geheel - minderheid : minderheid;
@@ -68,7 +67,6 @@ void oefeningen::L_museum_02_16_click() {
     };
     static constexpr std::array<grenzen, 5> een_op{{{3, 5}, {6, 8}, {9, 11}, {12, 15}, {16, 20}}};
     kies_variant(5);
-    zaai();
     const auto [minste, meeste] = rij(een_op, variant);
     const int k = trek_van(minste, meeste);
     const int deelbaar = k * (k + 1); // also by the wrong divisor
@@ -81,9 +79,12 @@ void oefeningen::L_museum_02_16_click() {
     plaatje.polygon(dak, donkerblauw, true);
     plaatje.polygon(dak, wit, false);
     for (int x = 1100; x <= 4100; x += 600) plaatje.filled_box(x, 860, 180, 900, lichtgrijs);
-    plaatje.filled_box(900, 800, 3580, 70, wit);
-    plaatje.filled_box(800, 1760, 3780, 90, wit);
-    plaatje.filled_box(700, 1850, 3980, 90, lichtgrijs);
+    const auto balk = [this](int breedte, int boven, int hoogte, kleur in) {
+        plaatje.filled_box((drawing::inner_width - breedte) / 2, boven, breedte, hoogte, in);
+    };
+    balk(3580, 800, 70, wit);
+    balk(3780, 1760, 90, wit);
+    balk(3980, 1850, 90, lichtgrijs);
     druk_midden(2690, 430, "MUSEUM");
 
     vraag("In een museum komen per dag gemiddeld", regel(kaal(duizend(mensen)), " mensen."),
@@ -104,7 +105,6 @@ void oefeningen::L_museum_02_16_click() {
 void oefeningen::Z_tuinman_02_16_click() {
     static constexpr std::array<std::string_view, 4> plaatsen{"Hillegom", "Lisse", "Vogelenzang", "de Keukenhof"};
     kies_variant(5);
-    zaai();
     const int r = variant + 1;
     const int samen = r + 1;
     const int deelbaar = r * samen; // also by the wrong divisor
@@ -141,7 +141,6 @@ void oefeningen::Z_uitgaven_02_16_click() {
         "weekje Egmond",    "weekje Zandvoort", "weekje Scheveningen", "weekje Zeeland",
         "weekje Amsterdam", "weekje Drente",    "weekje Rotterdam",    "weekje Katwijk"};
     kies_variant(2);
-    zaai();
     const auto namen = geschud(families);
     const auto personen = geschud(std::array{2, 3, 4, 5, 6, 7});
     const std::string_view een = namen[0], ander = namen[1], uitstapje = kies(uitstapjes);

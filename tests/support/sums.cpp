@@ -295,7 +295,9 @@ private:
     }
     // Whether a sum that could not be read from its beginning has this token before what could be read.
     bool goes_on_from(std::size_t i, const side& found) const {
-        if (is(i, kind::sign) || is(i, kind::number) || is_word(i, "van") || is_word(i, "door")) return true;
+        const bool part =
+            is_word(i, "van") && i > 0 && (!is(i - 1, kind::word) || is_word(i - 1, "%") || is_word(i - 1, "deel"));
+        if (is(i, kind::sign) || is(i, kind::number) || part || is_word(i, "door")) return true;
         const std::size_t unit = i > 0 && is_word(i, "en") ? i - 1 : i;
         return found.terms == 1 && find_unit(tokens_[unit].text);
     }
