@@ -364,11 +364,11 @@ private:
 std::optional<unit_size> find_unit(std::string_view name) {
     static const auto all = [] {
         std::map<std::string, unit_size, std::less<>> found{
-            {"uur", {5, 3600}},  {"uren", {5, 3600}},  {"minuut", {5, 60}}, {"minuten", {5, 60}},  {"min", {5, 60}},
-            {"seconde", {5, 1}}, {"seconden", {5, 1}}, {"sec", {5, 1}},     {"dagen", {5, 86400}}, {"cent", {6, 1}},
-            {"euro", {6, 100}},  {"€", {6, 100}},      {"Wh", {7, 1}},      {"kWh", {7, 1000}},    {"watt", {8, 1}},
-            {"W", {8, 1}},       {"kW", {8, 1000}},    {"l", {2, 1e3}},     {"ml", {2, 1}},        {"cl", {2, 10}},
-            {"dl", {2, 100}},    {"L", {2, 1e3}},      {"ton", {3, 1e9}},   {"kilo", {3, 1e6}}};
+            {"uur", {5, 3600}},   {"uren", {5, 3600}},  {"minuut", {5, 60}}, {"minuten", {5, 60}},  {"min", {5, 60}},
+            {"seconde", {5, 1}},  {"seconden", {5, 1}}, {"sec", {5, 1}},     {"dagen", {5, 86400}}, {"cent", {6, 1}},
+            {"eurocent", {6, 1}}, {"euro", {6, 100}},   {"€", {6, 100}},     {"Wh", {7, 1}},        {"kWh", {7, 1000}},
+            {"watt", {8, 1}},     {"W", {8, 1}},        {"kW", {8, 1000}},   {"l", {2, 1e3}},       {"ml", {2, 1}},
+            {"cl", {2, 10}},      {"dl", {2, 100}},     {"L", {2, 1e3}},     {"ton", {3, 1e9}},     {"kilo", {3, 1e6}}};
         const auto add = [&](const auto& ladder) {
             for (const eenheid& each : ladder) {
                 const unit_size size{static_cast<int>(each.soort), std::pow(10, each.macht)};
