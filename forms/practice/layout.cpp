@@ -60,12 +60,12 @@ bool antwoordindeling::past(std::string_view antwoord) const {
 }
 
 antwoordindeling leg_antwoorden(std::span<const std::string, 4> antwoorden, bool naast_rekenmachine) {
+    // At the first size at which they do, or else the last.
     const auto all_fit = [&](antwoordindeling& tried) {
-        tried.punten = grootste(antwoord_stappen, [&](double punten) {
+        return std::ranges::any_of(antwoord_stappen, [&](double punten) {
             tried.punten = punten;
             return std::ranges::all_of(antwoorden, [&](const std::string& text) { return tried.past(text); });
         });
-        return std::ranges::all_of(antwoorden, [&](const std::string& text) { return tried.past(text); });
     };
     antwoordindeling two_by_two = indeling(naast_elkaar, 2, 4945, 930);
     if (!naast_rekenmachine && all_fit(two_by_two)) return two_by_two;
