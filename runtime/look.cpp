@@ -20,7 +20,7 @@ constexpr int hairline = 15, hovered_edge = 30, chosen_edge = 45, box_edge = 22,
 constexpr int panel_corner = 120, button_corner = 105, menu_corner = 150, start_corner = 180, letter_corner = 90,
               key_corner = 75, row_corner = 75;
 constexpr int button_padding = 105;
-constexpr int list_top = 75, list_side = 60, highest_row = 420;
+constexpr int list_top = 75, list_side = 60, usual_row = 420;
 
 // A colour so many hundredths of the way from one to another.
 rgb24 blend(rgb24 from, rgb24 to, int hundredths) {
@@ -683,8 +683,7 @@ scene face_of(const form& on, const control& shown, control_state now, look_sett
 }
 
 place row_place(const list_box& list, int row) {
-    const int fair = (list.height - 2 * list_top) / std::max(1, static_cast<int>(list.items.size()));
-    const int height = list.row_height > 0 ? list.row_height : std::min(highest_row, fair);
+    const int height = list.row_height > 0 ? list.row_height : usual_row;
     return {list_side, list_top + row * height, list.width - 2 * list_side, height};
 }
 
