@@ -2,7 +2,6 @@
 
 #include "desktop/shipped.h"
 #include "runtime/drawn.h"
-#include "runtime/look.h"
 
 #include <algorithm>
 #include <array>
@@ -12,15 +11,10 @@ namespace cijferwerf {
 
 namespace {
 
-constexpr double narrowing = 0.9; // picture text is set at 90 % of the face's width
-constexpr double twips_per_pixel = 15;
-
 QColor rgb(const drawing& shown, kleur colour) { return QColor::fromRgb(colour_on(shown, colour)); }
 
-// A line of more than a pixel has no gaps.
 Qt::PenStyle pen_style(const pen& with) {
-    if (with.width > 1 && with.style != line_style::transparent) return Qt::SolidLine;
-    switch (with.style) {
+    switch (style_of(with)) {
     case line_style::dash: return Qt::DashLine;
     case line_style::dot: return Qt::DotLine;
     case line_style::dash_dot: return Qt::DashDotLine;
@@ -44,9 +38,7 @@ public:
           pixels_(on.device()->devicePixelRatioF()) {}
 
     void operator()(const text_op& op) {
-        const int baseline = static_cast<int>(std::lround(look::ascent * op.size * 20));
-        paint_text(on_, {0, baseline, op.size, false, text_colour_on(shown_, op.colour), op.text}, place({op.x, op.y}),
-                   {unit_ * narrowing, unit_down_});
+        paint_text(on_, line_of(shown_, op), place({op.x, op.y}), {unit_ * narrowing, unit_down_});
     }
 
     void operator()(const line_op& op) {

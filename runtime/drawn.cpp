@@ -1,5 +1,7 @@
 #include "runtime/drawn.h"
 
+#include "runtime/look.h"
+
 #include <algorithm>
 #include <climits>
 #include <cmath>
@@ -8,8 +10,6 @@
 namespace cijferwerf {
 
 namespace {
-
-constexpr int twips_per_pixel = 15;
 
 class bounds {
 public:
@@ -74,6 +74,15 @@ double luminance(rgb24 colour) {
 }
 
 } // namespace
+
+line_style style_of(const pen& with) {
+    return with.width > 1 && with.style != line_style::transparent ? line_style::solid : with.style;
+}
+
+scene_text line_of(const drawing& shown, const text_op& text) {
+    const int baseline = static_cast<int>(std::lround(look::ascent * text.size * 20));
+    return {0, baseline, text.size, false, text_colour_on(shown, text.colour), text.text};
+}
 
 place drawn_bounds(const drawing& shown) {
     bounds all;

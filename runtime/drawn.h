@@ -1,4 +1,4 @@
-// What a drawing covers, and the colours in which its operations come out.
+// What a drawing covers, and how its operations come out: colours, lines, texts.
 // Painting them is left to a front end or a writer.
 #pragma once
 
@@ -6,6 +6,13 @@
 #include "runtime/scene.h"
 
 namespace cijferwerf {
+
+inline constexpr int twips_per_pixel = 15; // of the width of a pen
+// A line of more than a pixel has no gaps.
+line_style style_of(const pen& with);
+// A text of a drawing on a line whose top-left corner is the origin. It is narrower than the face, as text_width says.
+inline constexpr double narrowing = 0.9;
+scene_text line_of(const drawing& shown, const text_op& text);
 
 // The smallest place that holds all operations, lines with their thickness; empty without any.
 place drawn_bounds(const drawing& shown);

@@ -11,24 +11,21 @@ namespace cijferwerf {
 
 namespace {
 
-constexpr int twips_per_pixel = 15;
-constexpr double narrowing = 0.9; // picture text is set at 90 % of the face's width
-
 // Gathers elements. An attribute is a name and a value: add(" x=", 5) writes x="5".
 class writer {
 public:
     explicit writer(std::string& out) : out_(out) {}
 
     void operator()(const text_op& op) {
-        out_ += "<text";
-        out_ += " transform=\"translate(";
+        out_ += "<g transform=\"translate(";
         number(op.x);
         out_ += ' ';
-        number(op.y + look::ascent * op.size * 20);
+        number(op.y);
         out_ += ") scale(";
         number(narrowing);
-        out_ += " 1)\"";
-        words(op.text, op.size, text_colour_on(*drawn_, op.colour));
+        out_ += " 1)\">";
+        (*this)(line_of(*drawn_, op));
+        out_ += "</g>\n";
     }
     void operator()(const line_op& op) {
         if (op.pen.style == line_style::transparent) return;
@@ -237,7 +234,7 @@ private:
         }
         out_ += '"';
     }
-    // A line of more than a pixel has no gaps; a filled shape is all of the pen's colour.
+    // A filled shape is all of the pen's colour.
     void paint(const pen& pen, bool filled) {
         const rgb24 drawn_in = colour_on(*drawn_, pen.colour);
         colour(" fill", filled ? std::optional(drawn_in) : std::nullopt);
@@ -245,8 +242,8 @@ private:
             colour(" stroke", drawn_in);
             with(" stroke-width", pen.width * twips_per_pixel);
             constexpr std::string_view dashes[]{"", "60 30", "15 30", "60 30 15 30", "60 30 15 30 15 30", "", ""};
-            const std::string_view dashed = dashes[static_cast<std::size_t>(pen.style)];
-            if (pen.width <= 1 && !dashed.empty()) out_.append(" stroke-dasharray=\"").append(dashed).append("\"");
+            const std::string_view dashed = dashes[static_cast<std::size_t>(style_of(pen))];
+            if (!dashed.empty()) out_.append(" stroke-dasharray=\"").append(dashed).append("\"");
         }
         out_ += "/>\n";
     }

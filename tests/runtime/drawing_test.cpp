@@ -124,7 +124,7 @@ TEST(svg, of_a_drawing_has_every_operation_in_its_colour_and_place) {
            R"(cx="300" cy="400" rx="50" ry="50" fill="none")",
            R"(<path d="M1000 1000L1300 1000A300 300 0 0 0 1000 700Z" fill="#0000FF"/>)",
            R"(points="1,2 3,4 5,6" fill="none")", R"(stroke-width="15" stroke-dasharray="15 30")",
-           R"x(translate(500 781) scale(0.9 1)" font-size="200" fill="#000000">5 &lt; 6</text>)x"});
+           R"x(translate(500 600) scale(0.9 1)"><text x="0" y="181" font-size="200" fill="#000000">5 &lt; 6<)x"});
 }
 
 TEST(svg, of_a_form_has_the_faces_of_what_is_visible_where_it_stands) {
