@@ -50,7 +50,8 @@ const exercise_rows circles([] {
     row(Z_fietswiel_00_13_click, 2, "@ maakt een fietstocht. * fietswiel is # cm. * BEGIN | @ | km | EINDE | @ | km",
         counts(ride), range({{28, 35}, {5200, 19900, 200}}), range({{28, 35}, {20100, 59800, 300}}), words({10}),
         right(rounded(turns)), wrong("eerst de afstand", rounded(turns / 100), rounded(turns / 1000)),
-        wrong("3,14 x straal genomen", rounded(turns * 2)));
+        wrong("3,14 x straal genomen", rounded(turns * 2)),
+        explains("= # km. Dat is # m. *omtrek: # : #.", B / 1000, B, B, A * 0.0628));
     row(M_skelterbaan_00_13_click, 2, "| # m | # m", range({{26, 39}, {20, 32}}), range({{27, 39}, {21, 33}}),
         right(rounded(ends + A * B, 2)), wrong("de diameter voor de straal", ends * 4 + A * B),
         wrong("de rechthoek vergeten", rounded(ends, 2)), wrong("de twee halve cirkels vergeten", A * B),
@@ -58,35 +59,39 @@ const exercise_rows circles([] {
     row(M_vijver_00_13_click, 2, "| # cm", range({{150, 240}}), range({{250, 350}}), right(rounded(m * 5.14, 2)),
         wrong("helemaal rond?", rounded(m * 6.28, 2)), wrong("rechte stuk vergeten", rounded(m * 3.14, 2)),
         wrong("oppervlakte van de vijver", rounded(m * m * 1.57, 2)),
-        wrong("de straal genomen in plaats van de diameter", rounded(m * 4.14, 2)), explains("dat is # m.", m));
+        wrong("de straal genomen in plaats van de diameter", rounded(m * 4.14, 2)),
+        explains("is # cm, dat is # m.", A, m));
     row(Z_terras_00_13_click, 2, "kost € #,- per m². De straal van dit terras is # cm. * | Straal: $1 cm",
         range({{25, 60}, {150, 240}}), range({{25, 60}, {250, 350}}), right(rounded(m2 * 3.14 * A)),
         wrong("met de omtrek van de cirkel gerekend. Bereken eerst", rounded(m * 6.28 * B)),
         wrong("De straal moet in het kwadraat", rounded(m * 3.14 * B)), wrong("Je bent 3,14 vergeten", rounded(m2 * A)),
-        wrong("de diameter voor de straal", rounded(m2 * 12.56 * A)), explains("dat is # m.", B / 100));
+        wrong("de diameter voor de straal", rounded(m2 * 12.56 * A)), explains("is # cm, dat is # m.", B, B / 100));
     row(M_cilinder_00_17_click, 2, "een middellijn van # cm en een hoogte van # cm. *| $0 cm | $1 cm",
         range({{2, 7}, {3, 17}}), range({{8, 15}, {3, 17}}), right(rounded(base * B, 2)),
         wrong("met de hoogte vermenigvuldigen", rounded(base, 2)), wrong("omtrek x hoogte", A * B * 3.14),
-        wrong("de middellijn genomen in plaats van de straal", base * B * 4), wrong("in het kwadraat", A * B * 1.57));
+        wrong("de middellijn genomen in plaats van de straal", base * B * 4), wrong("in het kwadraat", A * B * 1.57),
+        explains("inhoud is dus (afgerond |)", base * B == rounded(base * B, 2)));
     row(Z_dichtheid_00_17_click, 2, "een gewicht van # g. *| # | # | #", counts(A / block),
         range({{4, 583, 40}, {2, 9}, {2, 9}, {3, 9}, {0.3, 0.8}}),
         range({{15, 3456, 200}, {2, 9}, {2, 9}, {3, 9}, {1.25, 12}}), right(rounded(E, 2)),
         wrong("een vermenigvuldiging gedaan? Je moet een deling doen", A * block),
-        wrong("rekenfoutje", lies::below, lies::above), wrong("teller en noemer verwisseld", rounded(block / A, 2)));
+        wrong("rekenfoutje", lies::below, lies::above), wrong("teller en noemer verwisseld", rounded(block / A, 2)),
+        explains("dichtheid is dus (ongeveer |)", E == rounded(E, 2)));
     row(Z_volumeprocent_00_17_click, 3,
         "drinkt # glazen (jenever|wijn|bier). *: # vol.%. Elk glas bevat # mL. * | {jenever|wijn|bier} | $2 vol.%",
         range({{2, 6}, {0, 0}, {35, 40}, {30, 40}}), range({{2, 6}, {1, 1}, {11, 13}, {100, 150}}),
         range({{2, 6}, {2, 2}, {4, 6}, {200, 250}}), right(alcohol),
         wrong("", alcohol / A, alcohol - alcohol / A, rounded(alcohol / 10, 2), alcohol + alcohol / A, alcohol * 2,
               alcohol * 10),
-        explains("In # glazen", A), tips("", "Tweede stap: bekijk hoeveel % daarvan"));
+        explains("In # glazen *mL (jenever|wijn|bier). Hiervan is # % alcohol. Dat is # % van", A, B, C, C),
+        tips("", "Tweede stap: bekijk hoeveel % daarvan"));
 });
 
 // The last draw is the place of the right answer.
 TEST(circle_1, lays_the_right_answer_at_the_first_place_seldom_at_the_second_else_at_the_others) {
     oefeningen maker([] { return 0.0F; });
     for (const auto& [drawn, place] :
-         {std::pair{0.39F, 1}, {0.401F, 2}, {0.409F, 2}, {0.411F, 3}, {0.699F, 3}, {0.701F, 4}}) {
+         {std::pair{0.39F, 1}, {0.4F, 2}, {0.409F, 2}, {0.41F, 3}, {0.699F, 3}, {0.7F, 4}}) {
         maker.toeval.put_in({0.5F, 0.9F, 0.1F, drawn});
         maker.maak(B_cirkel_1_00_13_click);
         EXPECT_EQ(maker.juiste_positie, place) << drawn;

@@ -87,9 +87,10 @@ const exercise_rows energy([] {
     row(M_water_2_00_19_click, 2, "| Aan de familie @ | *| Vorig jaar: # m³ | Dit jaar: # m³",
         counts(saved_m3 * 100 / A), range({{104, 300}, {77, 270}, {10, 30}}), range({{125, 300}, {90, 282}, {6, 29}}),
         words({6}), right(says("# %", C)), neighbours(C),
-        explains("# m³ water. Eerst verbruikte het gezin # m³.", saved_m3, A), tips("", "wat ze eerst verbruikten"));
+        explains("# m³ water. Eerst verbruikte het gezin # m³. *dus # %", saved_m3, A, C),
+        tips("", "wat ze eerst verbruikten"));
     row(Z_elektriciteit_3_00_19_click, 5,
-        "van # Watt die per dag # uur brandt, * van # Watt * van # eurocent per kWh? | $0 W | $2 W",
+        "van # Watt die per dag # uur brandt, * van # Watt * van # eurocent per kWh? | $0 W | $2 W | lamp | spaarlamp",
         range({{25, 100}, {2, 8}, {5, 20}, {20, 40}}), right(kWh_less * D / 100),
         wrong("", a_year(A), a_year(C), a_year(A + C), a_year(less * 10), a_year(less / 10), a_year(less, 1),
               a_year(less, 24)),

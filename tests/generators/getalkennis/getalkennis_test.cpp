@@ -176,12 +176,12 @@ const exercise_rows number_knowledge([] {
     row(B_getallenlijn_11_01_click, 5, "wijst die pijl? | # | #", counts(arrow(rood), mark_above(1), mark_above(0)),
         range({{5, 905, 5}, {13, 1705, 200}, {1, 9}, {4, 8}, {0, 0}}), right(at_arrow),
         wrong("", at_arrow - piece, at_arrow + piece, A + piece, A + C, at_arrow + C * piece, B + C * piece),
-        explains(
-            "tussen # en # in # stukjes *waarde van # : # = #. De pijl staat # (stukje|stukjes) verder dan #. "
-            "* | # | # |  | #",
-            A, B, D, B - A, D, by_variant({2, 5, 10, 50, 100}), C, [](const reading& n) { return n[2] == 1 ? 0 : 1; },
-            A, A, B, at_arrow),
-        tips("Bereken eerst hoeveel de", "Deel het verschil"));
+        explains("tussen # en # in # stukjes *waarde van # : # = #. De pijl staat # (stukje|stukjes) verder dan #. "
+                 "* | # | # |  | #",
+                 A, B, D, B - A, D, by_variant({2, 5, 10, 50, 100}), C, 1 < C, A, A, B, at_arrow),
+        tips("Bereken eerst hoeveel de", "Deel het verschil"), [](const reading& n) {
+            for (const double each : n.exercise.numbers()) EXPECT_TRUE(each != n[0] && each != n[1]) << "stands there";
+        });
     line_of_ten(B_pijl_1_11_06_click, geel, "wijst de pijl? | # | #", range({{0, 9}, {1, 10}, {1, 9}}),
                 range({{10, 99}, {11, 100}, {1, 9}}), range({{100, 199}, {101, 200}, {1, 9}}),
                 tips("In hoeveel stukjes", "één lang"));
@@ -218,8 +218,10 @@ const exercise_rows number_knowledge([] {
         wrong("allebei niet", lies::elsewhere), check_composed);
     row(B_onder_elkaar_11_01_click, 3,
         "elkaar? | A             B              C              D | # | # | + | $0 | $1 | + | $0 | $1 | + | $0 | $1",
-        range({{10, 99}, {10, 99}}), range({{10, 999, 9}, {10, 999, 9}}), range({{10, 9999, 90}, {10, 9999, 90}}),
-        right(aligned), tips("in welke optelling", "laatste cijfers van de getallen: hier de # en de #."));
+        counts(smallest(A, B)), range({{10, 99}, {10, 99}, {10, 99}}), range({{10, 999, 9}, {10, 999, 9}, {10, 99}}),
+        range({{10, 9999, 90}, {10, 9999, 90}, {10, 99}}), right(aligned),
+        explains("zijn hier de # *en de # *| goed", unit_of(A), unit_of(B)),
+        tips("in welke optelling", "laatste cijfers van de getallen: hier de # en de #."));
     row(B_schatten_11_01_click, 3, "Uit het hoofd! | # - #", range({{292, 908}, {92, 708}}),
         range({{2920, 20080, 20}, {920, 18080, 60}}), range({{29200, 200800, 200}, {9200, 180800, 600}}),
         right(estimate),
@@ -247,11 +249,12 @@ const exercise_rows number_knowledge([] {
         range({{1, 20}, {1, 1}, {2, 2}, {0.01, 0.04}}), range({{1, 20}, {1, 3}, {4, 4}, {0.01, 0.04}}),
         range({{1, 20}, {1, 7}, {8, 8}, {0.005, 0.035}}),
         explains(
-            "getal & is als kommagetal #. Dit verschilt # met * bij A, # met * bij B, # met * bij C en # met * D. *is #:",
-            mixed, mixed, distance(0), distance(1), distance(2), distance(3), D),
+            "getal & is als kommagetal #. Dit verschilt # met * bij A, # met * bij B, # met * bij C en # met * D. *is #: *| = #",
+            mixed, mixed, distance(0), distance(1), distance(2), distance(3), D, mixed),
         tips("Maak van die streepbreuk", "Bereken dan bij elk"));
     row(M_grootste_kleinste_11_01_click, 2, "getal is het (kleinste|grootste)? | # | # | # | #",
-        counts(ranked(0, 1'000), ranked(0, 100)), range({{0, 0}, {10000, 999999, 15000}}),
+        counts(ranked(0, 1'000), ranked(0, 100), B - floor(B / 100) * 100),
+        range({{0, 0}, {10000, 999999, 15000}, any, any, any, {0, 7}, {0, 8}, {0, 99, 4}}),
         range({{1, 1}, {10000, 999999, 15000}}), right(ranked(0)), wrong("Vergelijk de honderdtallen...", ranked(1)),
         wrong("Kijk naar de duizendtallen...", ranked(2)),
         wrong("het grootste getal genomen, maar je moest het kleinste hebben!", largest(B, C, D, E)),
@@ -260,8 +263,20 @@ const exercise_rows number_knowledge([] {
                  "honderdtallen: # is (kleiner|groter) dan #. Het (kleinste|grootste) getal",
                  F, A, ranked(0), ranked(1), G, A, ranked(1, 100), A));
     row(M_tabel_11_01_click, 4, "tussen # en # bijgekomen? *x #* in het jaar |  | # | # | # | # | # | # | # | #",
-        range({{1960, 2001, 4}, {1961, 2002, 4}, {100, 100000}, {1960, 1999, 10}, {10, 96, 30}}), right(growth * C),
-        wrong("vergeten te vermenigvuldigen", growth),
+        counts(place_of(B, {D, F, H, J}) - place_of(A, {D, F, H, J})),
+        range({{1960, 2001, 4},
+               {1961, 2002, 4},
+               {100, 100000},
+               {1960, 1999, 10},
+               {10, 96, 30},
+               any,
+               any,
+               any,
+               any,
+               any,
+               any,
+               {1, 3}}),
+        right(growth * C), wrong("vergeten te vermenigvuldigen", growth),
         wrong("met het goede getal vermenigvuldigd", growth * C / 10, growth * C * 10),
         wrong("Zoveel leden waren er in # in totaal. Een deel daarvan was er in # al.", members(1) * C),
         wrong("Je hebt de aantallen opgeteld.", (members(0) + members(1)) * C),

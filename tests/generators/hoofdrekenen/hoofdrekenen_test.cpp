@@ -93,8 +93,9 @@ const exercise_rows against_the_clock([] {
         explains("getal # ligt dicht bij #. *wel # te veel ", B, near_hundred, to_hundred), ticks({10}));
     row(L_delen_1_09_06_click, 2, "| Bereken # : #", range({{0.6, 17.1}, {0.2, 0.9}}), range({{3.3, 22.5}, {1.1, 2.5}}),
         right(quotient), near_quotient(quotient), ticks({15}));
-    row(M_delen_2_09_06_click, 4, "| Hoeveel is # : # ?", of({1}), range({{1010, 9810, 900}, {3, 9}}), right(quotient),
-        off_by({-100, -10, -1, 1, 10, 100}, quotient), ticks({15}));
+    row(M_delen_2_09_06_click, 4, "| Hoeveel is # : # ?", of({1}), counts(rest / B),
+        range({{1010, 9810, 900}, {3, 9}, {2, 90}}), right(quotient), off_by({-100, -10, -1, 1, 10, 100}, quotient),
+        ticks({15}));
     row(M_delen_2_09_06_click, 4, "| Hoeveel is # : # ?", of({2}), range({{2, 90}, {0.5, 4.5}}), right(quotient),
         near_quotient(quotient), ticks({15}));
     row(M_delen_2_09_06_click, 4, "| Hoeveel is # : # ?", of({3}), range({{1100, 9810, 500}, {30, 90}}),

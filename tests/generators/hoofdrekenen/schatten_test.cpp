@@ -14,7 +14,9 @@ auto far_from_wrong(const formula& exact) {
 }
 
 const formula hatched = [](const reading& n) { return all<circle_op>(n).back().sweep / 3.6; };
-const formula quarters = rounded(A / 25);
+const formula quarters = rounded(A / 25), edges = [](const reading&n) {
+    return std::ranges::count(all<line_op>(n), 2, [](const line_op& line) { return line.pen.width; });
+};
 
 // By how many powers of ten both lines of an answer, which are the same length, are away from the true one.
 const formula places_off = [](const reading& n) {
@@ -35,7 +37,7 @@ formula over(const formula& last_year, const formula& this_year) {
 }
 std::vector<span> visitors(double claimed, double half) {
     const span last_year{half - 60e3, half + 61e3, 4e3}, this_year{half - 70e3, half + 70e3, 7e3}, above{-9, 9};
-    return {{claimed, claimed}, last_year, this_year, last_year, this_year, above, above};
+    return {{claimed, claimed}, last_year, this_year, last_year, this_year, above, above, {1, 999, 20}, {1, 999, 20}};
 }
 // Told by the thousands and by all figures alike.
 const formula fails_a = B + C < chosen(A, {1e6, 5e5}), fails_b = D + E < chosen(A, {1e6, 5e5});
@@ -61,7 +63,7 @@ double drawn(const reading& n) {
 const formula scale = B * 100 / C;
 formula one_to(double times) { return says("1 : #", scale * times); }
 
-const formula year = [](const reading& n) { return rounded(decimal(n.exercise.words.at(1)), -2); };
+const formula counter = [](const reading&n) { return decimal(n.exercise.words.at(1)); }, year = rounded(counter, -2);
 formula parts(double months, double weeks) { return chosen(A, {months, weeks}); }
 formula other(double months, double weeks) { return rounded(B / (parts(months, weeks) * 50)) * 50; }
 const formula each_part = B / parts(12, 52);
@@ -86,8 +88,8 @@ const formula tenths = times([](double t) { return t - std::floor(t); });
 // Who rounds each of them finds the same.
 const formula estimated = times([](double t) { return rounded(t); });
 const exercise_rows estimates([] {
-    row(B_gestreept_10_03_click, 4, "is de cirkel gestreept?", counts(hatched, abs(A - quarters * 25)),
-        range({{20.99, 79.01, 0.1}, {0.99, 4.01, 0.1}}), right(quarters * 25), wrong("klok", quarters * 15),
+    row(B_gestreept_10_03_click, 4, "is de cirkel gestreept?", counts(hatched, abs(A - quarters * 25), edges),
+        range({{20.99, 79.01, 0.1}, {0.99, 4.01, 0.1}, {2, 2}}), right(quarters * 25), wrong("klok", quarters * 15),
         wrong("twee dingen door elkaar", formula(100) - quarters * 25), wrong("zomaar een gokje", lies::elsewhere),
         explains("ongeveer # (stuk|stukken) gestreept.", quarters, formula(30) < A));
     row(B_schatten_1_10_09_click, 10, "", right(places_off == 0), wrong("Dat is veel te weinig", places_off < 0),
@@ -101,8 +103,9 @@ const exercise_rows estimates([] {
     row(L_bezoekers_10_00_click, 2,
         "@ zegt dat museum A * meer dan (1 miljoen|een half miljoen) bezoekers had. @ zegt dat van museum B. "
         "* museum A | # | # | museum B | # | #",
-        counts(over(B, C), over(D, E)), range(visitors(0, 500e3)), range(visitors(1, 250e3)), words({20, 20}),
-        right(at_button(who)), wrong("Eerst moet je", about_both), wrong("Vergelijk eerst", about_one));
+        counts(over(B, C), over(D, E), B - floor(B / 1000) * 1000, C - floor(C / 1000) * 1000),
+        range(visitors(0, 500e3)), range(visitors(1, 250e3)), words({20, 20}), right(at_button(who)),
+        wrong("Eerst moet je", about_both), wrong("Vergelijk eerst", about_one));
     row(L_schaal_10_16_click, 5,
         "van een (vrachtauto|motorjacht|flatgebouw|trein|vliegtuig). * {de|het|het|de|het} "
         "{vrachtauto|motorjacht|flatgebouw|trein|vliegtuig} # m lang. *| $1 m | 1 cm",
@@ -110,8 +113,9 @@ const exercise_rows estimates([] {
         wrong("omgerekend van m naar cm", one_to(10), one_to(0.1)), wrong("erg ver naast", one_to(5), one_to(0.2)),
         wrong("Bedenk wat 1 cm", one_to(2), one_to(0.5)),
         explains("past # keer in de tekening, dus de tekening is # cm lang.", C, C));
-    row(L_schatten_2_10_09_click, 2, "Op de kilometerteller * gemiddeld ongeveer per (maand|week)?", counts(year),
-        range({{0, 0}, {10800, 36000, 600}}), range({{1, 1}, {10400, 36400}}), right(says("# km", each_part)),
+    row(L_schatten_2_10_09_click, 2, "Op de kilometerteller * gemiddeld ongeveer per (maand|week)?",
+        counts(year, abs(counter - year)), range({{0, 0}, {10800, 36000, 600}, {11, 49}}),
+        range({{1, 1}, {10400, 36400}, {11, 49}}), right(says("# km", each_part)),
         wrong("'t per (week|maand) uitgerekend", other(52, 12)), wrong("(tien maanden|48 weken) heeft", other(10, 48)),
         wrong("een beetje naast", lies::below, lies::above),
         explains("ongeveer # km. Een jaar heeft # (maanden|weken). Je deelt dus door #: *# km per (maand|week).", B,
