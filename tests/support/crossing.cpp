@@ -172,6 +172,18 @@ std::optional<std::string> out_of_place(const drawing& drawn) {
                     as(one.top, one.bottom, other.top, other.bottom));
         };
         const bool central = text && std::abs(one.left + one.right - width) < 60;
+        const bool sign = text && one.right - one.left < 260 && std::string_view("+-x:=").find(one.word) < 5;
+        double before = width, after = width; // to what stands on its level, of shapes those as wide as a fraction
+        for (const ink& other : all) {
+            const double middle = (one.top + one.bottom) / 2;
+            const bool wide = other.word.empty() && other.right - other.left > 500;
+            if (wide || &other == &one || other.top - 60 > middle || other.bottom + 60 < middle) continue;
+            if (other.right <= one.left + 5) before = std::min(before, one.left - other.right);
+            if (other.left >= one.right - 5) after = std::min(after, other.left - one.right);
+        }
+        const double near = std::min(before, after), far = std::max(before, after);
+        if (sign && !central && (near == width || (far < width && far > 2.5 * near + 120)))
+            return "\"" + one.word + "\" is not midway";
         if (!file && !central && all.size() > 1 && std::ranges::none_of(all, beside) &&
             std::ranges::none_of(all, level))
             return "\"" + one.word + "\", or a shape, stands alone";
