@@ -83,10 +83,6 @@ std::array<std::size_t, 3> oefening::trek_drie(std::span<vergissing> andere) {
     return geschud(drie);
 }
 
-void oefening::druk_delen(int x, int y, std::initializer_list<regeldeel> delen) {
-    plaatje.print_at(x, y, plak_even(delen));
-}
-
 void oefening::volgende_fout(plakregel text, std::initializer_list<plakregel> feedback) {
     const int which = antwoord_2.empty() ? 2 : antwoord_3.empty() ? 3 : antwoord_4.empty() ? 4 : 5;
     antwoord(which) = text;

@@ -95,6 +95,10 @@ protected:
     static plakregel regel(const Parts&... parts) {
         return plak_even({regeldeel(parts)...});
     }
+    template<std::convertible_to<plakregel> Text>
+    static plakregel regel(const Text& text) {
+        return text;
+    }
 
     // ---- picture ----
 
@@ -103,7 +107,7 @@ protected:
     // Prints a line glued from texts and numbers with its top-left corner at (x, y).
     template<line_part... Parts>
     void druk(int x, int y, const Parts&... parts) {
-        druk_delen(x, y, {regeldeel(parts)...});
+        plaatje.print_at(x, y, regel(parts...));
     }
     // The same with its middle at x.
     template<line_part... Parts>
@@ -179,13 +183,13 @@ protected:
     // The right answer, where the four are shuffled.
     template<line_part Text>
     void goed(const Text& text) {
-        antwoord_1 = als_regel(text);
+        antwoord_1 = regel(text);
     }
     // The next wrong answer; three in all, a fourth ends the run.
     template<line_part Text, class... Lines>
     void fout(const Text& text, const Lines&... feedback) {
         static_assert(sizeof...(Lines) <= 6);
-        volgende_fout(als_regel(text), {plakregel(feedback)...});
+        volgende_fout(regel(text), {plakregel(feedback)...});
     }
 
     // For answers with fixed places: the place, 1 to 4, of the right one. Say this first.
@@ -195,7 +199,7 @@ protected:
     template<line_part Text, class... Lines>
     void op_plaats(int plaats, const Text& text, const Lines&... feedback) {
         static_assert(sizeof...(Lines) <= 6);
-        zet_op_plaats(plaats, als_regel(text), {plakregel(feedback)...});
+        zet_op_plaats(plaats, regel(text), {plakregel(feedback)...});
     }
     // Fixes the places of answers that were written with goed() and fout(): the right one stands at this place and
     // every button keeps the feedback of the answer that it shows.
@@ -211,14 +215,14 @@ protected:
     template<class Value, class Vorm, class List = std::initializer_list<keuze<Value>>>
     void drie_andere(const Value& juist, Vorm vorm, const List& vergissingen) {
         goed(vorm(juist));
-        for (const keuze<Value>* k : kies_drie(juist, vergissingen)) fout_met(als_regel(vorm(k->waarde)), k->melding);
+        for (const keuze<Value>* k : kies_drie(juist, vergissingen)) fout_met(regel(vorm(k->waarde)), k->melding);
     }
     // The same four as options, the right one first, for kleurkeuze() and vier_rekenaars().
     template<class Value, class Vorm, class List = std::initializer_list<keuze<Value>>>
     std::array<keuze<>, 4> vier_opties(const Value& juist, Vorm vorm, const List& vergissingen) {
         const auto [een, twee, drie] = kies_drie(juist, vergissingen);
-        const auto optie = [&vorm](const keuze<Value>* k) { return keuze<>{als_regel(vorm(k->waarde)), k->melding}; };
-        return {keuze<>{als_regel(vorm(juist))}, optie(een), optie(twee), optie(drie)};
+        const auto optie = [&vorm](const keuze<Value>* k) { return keuze<>{regel(vorm(k->waarde)), k->melding}; };
+        return {keuze<>{regel(vorm(juist))}, optie(een), optie(twee), optie(drie)};
     }
     // The right answer and three near it, some steps away; where it stands among the four in size is drawn evenly.
     // Nothing is 0 or less.
@@ -274,15 +278,6 @@ public:
 private:
     using vier_keuzes = std::array<const keuze<>*, 4>;
 
-    // A text or a number as a line of the record.
-    template<line_part Text>
-    static plakregel als_regel(const Text& text) {
-        if constexpr (whole_number<Text>)
-            return regel(text);
-        else
-            return text;
-    }
-
     // A mistake that can be offered: its place in the list, and whether it lies below the right answer.
     struct vergissing {
         std::size_t plek;
@@ -308,7 +303,6 @@ private:
     std::array<std::size_t, 3> trek_drie(std::span<vergissing> andere);
     void volgende_fout(plakregel text, std::initializer_list<plakregel> feedback);
     void zet_op_plaats(int plaats, plakregel text, std::initializer_list<plakregel> feedback);
-    void druk_delen(int x, int y, std::initializer_list<regeldeel> delen);
     void fout_met(plakregel text, const melding& feedback);
     void toon_snelle_som(int ticks, std::string_view som);
     void druk_som_met_antwoord(int x, int y, kleur in, int punten, std::string_view som, std::string_view antwoord);

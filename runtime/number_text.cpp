@@ -22,27 +22,29 @@ std::uint64_t magnitude(long long number) {
 // Each of these writes from a place on and returns the end of what it wrote.
 
 // The lengths come as they like, which the library's copying, made for long texts, guesses wrong at every step: here
-// pieces overlap instead.
+// pieces from the front and from the back overlap.
 char* copied(std::string_view text, char* to) {
-    const char* from = text.data();
+    const char* const from = text.data();
     const std::size_t length = text.size();
-    char* const end = to + length;
+    const auto sixteen = [&](std::size_t at) { std::memcpy(to + at, from + at, 16); };
+    const auto four = [&](std::size_t at) { std::memcpy(to + at, from + at, 4); };
+    const auto one = [&](std::size_t at) { to[at] = from[at]; };
     if (length >= 16) {
-        const char* const last = from + length - 16;
-        for (; from < last; from += 16, to += 16) std::memcpy(to, from, 16);
-        std::memcpy(end - 16, last, 16);
-    } else if (length >= 8) {
-        std::memcpy(to, from, 8);
-        std::memcpy(end - 8, from + length - 8, 8);
+        sixteen(0);
+        sixteen(length - 16);
+        for (std::size_t at = 16; at + 16 < length; at += 16) sixteen(at);
     } else if (length >= 4) {
-        std::memcpy(to, from, 4);
-        std::memcpy(end - 4, from + length - 4, 4);
+        const std::size_t half = length / 8 * 4;
+        four(0);
+        four(half);
+        four(length - 4 - half);
+        four(length - 4);
     } else if (length > 0) {
-        to[0] = from[0];
-        to[length / 2] = from[length / 2];
-        end[-1] = from[length - 1];
+        one(0);
+        one(length / 2);
+        one(length - 1);
     }
-    return end;
+    return to + length;
 }
 
 char* character(char c, char* to) {
@@ -50,18 +52,30 @@ char* character(char c, char* to) {
     return to + 1;
 }
 
-// The last so many digits of a number.
+// "000" to "999", four bytes from one to the next.
+constexpr auto triples = [] {
+    std::array<char, 4'004> made{};
+    for (std::size_t i = 0; i < 1'000; ++i) {
+        made[4 * i] = static_cast<char>('0' + i / 100);
+        made[4 * i + 1] = static_cast<char>('0' + i / 10 % 10);
+        made[4 * i + 2] = static_cast<char>('0' + i % 10);
+    }
+    return made;
+}();
+
+// The last so many digits of a number. What is written behind them does not count.
 char* last_digits(std::uint64_t number, int count, char* to) {
-    char* const end = to + count;
-    for (char* at = end; at != to; number /= 10) *--at = static_cast<char>('0' + number % 10);
-    return end;
+    if (count > 3) {
+        to = last_digits(number / 1'000, count - 3, to);
+        count = 3;
+    }
+    std::memcpy(to, &triples[number % 1'000 * 4 + static_cast<std::size_t>(3 - count)], 4);
+    return to + count;
 }
 
 char* digits(std::uint64_t number, char* to) {
-    int count = 1;
-    while (count < static_cast<int>(powers_of_ten.size()) && number >= powers_of_ten[static_cast<std::size_t>(count)])
-        ++count;
-    return last_digits(number, count, to);
+    if (number >= 1'000) return last_digits(number, 3, digits(number / 1'000, to));
+    return last_digits(number, 1 + (number >= 10) + (number >= 100), to);
 }
 
 // A "." before the last three of them.
@@ -133,11 +147,16 @@ number_text kaal(long long number) {
     return number_text([=](char* to) { return digits(magnitude(number), number < 0 ? character('-', to) : to); });
 }
 
-char* regeldeel::schrijf(const char* begin, char* end) const {
+inline char* regeldeel::schrijf(const char* begin, char* end) const {
     const bool after_blank = end != begin && end[-1] == ' ';
     if (maat_ == geheel) return digits(magnitude(geheel_), geheel_ >= 0 && after_blank ? end : sign(geheel_, end));
     std::string_view text = tekst();
-    if ((maat_ & getal) != 0 && after_blank && text.starts_with(' ')) text.remove_prefix(1);
+    if ((maat_ & getal) != 0) {
+        if (after_blank && text.starts_with(' ')) text.remove_prefix(1);
+        std::memcpy(end, text.data(), 16);
+        if (text.size() > 16) std::memcpy(end + 16, text.data() + 16, text.size() - 16);
+        return end + text.size();
+    }
     return copied(text, end);
 }
 
@@ -147,19 +166,6 @@ char* regeldeel::schrijf_kaal(char* end) const {
 }
 
 namespace {
-
-// Characters for which there must be room, with a separator each.
-std::size_t room_for(std::initializer_list<regeldeel> delen) {
-    std::size_t room = 0;
-    for (const regeldeel& deel : delen) room += deel.hoogstens() + 1;
-    return room;
-}
-
-char* schrijf(std::initializer_list<regeldeel> delen, char* const begin) {
-    char* end = begin;
-    for (const regeldeel& deel : delen) end = deel.schrijf(begin, end);
-    return end;
-}
 
 // Where lines are glued now; without an exercise under way it is a place of the thread's own.
 constinit thread_local kladblok* onder_handen = nullptr;
@@ -178,42 +184,47 @@ kladblok::~kladblok() {
 
 void kladblok::begin() {
     onder_handen = this;
-    meer_.clear();
-    vul(eerste_.data(), eerste_.size());
+    more_.clear();
+    next_ = first_.data();
+    limit_ = next_ + first_.size();
 }
 
-void kladblok::ruimte(std::size_t characters) {
-    if (rest_ >= characters) return;
-    const std::size_t size = std::max(characters, eerste_.size());
-    vul(meer_.emplace_back(std::make_unique<char[]>(size)).get(), size);
-}
-
-plakregel kladblok::tot(char* end) {
-    const plakregel line(vrij_, end);
-    rest_ -= static_cast<std::size_t>(end - vrij_);
-    vrij_ = end;
-    return line;
+char* kladblok::verhuis(char* end, std::size_t room) {
+    const std::string_view line(next_, static_cast<std::size_t>(end - next_));
+    const std::size_t size = line.size() + std::max(room, first_.size());
+    next_ = more_.emplace_back(std::make_unique<char[]>(size)).get();
+    limit_ = next_ + size;
+    return std::ranges::copy(line, next_).out;
 }
 
 plakregel kladblok::plak(std::initializer_list<regeldeel> delen) {
-    ruimte(room_for(delen));
-    return tot(schrijf(delen, vrij_));
+    char* end = next_;
+    for (const regeldeel& deel : delen) {
+        end = met_ruimte(end, deel.ruimte());
+        end = deel.schrijf(next_, end);
+    }
+    return tot(end);
 }
 
 plakregel kladblok::plak_velden(std::initializer_list<regeldeel> delen) {
-    ruimte(room_for(delen));
-    char* end = vrij_;
+    char* end = next_;
     for (const regeldeel& deel : delen) {
-        if (end != vrij_) *end++ = '_';
+        end = met_ruimte(end, deel.ruimte());
+        if (end != next_) *end++ = '_';
         end = deel.schrijf_kaal(end);
     }
     return tot(end);
 }
 
 std::string plak(std::initializer_list<regeldeel> delen) {
-    std::string line(room_for(delen), ' ');
-    line.resize(static_cast<std::size_t>(schrijf(delen, line.data()) - line.data()));
-    return line;
+    std::size_t room = 0;
+    for (const regeldeel& deel : delen) room += deel.ruimte();
+    std::array<char, 512> here;
+    std::string elsewhere(room > here.size() ? room : 0, ' ');
+    char* const begin = elsewhere.empty() ? here.data() : elsewhere.data();
+    char* end = begin;
+    for (const regeldeel& deel : delen) end = deel.schrijf(begin, end);
+    return {begin, end};
 }
 
 plakregel plak_even(std::initializer_list<regeldeel> delen) { return nu().plak(delen); }

@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace cijferwerf {
@@ -17,14 +18,15 @@ namespace cijferwerf {
 class number_text {
 public:
     constexpr number_text() = default;
-    // What a function writes from a place on, whose end it returns.
+    // What a function writes from a place on, whose end it returns; behind that there is room for some more.
     template<std::invocable<char*> Write>
-    explicit number_text(Write write)
-        : length_(static_cast<std::uint8_t>(write(characters_.data()) - characters_.data())) {}
+    explicit number_text(Write write) {
+        length_ = static_cast<std::uint8_t>(write(characters_.data()) - characters_.data());
+    }
     constexpr operator std::string_view() const { return {characters_.data(), length_}; }
 
 private:
-    std::array<char, 31> characters_{};
+    std::array<char, 39> characters_{};
     std::uint8_t length_ = 0;
 };
 
@@ -92,11 +94,11 @@ public:
         }
     }
 
-    // Writes itself behind the line that stands from `begin` to `end`, where there is room for it, and returns the new
-    // end; `kaal` without blanks around it.
+    // Writes itself behind the line that stands from `begin` to `end`, and returns the new end; `kaal` without blanks
+    // around it. Where it is written there must be so much room.
     char* schrijf(const char* begin, char* end) const;
     char* schrijf_kaal(char* end) const;
-    std::size_t hoogstens() const { return maat_ == geheel ? 21 : tekst().size(); } // characters
+    std::size_t ruimte() const { return (maat_ & ~(getal | geheel)) + 40; }
 
 private:
     // Beside the length of a text stands what it is: as small as can be, because the exercises are full of them.
@@ -142,7 +144,7 @@ private:
 // The memory in which the lines of one exercise are glued: the next exercise is written over it.
 class kladblok {
 public:
-    kladblok() { vul(eerste_.data(), eerste_.size()); }
+    kladblok() = default;
     ~kladblok();
     kladblok(const kladblok&) = delete;
     kladblok& operator=(const kladblok&) = delete;
@@ -154,18 +156,17 @@ public:
     plakregel plak_velden(std::initializer_list<regeldeel> delen);
 
 private:
-    void vul(char* memory, std::size_t size) {
-        vrij_ = memory;
-        rest_ = size;
+    // Goes on elsewhere with the line that stands from next_ to `end`, where there is so much room behind it.
+    char* verhuis(char* end, std::size_t room);
+    char* met_ruimte(char* end, std::size_t room) {
+        return static_cast<std::size_t>(limit_ - end) < room ? verhuis(end, room) : end;
     }
-    // Room for so many characters at least, at vrij_.
-    void ruimte(std::size_t characters);
-    plakregel tot(char* end);
+    plakregel tot(char* end) { return {std::exchange(next_, end), end}; }
 
-    std::array<char, 16'384> eerste_;
-    std::vector<std::unique_ptr<char[]>> meer_; // once that is full
-    char* vrij_;
-    std::size_t rest_;
+    std::array<char, 16'384> first_;
+    std::vector<std::unique_ptr<char[]>> more_; // once that is full
+    char* next_ = first_.data();                // where the next line begins
+    char* limit_ = first_.data() + first_.size();
 };
 
 std::string plak(std::initializer_list<regeldeel> delen);
@@ -173,7 +174,7 @@ plakregel plak_even(std::initializer_list<regeldeel> delen);
 plakregel plak_velden(std::initializer_list<regeldeel> delen);
 
 template<std::convertible_to<std::string_view> Text>
-plakregel::plakregel(const Text& text) : plakregel(plak_even({std::string_view(text)})) {}
+plakregel::plakregel(const Text& text) : plakregel(plak_even({text})) {}
 
 // Glues a line from its parts in the order in which they are read. A number, whole or in one of the forms above, has
 // its blank in front unless the line so far ends in one; texts go in as they stand.

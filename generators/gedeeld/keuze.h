@@ -8,7 +8,7 @@
 
 namespace cijferwerf {
 
-using melding = std::array<plakregel, 6>; // lines; an empty one is not shown
+using melding = std::array<plakregel, 4>; // lines; an empty one is not shown
 
 template<class Waarde = plakregel>
 struct keuze {

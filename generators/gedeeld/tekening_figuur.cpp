@@ -60,9 +60,9 @@ std::string roosterfiguur::rand() const {
         const point &van = hoeken_[i], &naar = hoeken_[(i + 1) % hoeken_.size()];
         const int opzij = naar.x - van.x, omlaag = naar.y - van.y;
         if (i > 0) zin += ", ";
-        if (opzij != 0) zin += telwoord(std::abs(opzij)) + (opzij > 0 ? " naar rechts" : " naar links");
+        if (opzij != 0) zin.append(telwoord(std::abs(opzij))).append(opzij > 0 ? " naar rechts" : " naar links");
         if (opzij != 0 && omlaag != 0) zin += " met ";
-        if (omlaag != 0) zin += telwoord(std::abs(omlaag)) + (omlaag > 0 ? " omlaag" : " omhoog");
+        if (omlaag != 0) zin.append(telwoord(std::abs(omlaag))).append(omlaag > 0 ? " omlaag" : " omhoog");
     }
     return zin;
 }

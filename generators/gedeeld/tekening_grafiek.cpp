@@ -75,7 +75,8 @@ void assen::vertel() {
                      op_naam ? " lijn, in strepen hoog: " : " lijn, in strepen naar rechts en omhoog: ");
         for (std::size_t i = 0; i < waarden.size(); ++i) {
             if (i > 0) zin += ", ";
-            zin += op_naam ? namen_[i] + " " : in_stappen(waarden[i].x - langs_x_.van, langs_x_.stap) + " en ";
+            zin += op_naam ? namen_[i] : in_stappen(waarden[i].x - langs_x_.van, langs_x_.stap);
+            zin += op_naam ? " " : " en ";
             zin += hoogte(waarden[i].y);
         }
         zin += '.';
@@ -100,7 +101,7 @@ void assen::getallen_links(std::string_view achter, int om) {
     const verteld_als stil(on_);
     for (int waarde = langs_y_.van; waarde <= langs_y_.tot; waarde += om == 0 ? langs_y_.stap : om)
         on_.print_right(plot_.links - room, y(waarde) - halve_regel(on_.text_size),
-                        regel(kaal(duizend(waarde / langs_y_.een)), achter));
+                        plak_even({kaal(duizend(waarde / langs_y_.een)), achter}));
 }
 
 void assen::getallen_onder(int om) {
@@ -138,10 +139,13 @@ void assen::lijn(const std::vector<point>& waarden, kleur met, bool stippen) {
     constexpr int dot = 32;
     lijnen_.push_back({met, waarden});
     const zelfde_stand bewaard(on_, 2);
-    for (std::size_t i = 1; i < waarden.size(); ++i)
-        on_.line(x(waarden[i - 1].x), y(waarden[i - 1].y), x(waarden[i].x), y(waarden[i].y), met);
+    std::vector<point> plaatsen;
+    plaatsen.reserve(waarden.size());
+    for (const point& waarde : waarden) plaatsen.push_back({x(waarde.x), y(waarde.y)});
+    for (std::size_t i = 1; i < plaatsen.size(); ++i)
+        on_.line(plaatsen[i - 1].x, plaatsen[i - 1].y, plaatsen[i].x, plaatsen[i].y, met);
     if (!stippen) return;
-    for (const point& waarde : waarden) on_.filled_circle(x(waarde.x), y(waarde.y), dot, met);
+    for (const point& plaats : plaatsen) on_.filled_circle(plaats.x, plaats.y, dot, met);
 }
 
 vlak assen::kolom(int van, int tot, int waarde, kleur met) {
