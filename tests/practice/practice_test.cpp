@@ -2,9 +2,7 @@
 #include "tests/support/operation_text.h"
 #include "tests/support/practising.h"
 
-#include <fstream>
 #include <set>
-#include <unistd.h>
 
 namespace cijferwerf {
 namespace {
@@ -267,8 +265,6 @@ TEST_F(practice, a_screen_reader_hears_question_verdict_and_time) {
     EXPECT_EQ(heard(), "") << "who has answered is not hurried";
 }
 
-// ---- leaving, and going on for long ----
-
 TEST_F(practice, the_hint_of_the_way_back_names_the_menu_and_goes_after_two_seconds) {
     for (const auto& [set, key, hint] :
          {std::tuple{booklet_set, "boekje01", "boekje kiezen"}, {task_set, "taak01", "taak kiezen"}}) {
@@ -279,26 +275,6 @@ TEST_F(practice, the_hint_of_the_way_back_names_the_menu_and_goes_after_two_seco
         pupil.wait(50);
         EXPECT_FALSE(screen.taakkiezen_label.visible);
     }
-}
-
-TEST_F(practice, a_hundred_thousand_exercises_leave_the_memory_where_a_thousand_did) {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "the sanitizer keeps what is freed";
-#endif
-    const auto resident_kib = [] {
-        long total = 0, resident = 0; // both 0 where the system does not tell
-        std::ifstream("/proc/self/statm") >> total >> resident;
-        return resident * (sysconf(_SC_PAGESIZE) / 1024);
-    };
-    const int titles = static_cast<int>(screen.presentatielijst.items.size());
-    long early = 0;
-    for (int i = 0; i < 100'000; ++i) {
-        if (i == 1000) early = resident_kib();
-        ASSERT_TRUE(pupil.pick(screen.presentatielijst, i % titles));
-        answer_right();
-        explain();
-    }
-    EXPECT_LE(resident_kib(), early + 512);
 }
 
 } // namespace
