@@ -34,7 +34,7 @@ public:
           box_(box),
           pictures_(pictures),
           unit_(box.width() / drawing::inner_width),
-          unit_down_(box.height() / drawing::inner_height),
+          unit_down_(box.height() / shown.full_height),
           pixels_(on.device()->devicePixelRatioF()) {}
 
     void operator()(const text_op& op) {

@@ -56,8 +56,8 @@ public:
             place_of(drawn.at.left, drawn.at.top) + QPointF(drawn.at.width, drawn.at.height) * unit_ / 2;
         const QPointF corner =
             middle - QPointF(bounds.left + bounds.width / 2.0, bounds.top + bounds.height / 2.0) * scale;
-        paint_operations(on_, *drawn.shown, QRectF(corner, QSizeF(drawing::inner_width, drawing::inner_height) * scale),
-                         pictures_);
+        paint_operations(on_, *drawn.shown,
+                         QRectF(corner, QSizeF(drawing::inner_width, drawn.shown->full_height) * scale), pictures_);
     }
 
 private:

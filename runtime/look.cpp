@@ -270,8 +270,10 @@ double painter::grown(double own_points, Fits fits) const {
     return own_points;
 }
 
-// Of the control's text: as large as all controls of its name and role have room for; options are all alike.
+// Of the control's text: as large as all controls of its name and role have room for; options are all alike. Each has
+// as much less room than its width as this one.
 double painter::points(bool bold, int room) const {
+    const int beside = box_.width - room;
     const auto alike = [this](const control& each) {
         return (each.name == shown_.name && each.role == shown_.role) ||
                (each.kind == control_kind::option_button && shown_.kind == control_kind::option_button);
@@ -283,7 +285,8 @@ double painter::points(bool bold, int room) const {
             const auto lines = lines_of(each->caption, set, 0);
             const int height = each->height - (each->is_button() ? focus_room : 0);
             return static_cast<int>(lines.size()) * text_height(tried) <= height &&
-                   std::ranges::all_of(lines, [&](const std::string& line) { return width_in(line, set) <= room; });
+                   std::ranges::all_of(
+                       lines, [&](const std::string& line) { return width_in(line, set) <= each->width - beside; });
         });
     });
 }
@@ -336,8 +339,10 @@ void painter::paint_label(const label& shown) {
         return text(words, shown.caption, {points(true, box_.width - beside), true, colour_of(shown.tone, ink)});
     }
     case lesson_title: return text(box_, shown.caption, set(true, ink), at);
-    case lesson_word: return text(box_, shown.caption, set(true, colours_.dark, 30), at);
-    case lesson_value: return text(box_, shown.caption, set(true, ink, 60), align::middle);
+    case lesson_word:
+        if (shown.mark) return add_mark(made_, shown.mark, box_, box_.width, box_.height);
+        return text(box_, shown.caption, set(true, colours_.dark), at);
+    case lesson_value: return text(box_, shown.caption, set(true, ink), align::middle);
     default: {
         const auto* names = static_cast<const label*>(shown.caption_of);
         const bool whole = names != nullptr && names->subdued; // the value of which others are a part
@@ -523,7 +528,7 @@ void painter::paint_plain_button(const button& shown) {
         return;
     }
     const bool bold = shown.role == main_action || shown.role == operator_key || shown.role == stepper;
-    const int side = is_key ? 15 : 60;
+    const int side = is_key ? 15 : 120;
     const place words{side, 0, box_.width - 2 * side, box_.height};
     text(words, shown.caption, {points(bold, words.width), bold, worn.text}, align::middle, shown.mnemonic);
 }
@@ -622,7 +627,7 @@ void painter::paint_option(const option_button& shown) {
         : active()     ? hovered_edge
                        : hairline);
     ring(button_corner);
-    text(box_, shown.caption, {points(shown.selected, box_.width - 120), shown.selected, words}, align::middle);
+    text(box_, shown.caption, {points(true, box_.width - 120), shown.selected, words}, align::middle);
 }
 
 // A large choice: a tile with its mark; under it, beside a sign that says whether it is chosen, its name and what it

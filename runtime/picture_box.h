@@ -97,6 +97,7 @@ public:
     static constexpr int inner_width = 5380;
     static constexpr int inner_height = 2130;
 
+    int full_height = inner_height; // of what is seen, where that is more than a picture box of the usual shape
     kleur ground = wit;
     const kleurtabel* colours = &kleur_rgb; // what the palette's indices mean here
 

@@ -133,7 +133,7 @@ public:
         out_ += "/>\n";
     }
     void operator()(const scene_drawing& drawn) {
-        place seen{0, 0, drawing::inner_width, drawing::inner_height};
+        place seen{0, 0, drawing::inner_width, drawn.shown->full_height};
         if (!drawn.whole) seen = drawn_bounds(*drawn.shown);
         out_ += "<svg";
         with(" x", drawn.at.left)(" y", drawn.at.top);
@@ -148,7 +148,7 @@ public:
         drawn_ = &shown;
         if (with_ground) {
             out_ += "<rect";
-            with(" width", drawing::inner_width)(" height", drawing::inner_height);
+            with(" width", drawing::inner_width)(" height", shown.full_height);
             colour(" fill", colour_on(shown, shown.ground));
             out_ += "/>\n";
         }
@@ -257,7 +257,7 @@ private:
 std::string svg_of(const drawing& shown) {
     std::string text;
     writer out(text);
-    out.open(drawing::inner_width, drawing::inner_height);
+    out.open(drawing::inner_width, shown.full_height);
     out.operations(shown, true);
     out.close();
     return text;

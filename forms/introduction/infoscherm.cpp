@@ -14,7 +14,8 @@ constexpr place tekstkolom{480, 1080, 4950, 5430};
 constexpr place voorbeeldplaats{5850, 1080, voorbeeld::paneel_breedte, voorbeeld::paneel_hoogte};
 constexpr double tekst_punten = 13, kader_punten = 11.25;
 
-// In lines of at most this width. A number stays on one line with what it counts.
+// In lines of at most this width. A number stays on one line with what it counts, and no short word stands alone at the
+// end.
 std::vector<std::string> breek_af(std::string_view tekst, double punten, int breedte) {
     std::vector<std::string> regels;
     bool tied = false;
@@ -23,7 +24,8 @@ std::vector<std::string> breek_af(std::string_view tekst, double punten, int bre
         const std::size_t end = std::min(tekst.find(' '), tekst.size());
         part += (tied ? " " : "") + std::string(tekst.substr(0, end));
         tekst.remove_prefix(std::min(end + 1, tekst.size()));
-        tied = !tekst.empty() && (std::isdigit(static_cast<unsigned char>(part.back())) != 0 || part.ends_with("€"));
+        const bool number = std::isdigit(static_cast<unsigned char>(part.back())) != 0 || part.ends_with("€");
+        tied = !tekst.empty() && (number || (tekst.size() <= 7 && tekst.find(' ') == std::string_view::npos));
         if (tied) continue;
         if (regels.empty() || text_width(regels.back() + ' ' + part, punten, 1.0) > breedte)
             regels.push_back(part);
@@ -32,6 +34,18 @@ std::vector<std::string> breek_af(std::string_view tekst, double punten, int bre
         part.clear();
     }
     return regels;
+}
+
+// Which screen of the set this is: the disc of three that is filled.
+drawing drie_stippen(int nummer, subject about) {
+    constexpr int straal = 85, tussen = 330;
+    drawing dots;
+    dots.colours = &voorbeeldkleuren(about);
+    for (int i = 1; i <= infoscherm::aantal; ++i) {
+        if (i == nummer) dots.filled_circle(i * tussen, 0, straal, donker);
+        dots.circle(i * tussen, 0, straal, donker);
+    }
+    return dots;
 }
 
 } // namespace
@@ -54,11 +68,8 @@ infoscherm::infoscherm(outside& with, formulieren& forms, int boekje, int nummer
     add(voorbeeldvlak, "voorbeeldvlak", voorbeeldplaats, lesson);
     leg_voorbeeld_neer(false);
 
-    const std::string rij[aantal]{"● ○ ○", "○ ● ○", "○ ○ ●"};
-    add(stippen, "stippen", {120, 7050, 900, 420}, lesson_word, rij[nummer - 1]);
-    stippen.font_size = 14;
+    add(stippen, "stippen", {120, 7050, 850, 420}, lesson_word);
     add(stand, "stand", {1110, 7050, 2000, 420}, body, std::to_string(nummer) + " van 3");
-    stippen.accessible_name = stand.caption;
     stand.font_size = 12;
     add(verder, "verder", {9660, 6960, 2700, 600}, main_action, nummer == aantal ? "sommen maken" : "verder");
     verder.font_size = 14;
@@ -139,6 +150,7 @@ void infoscherm::toon_voor(int boekje) {
     opschriftbalk.caption = list.heading;
     merk.mark = merkteken(list.key);
     about = onderwerp(list.key);
+    stippen.mark = drie_stippen(nummer_, about);
     voorbeeld_->kleur_naar(about);
     show();
 }

@@ -9,14 +9,6 @@ namespace cijferwerf {
 
 namespace {
 
-// A fraction set upright, its bar at this height; returns its right end.
-int schrijf_breuk(drawing& on, schrift in, point links, breuk b) {
-    const zelfde_stand bewaard(on, 3);
-    on.text_size = in.punten;
-    on.fore_colour = in.met;
-    return teken_breuk(on, links.x, links.y, 0, b.teller, b.noemer);
-}
-
 // A bar in equal pieces of which the first ones are coloured.
 void teken_strook(drawing& on, const vlak& waar, breuk b) {
     teken_vak(on, waar, wit, donker, 3);
@@ -46,9 +38,8 @@ void teken_pizza(drawing& on, point midden, int straal, breuk b) {
 class strook_in_stukken : public voorbeeld {
 public:
     strook_in_stukken() {
-        maak_blad(180, 90, 5820, 2);
-        teller_stappen_ = &stappen({180, 4740, 2790, 570}, 1020, "teller", deel_.teller, 1, deel_.noemer);
-        stappen({3210, 4740, 2790, 570}, 1020, "noemer", deel_.noemer, 2, 10);
+        teller_stappen_ = &stappen(links_onder, "teller", deel_.teller, 1, deel_.noemer);
+        stappen(rechts_onder, "noemer", deel_.noemer, 2, 10);
     }
 
 protected:
@@ -87,10 +78,9 @@ private:
 class evenveel_pizza : public voorbeeld {
 public:
     evenveel_pizza() {
-        maak_blad(180, 90, 5820, 2);
         for (int i = 0; const breuk b : {breuk{3, 4}, breuk{1, 2}, breuk{2, 3}})
-            keuze("breuk", {180 + 1980 * i++, 150, 1860, 480}, streepbreuk(b), [this, b] { deel_ = b; });
-        stappen({1740, 4740, 2700, 570}, 930, "keer", keer_, 2, 5);
+            keuze("breuk", bovenaan(i++), streepbreuk(b), [this, b] { deel_ = b; });
+        stappen(midden_onder, "keer", keer_, 2, 5);
     }
 
 protected:
@@ -121,11 +111,10 @@ private:
 class stroken_samen : public voorbeeld {
 public:
     stroken_samen() {
-        maak_blad(180, 90, 5820, 2);
         for (int i = 0; const std::pair<breuk, breuk>& som :
                         {std::pair{breuk{1, 2}, breuk{1, 3}}, {breuk{1, 2}, breuk{1, 4}}, {breuk{1, 4}, breuk{2, 3}}})
-            keuze("som", {180 + 1980 * i++, 150, 1860, 480},
-                  regel(streepbreuk(som.first), " + ", streepbreuk(som.second)), [this, som] { som_ = som; });
+            keuze("som", bovenaan(i++), regel(streepbreuk(som.first), " + ", streepbreuk(som.second)),
+                  [this, som] { som_ = som; });
     }
 
 protected:
@@ -134,7 +123,7 @@ protected:
         const breuk samen = a + b;
         const auto gelijk = [&](breuk van) { return van.maal(samen.noemer / van.noemer); };
 
-        const std::tuple<breuk, int, kleur> rijen[]{{a, 650, half}, {b, 1490, geel}};
+        const std::tuple<breuk, int, kleur> rijen[]{{a, 730, half}, {b, 1560, geel}};
         for (const auto& [van, y, vulling] : rijen) {
             teken_delen(y, samen.noemer, {{gelijk(van).teller, vulling}}, van.noemer);
             const int midden = y + hoog / 2;
@@ -142,13 +131,13 @@ protected:
             x = schrijf(blad, {16, inkt}, {x + 130, midden - halve_regel(16)}, "=");
             schrijf_breuk(blad, {16, donker}, {x + 130, midden}, gelijk(van));
         }
-        schrijf(blad, {14, inkt}, {60, 2190}, "samen");
-        teken_delen(2560, samen.noemer, {{gelijk(a).teller, half}, {gelijk(b).teller, geel}}, samen.noemer);
+        schrijf(blad, {14, inkt}, {60, 2240}, "samen");
+        teken_delen(2610, samen.noemer, {{gelijk(a).teller, half}, {gelijk(b).teller, geel}}, samen.noemer);
 
         int x = 60;
         for (const auto& [deel, teken] : {std::pair{gelijk(a), "+"}, {gelijk(b), "="}, {samen, ""}}) {
-            x = schrijf_breuk(blad, {22, donker}, {x, 3730}, deel) + 150;
-            x = schrijf(blad, {22, inkt}, {x, 3730 - halve_regel(22)}, teken) + 150;
+            x = schrijf_breuk(blad, {22, donker}, {x, 3760}, deel) + 150;
+            x = schrijf(blad, {22, inkt}, {x, 3760 - halve_regel(22)}, teken) + 150;
         }
         return regel(streepbreuk(a), " + ", streepbreuk(b), " = ", streepbreuk(gelijk(a)), " + ",
                      streepbreuk(gelijk(b)), " = ", streepbreuk(samen), ".");
@@ -184,18 +173,17 @@ const lesreeks les_breuken{{
     {"Wat is een breuk?",
      {"Een breuk is een deel van een geheel.",
       "Het getal onder de streep heet de noemer: in hoeveel stukken is er verdeeld?",
-      "Het getal boven de streep heet de teller: hoeveel van die stukken neem je?", ""},
+      "Het getal boven de streep heet de teller: hoeveel van die stukken neem je?"},
      {probeer, "Druk op - en + en kijk hoe de strook en de breuk veranderen."},
      nieuw<strook_in_stukken>},
     {"Evenveel pizza",
      {"Snijd elk stuk pizza in kleinere stukken. Je hebt dan meer stukken, maar niet meer pizza.",
-      "Doe teller en noemer keer hetzelfde getal. Terug mag ook: dan deel je ze allebei. Dat heet vereenvoudigen.", "",
-      ""},
+      "Doe teller en noemer keer hetzelfde getal. Terug mag ook: dan deel je ze allebei. Dat heet vereenvoudigen."},
      {probeer, "Kies een breuk. Kies daarna hoeveel keer."},
      nieuw<evenveel_pizza>},
     {"Breuken optellen",
      {"Halven en derden kun je niet zomaar optellen. Maak de stukken eerst even groot.",
-      "Zoek een noemer die bij allebei past. Tel daarna alleen de tellers op. De noemer blijft hetzelfde.", "", ""},
+      "Zoek een noemer die bij allebei past. Tel daarna alleen de tellers op. De noemer blijft hetzelfde."},
      {probeer, "Kies een som. In hoeveel stukken wordt elke strook verdeeld?"},
      nieuw<stroken_samen>},
 }};

@@ -71,14 +71,12 @@ protected:
         : hoe_(hoe),
           teken_(teken),
           som_(sommen.front()) {
-        maak_blad(180, 90, 5820, 2);
         for (int i = 0; const opgave each : sommen)
-            keuze("som", {180 + 1980 * i++, 150, 1860, 480}, regel(kaal(each.boven), " ", teken_, each.onder),
-                  [this, each] {
-                      som_ = each;
-                      stap_ = 0;
-                  });
-        stappen({1740, 4740, 2700, 570}, 930, "stap", stap_, 0, kolommen);
+            keuze("som", bovenaan(i++), regel(kaal(each.boven), " ", teken_, each.onder), [this, each] {
+                som_ = each;
+                stap_ = 0;
+            });
+        stappen(midden_onder, "stap", stap_, 0, kolommen);
     }
 
     std::string toon() override {
@@ -113,14 +111,14 @@ protected:
             return regel(som, ". ", begin);
         }
         std::string zin = regel("Stap ", kaal(stap_), ":");
-        for (int y = 3100; const std::string& regeltje : alle[static_cast<std::size_t>(stap_ - 1)].uitleg) {
+        for (int y = 3050; const std::string& regeltje : alle[static_cast<std::size_t>(stap_ - 1)].uitleg) {
             schrijf_midden(blad, {15, inkt}, {drawing::inner_width / 2, y}, regeltje);
             zin += ' ' + regeltje + (regeltje.ends_with('.') ? "" : ".");
-            y += 340;
+            y += 310;
         }
         if (stap_ == kolommen) {
             const std::string antwoord = regel(som, " = ", uitkomst);
-            schrijf_midden(blad, {18, donker}, {drawing::inner_width / 2, 4080}, antwoord);
+            schrijf_midden(blad, {18, donker}, {drawing::inner_width / 2, 4020}, antwoord);
             zin += ' ' + antwoord + '.';
         }
         return zin;
@@ -147,9 +145,10 @@ public:
 // A calculator of its own, without the message boxes of the other.
 class eigen_rekenmachine : public voorbeeld {
 public:
-    eigen_rekenmachine() : display_(woorden({180, 180, 5820, 690}, 22, theme_role::readout)) {
+    eigen_rekenmachine()
+        : voorbeeld(std::nullopt),
+          display_(woorden("display", {180, 180, 5820, 690}, 22, theme_role::readout)) {
         constexpr int rijen[4][5]{{7, 8, 9, 16, 11}, {4, 5, 6, 15, 12}, {1, 2, 3, 14, 17}, {0, 10, 19, 13, 18}};
-        display_.name = "display";
         display_.right_aligned = true;
         for (int y = 1020; const auto& rij : rijen) {
             for (int x = 180; const int key : rij) {
@@ -194,17 +193,17 @@ private:
 const lesreeks les_cijferen{{
     {"Onder elkaar optellen",
      {"Zet de getallen onder elkaar: eenheden onder eenheden, tientallen onder tientallen.",
-      "Begin rechts. Komt er 10 of meer uit? Schrijf de eenheden op en onthoud 1 voor de volgende kolom.", "", ""},
+      "Begin rechts. Komt er 10 of meer uit? Schrijf de eenheden op en onthoud 1 voor de volgende kolom."},
      {probeer, "Kies een som en zet steeds een stap."},
      nieuw<optellen>},
     {"Aftrekken en lenen",
      {"Zet het grootste getal boven. Begin weer rechts.",
-      "Is het bovenste cijfer te klein? Leen dan 10 van het cijfer links ervan. Dat cijfer wordt 1 minder.", "", ""},
+      "Is het bovenste cijfer te klein? Leen dan 10 van het cijfer links ervan. Dat cijfer wordt 1 minder."},
      {probeer, "Kies een som en zet steeds een stap. In welke kolom moet je lenen?"},
      nieuw<aftrekken>},
     {"De rekenmachine",
      {"Soms mag je de rekenmachine gebruiken. Schat altijd eerst wat er ongeveer uitkomt.",
-      "M+ telt de uitkomst op bij het geheugen. MR laat het geheugen zien. Met C begin je een nieuw getal.", ""},
+      "M+ telt de uitkomst op bij het geheugen. MR laat het geheugen zien. Met C begin je een nieuw getal."},
      {probeer, "Toets: 3 x 2,45 = M+ C 2 x 1,2 = M+ MR. Wat staat er?"},
      nieuw<eigen_rekenmachine>},
 }};

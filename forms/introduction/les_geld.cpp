@@ -11,22 +11,18 @@ namespace cijferwerf {
 
 namespace {
 
-std::string bedrag(int cent) { return regel(kaal(euro(cent))); }
-
 // A euro changed into coins of one value, and how many of them go into more euros.
 class wisselen : public voorbeeld {
 public:
     wisselen() {
-        maak_blad(180, 90, 5820, 2);
-        stapper& munt = stappen({180, 4740, 2790, 570}, 750, "munt", soort_, 0, static_cast<int>(soorten.size()) - 1);
-        munt.vorm = [](int nummer) { return regel(kaal(soorten[static_cast<std::size_t>(nummer)].cent), " ct"); };
-        munt.getal->font_size = 16;
-        stappen({3210, 4740, 2790, 570}, 960, "euro's", euros_, 1, 10);
+        stappen(links_onder, "munt", soort_, 0, laatste(soorten), 1,
+                [](int nummer) { return regel(kaal(soorten[nummer].cent), " ct"); });
+        stappen(rechts_onder, "euro's", euros_, 1, 10);
     }
 
 protected:
     std::string toon() override {
-        const auto [cent, per_rij, afstand] = soorten[static_cast<std::size_t>(soort_)];
+        const auto [cent, per_rij, afstand] = soorten[soort_];
         const int aantal = 100 / cent, rijen = aantal / per_rij;
         teken_munt(blad, {620, 1080}, 520, 100);
         schrijf_midden(blad, {28, donker}, {1400, 1080}, "=");
@@ -55,8 +51,8 @@ private:
     struct soort {
         int cent, per_rij, afstand;
     };
-    static constexpr std::array<soort, 6> soorten{
-        {{1, 10, 205}, {2, 10, 370}, {5, 5, 500}, {10, 5, 720}, {20, 5, 720}, {50, 2, 1000}}};
+    static constexpr soort soorten[]{{1, 10, 205}, {2, 10, 370}, {5, 5, 500},
+                                     {10, 5, 720}, {20, 5, 720}, {50, 2, 1000}};
 
     int soort_ = 4, euros_ = 6;
 };
@@ -65,12 +61,9 @@ private:
 class kassa : public voorbeeld {
 public:
     kassa() {
-        maak_blad(180, 90, 5820, 2);
-        stapper& prijs =
-            stappen({180, 4740, 2790, 570}, 720, "prijs", artikel_, 0, static_cast<int>(artikelen.size()) - 1);
-        prijs.vorm = [](int nummer) { return bedrag(artikelen[static_cast<std::size_t>(nummer)].prijs); };
-        prijs.getal->font_size = 13;
-        knop("opnieuw", {3210, 4740, 2790, 570}, theme_role::action, "geld terugnemen", [this] { gegeven_ = {}; });
+        stappen(links_onder, "prijs", artikel_, 0, laatste(artikelen), 1,
+                [](int nummer) { return bedrag(artikelen[nummer].prijs); });
+        knop("opnieuw", rechts_onder, theme_role::action, "geld terugnemen", [this] { gegeven_ = {}; });
         for (std::size_t i = 0; i < geld.size(); ++i)
             cel("geldstuk", static_cast<int>(i) + 1, plek(i), "een " + geldstuk(geld[i]), [this, i] {
                 if (totaal() + geld[i] <= meest) ++gegeven_[i];
@@ -80,7 +73,7 @@ public:
 protected:
     std::string toon() override {
         blad.colours = &geldkleuren();
-        const auto [naam, prijs] = artikelen[static_cast<std::size_t>(artikel_)];
+        const auto [naam, prijs] = artikelen[artikel_];
         std::string zin = regel(naam, " kost ", bedrag(prijs), ".");
         schrijf(blad, {18, donker}, {60, 40}, zin);
         for (std::size_t i = 0; i < geld.size(); ++i) {
@@ -108,12 +101,8 @@ private:
         std::string_view naam;
         int prijs;
     };
-    static constexpr std::array<artikel, 6> artikelen{{{"Een pen", 85},
-                                                       {"Een schrift", 175},
-                                                       {"Een pizza", 635},
-                                                       {"Een bal", 860},
-                                                       {"Een boek", 1295},
-                                                       {"Een T-shirt", 1450}}};
+    static constexpr artikel artikelen[]{{"Een pen", 85},  {"Een schrift", 175}, {"Een pizza", 635},
+                                         {"Een bal", 860}, {"Een boek", 1295},   {"Een T-shirt", 1450}};
     static constexpr std::array<int, 9> geld{2'000, 1'000, 500, 200, 100, 50, 20, 10, 5};
     static constexpr int meest = 5'000;
 
@@ -182,16 +171,13 @@ private:
 class bijna_rond : public voorbeeld {
 public:
     bijna_rond() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 960, "aantal", aantal_, 1, 6);
-        stapper& prijs = stappen({3210, 4740, 2790, 570}, 720, "prijs", keus_, 0, static_cast<int>(prijzen.size()) - 1);
-        prijs.vorm = [](int keus) { return bedrag(prijzen[static_cast<std::size_t>(keus)]); };
-        prijs.getal->font_size = 13;
+        stappen(links_onder, "aantal", aantal_, 1, 6);
+        stappen(rechts_onder, "prijs", keus_, 0, laatste(prijzen), 1, [](int keus) { return bedrag(prijzen[keus]); });
     }
 
 protected:
     std::string toon() override {
-        const int prijs = prijzen[static_cast<std::size_t>(keus_)], rond = (prijs + 99) / 100 * 100;
+        const int prijs = prijzen[keus_], rond = (prijs + 99) / 100 * 100;
         const int verschil = rond - prijs;
         for (int i = 0; i < aantal_; ++i) {
             teken_kaartje({40 + i * 890, 500, 830, 760}, bedrag(prijs));
@@ -210,7 +196,7 @@ protected:
     }
 
 private:
-    static constexpr std::array<int, 5> prijzen{99, 198, 295, 499, 995};
+    static constexpr int prijzen[]{99, 198, 295, 499, 995};
 
     void teken_kaartje(const vlak& op, std::string_view tekst) {
         const std::vector<point> omtrek{{op.links, op.boven + 240},

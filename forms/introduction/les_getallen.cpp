@@ -19,10 +19,10 @@ protected:
     // From left to right; the digits, of which there are as many, are those to begin with.
     // Behind the first there is room for a comma, where one is meant.
     cijfers_op_hun_plaats(const std::vector<plaats>& plaatsen, std::vector<int> begin, bool komma)
-        : plaatsen_(plaatsen),
+        : voorbeeld(411),
+          plaatsen_(plaatsen),
           cijfers_(std::move(begin)),
           komma_(komma) {
-        maak_blad(180, 411, 5820, 2);
         for (std::size_t i = 0; i < plaatsen_.size(); ++i) {
             hoger_.push_back(&draai(i, 40, button::sign::plus, " hoger", 1));
             lager_.push_back(&draai(i, 1610, button::sign::minus, " lager", -1));
@@ -64,7 +64,7 @@ protected:
         lijn.getal(0, "0");
         lijn.getal(10, eind);
         const int x = links + static_cast<int>((rechts - links) * static_cast<long long>(waarde) / tot);
-        teken_pijl(blad, {x, y - 420}, {x, y - 40}, half);
+        teken_pijl(blad, {x, y - 380}, {x, y - 40}, half);
     }
 
 private:
@@ -140,11 +140,10 @@ protected:
 class stukjes_tellen : public voorbeeld {
 public:
     stukjes_tellen() {
-        maak_blad(180, 90, 5820, 2);
         for (int i = 0; const stuk& each : stukken)
-            keuze("lijn", {180 + 1980 * i++, 150, 1860, 480}, regel(getal(each.van), " tot ", getal(each.tot)),
+            keuze("lijn", bovenaan(i++), regel(getal(each.van), " tot ", getal(each.tot)),
                   [this, &each] { stuk_ = &each; });
-        pijl_stappen_ = &stappen({1740, 4740, 2700, 570}, 930, "pijl", pijl_, 0, stuk_->delen);
+        pijl_stappen_ = &stappen(midden_onder, "pijl", pijl_, 0, stuk_->delen);
     }
 
 protected:
@@ -195,18 +194,18 @@ private:
 const lesreeks les_getallen{{
     {"De plaats telt mee",
      {"Elk cijfer heeft zijn eigen plaats. Die plaats zegt hoeveel het cijfer waard is.",
-      "In 63.261 staan twee zessen. De eerste is 60.000 waard, de tweede 60.", "", ""},
+      "In 63.261 staan twee zessen. De eerste is 60.000 waard, de tweede 60."},
      {probeer, "Maak een cijfer hoger of lager. Hoe lees je het getal? Waar ligt het op de getallenlijn?"},
      nieuw<geheel_getal>},
     {"Achter de komma",
      {"Achter de komma komen eerst de tienden (t), dan de honderdsten (h) en dan de duizendsten (d).",
-      "Elke plaats naar rechts is tien keer zo klein. Daarom is 0,5 meer dan 0,35.", "", ""},
+      "Elke plaats naar rechts is tien keer zo klein. Daarom is 0,5 meer dan 0,35."},
      {probeer, "Verander een cijfer en kijk hoe ver de pijl springt."},
      nieuw<kommagetal_op_zijn_plaats>},
     {"Naar welk getal?",
      {"Twee getallen op de lijn zijn genoeg om de rest te vinden.",
       "Bereken het verschil. Deel dat door het aantal stukjes. Dan weet je wat één stukje waard is.",
-      "Tel de stukjes tot de pijl.", ""},
+      "Tel de stukjes tot de pijl."},
      {probeer, "Kies een lijn en verschuif de pijl."},
      nieuw<stukjes_tellen>},
 }};

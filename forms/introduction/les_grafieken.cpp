@@ -23,7 +23,7 @@ void teken_cirkel(drawing& on, point midden, int straal, const std::vector<taart
     teken_taart(on, midden, straal, zonder, vanaf);
     for (double hoek = vanaf; const taartdeel& each : delen) {
         const double sweep = 360.0 * each.deel / geheel;
-        schrijf_midden(on, {14, leesbaar_op(each.vulling)}, op_cirkel(midden, straal * 0.66, hoek + sweep / 2),
+        schrijf_midden(on, {14, leesbaar_op(each.vulling)}, op_cirkel(midden, straal * 0.72, hoek + sweep / 2),
                        each.tekst);
         hoek += sweep;
     }
@@ -45,11 +45,10 @@ constexpr dagverkoop verkoop[]{
 class tabel_in_beeld : public voorbeeld {
 public:
     tabel_in_beeld() {
-        maak_blad(180, 90, 5820, 2);
         const std::pair<const char*, soort> soorten[]{
             {"staafgrafiek", staaf}, {"lijngrafiek", lijn}, {"cirkelgrafiek", cirkel}};
         for (int i = 0; const auto& [naam, gekozen] : soorten)
-            keuze("grafiek", {180 + 1980 * i++, 150, 1860, 480}, naam, [this, kies = gekozen] { soort_ = kies; });
+            keuze("grafiek", bovenaan(i++), naam, [this, kies = gekozen] { soort_ = kies; });
     }
 
 protected:
@@ -100,10 +99,7 @@ private:
 class regen_aflezen : public voorbeeld {
 public:
     regen_aflezen() {
-        maak_blad(180, 90, 5820, 2);
-        stapper& maand = stappen({1590, 4740, 3000, 570}, 1110, "maand", maand_, 1, 6);
-        maand.vorm = [](int nummer) { return std::string(kort[nummer - 1]); };
-        maand.getal->font_size = 15;
+        stappen(midden_onder, "maand", maand_, 1, 6, 1, [](int nummer) { return std::string(kort[nummer - 1]); });
         for (int i = 1; i <= 6; ++i)
             cel("kolom", i, {plot.links + (i - 1) * plot.breedte / 6, plot.boven, plot.breedte / 6, plot.hoogte},
                 std::string(maanden[i - 1]), [this, i] { maand_ = i; });
@@ -144,10 +140,7 @@ private:
 // How so many pupils come to school: each part of the circle as a part of that number.
 class cirkel_verdelen : public voorbeeld {
 public:
-    cirkel_verdelen() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({1440, 4740, 3300, 570}, 1400, "leerlingen", leerlingen_, 8, 80, 8);
-    }
+    cirkel_verdelen() { stappen({1440, 4740, 3300, 570}, "leerlingen", leerlingen_, 8, 80, 8); }
 
 protected:
     std::string toon() override {
@@ -185,19 +178,17 @@ const lesreeks les_grafieken{{
     {"Getallen in beeld",
      {"In een grafiek zie je in één oogopslag wat er in een tabel staat.",
       "Staven vergelijk je op hoogte. Een lijn laat zien hoe iets verandert. Een cirkel laat zien hoe een geheel "
-      "verdeeld is.",
-      "", ""},
+      "verdeeld is."},
      {probeer, "Kies een grafiek. De tabel blijft dezelfde."},
      nieuw<tabel_in_beeld>},
     {"Lees eerst de assen",
      {"Kijk eerst wat er bij de assen staat. Hier: maanden en mm regen.",
-      "Kijk dan hoeveel elk lijntje meer is. Hier is dat 10 mm.", "Ga van de kolom recht naar de as.", ""},
+      "Kijk dan hoeveel elk lijntje meer is. Hier is dat 10 mm.", "Ga van de kolom recht naar de as."},
      {probeer, "Kies een maand, of klik op een kolom."},
      nieuw<regen_aflezen>},
     {"De hele cirkel",
      {"Een cirkelgrafiek heet ook sectordiagram. De hele cirkel is iedereen samen.",
-      "Een halve cirkel is de helft van alle leerlingen. Een kwart cirkel is een kwart. Zo reken je elk deel uit.", "",
-      ""},
+      "Een halve cirkel is de helft van alle leerlingen. Een kwart cirkel is een kwart. Zo reken je elk deel uit."},
      {probeer, "Verander het aantal leerlingen. Wat blijft gelijk?"},
      nieuw<cirkel_verdelen>},
 }};

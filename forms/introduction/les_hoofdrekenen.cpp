@@ -11,9 +11,8 @@ namespace {
 class splitsen : public voorbeeld {
 public:
     splitsen() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 1560, 570}, 0, "keer", keer_, 2, 9);
-        stappen({1830, 4740, 1740, 570}, 0, "getal", getal_, 11, 99);
+        stappen({180, 4740, 1560, 570}, "keer", keer_, 2, 9);
+        stappen({1830, 4740, 1740, 570}, "getal", getal_, 11, 99);
         verder_ = &knop("stap", {3690, 4740, 2310, 570}, theme_role::action, "", [this] { stap_ = (stap_ + 1) % 5; });
     }
 
@@ -28,21 +27,21 @@ protected:
         verder_->caption = stap_ < 4 ? "volgende stap" : "opnieuw";
 
         const int breed = 4500 * getal_ / std::max(getal_, rond), deel = 4500 * rond / std::max(getal_, rond);
-        constexpr int links = 640, boven = 900;
+        constexpr int links = 640, boven = 940;
         const int hoog = 70 * keer_ + 260;
         schrijf(blad, {24, donker}, {60, 20}, regel(kaal(keer_), " x", getal_, " ="));
         schrijf_midden(blad, {16, inkt}, {340, boven + hoog / 2}, kaal(keer_));
         teken_vak(blad, {links, boven, breed, hoog}, half, donker, 4);
         if (stap_ == 0)
-            schrijf_midden(blad, {16, inkt}, {links + breed / 2, boven - 170}, kaal(getal_));
+            schrijf_midden(blad, {16, inkt}, {links + breed / 2, boven - 210}, kaal(getal_));
         else {
             // What is cut off is white, or beyond the rectangle's end.
             const vlak stukje{links + std::min(breed, deel), boven, std::abs(deel - breed), hoog};
-            teken_vak(blad, stukje, eraf ? wit : geel, donker, 4);
-            schrijf_midden(blad, {16, inkt}, {links + deel / 2, boven - 170}, kaal(rond));
+            teken_vak(blad, stukje, eraf ? wit : geel, donker);
+            schrijf_midden(blad, {16, inkt}, {links + deel / 2, boven - 210}, kaal(rond));
             const int midden = std::max(stukje.midden().x, links + deel / 2 + 420);
             schrijf_midden(blad, {16, inkt},
-                           {eraf ? stukje.midden().x : midden, eraf ? boven + hoog + 190 : boven - 170},
+                           {eraf ? stukje.midden().x : midden, eraf ? boven + hoog + 210 : boven - 210},
                            regel(teken, rest));
         }
         const std::string stappen[]{regel(kaal(getal_), " =", rond, teken, rest),
@@ -71,9 +70,8 @@ private:
 class sprongen : public voorbeeld {
 public:
     sprongen() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 960, "begin", begin_, 21, 89);
-        stappen({3210, 4740, 2790, 570}, 960, "erbij", erbij_, 11, 49);
+        stappen(links_onder, "begin", begin_, 21, 89);
+        stappen(rechts_onder, "erbij", erbij_, 11, 49);
     }
 
 protected:
@@ -109,9 +107,8 @@ private:
 class komma_schuift : public voorbeeld {
 public:
     komma_schuift() {
-        maak_blad(180, 90, 5820, 2);
-        delen_ = &knop("komma", {180, 4740, 2790, 570}, theme_role::action, ": 10", [this] { --stappen_; });
-        keer_ = &knop("komma", {3210, 4740, 2790, 570}, theme_role::action, "x 10", [this] { ++stappen_; });
+        delen_ = &knop("komma", links_onder, theme_role::action, ": 10", [this] { --stappen_; });
+        keer_ = &knop("komma", rechts_onder, theme_role::action, "x 10", [this] { ++stappen_; });
         delen_->index = 1;
         keer_->index = 2;
         delen_->accessible_name = "delen door 10";
@@ -147,7 +144,7 @@ protected:
 
         const kommagetal nu = getal.verschoven(stappen_);
         const int plaatsen = std::abs(stappen_);
-        const std::string begin = tekst(getal), uitkomst = tekst(nu);
+        const std::string begin = getaltekst(getal), uitkomst = getaltekst(nu);
         const std::string som =
             plaatsen == 0 ? begin
                           : regel(begin, stappen_ > 0 ? " x" : " :", groepen(tien_tot_de(plaatsen)), " = ", uitkomst);
@@ -162,9 +159,6 @@ protected:
 
 private:
     static constexpr kommagetal getal{332, 1};
-    static std::string tekst(kommagetal k) {
-        return regel(k.decimalen == 0 ? kaal(groepen(k.geschaald)) : kaal(komma_kort(k)));
-    }
 
     int stappen_ = 0;
     button *delen_, *keer_;

@@ -11,9 +11,8 @@ namespace {
 class rechthoek : public voorbeeld {
 public:
     rechthoek() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 960, "lengte", lengte_, 1, langst);
-        stappen({3210, 4740, 2790, 570}, 960, "breedte", breedte_, 1, breedst);
+        stappen(links_onder, "lengte", lengte_, 1, langst);
+        stappen(rechts_onder, "breedte", breedte_, 1, breedst);
         for (int i = 0; i < langst * breedst; ++i) {
             const int lang = i % langst + 1, breed = i / langst + 1;
             cel("hokje", i + 1, hokje(i), regel(kaal(lang), " bij", breed), [this, lang, breed] {
@@ -34,7 +33,7 @@ protected:
         blad.line_width = 4;
         blad.box(begin.links, begin.boven, eind.rechts() - begin.links, eind.onder() - begin.boven, donker);
         blad.line_width = 1;
-        schrijf_midden(blad, {13, inkt}, {(begin.links + eind.rechts()) / 2, 1930}, cm(lengte_));
+        schrijf_midden(blad, {13, inkt}, {(begin.links + eind.rechts()) / 2, 150}, cm(lengte_));
         schrijf_rechts(blad, {13, inkt}, {begin.links - 110, (begin.boven + eind.onder()) / 2 - halve_regel(13)},
                        cm(breedte_));
 
@@ -52,7 +51,7 @@ private:
 
     static constexpr vlak hokje(int i) {
         constexpr int zijde = 250;
-        return {1200 + i % langst * zijde, 30 + i / langst * zijde, zijde, zijde};
+        return {1200 + i % langst * zijde, 320 + i / langst * zijde, zijde, zijde};
     }
     static std::string cm(int lengte) { return regel(kaal(lengte), " cm"); }
     void vak(int links, std::string_view naam, std::string_view som, std::string_view uitkomst) {
@@ -70,18 +69,16 @@ private:
 class matentrap : public voorbeeld {
 public:
     matentrap() {
-        maak_blad(180, 90, 5820, 2);
-        for (int i = 0; i < static_cast<int>(soorten.size()); ++i) {
-            const std::string naam(soorten[static_cast<std::size_t>(i)].naam);
-            keuze("soort", {180 + i * 1380, 4740, i < 3 ? 1320 : 1680, 570}, naam, [this, i] { soort_ = i; });
-        }
+        for (int i = 0; i < 4; ++i)
+            keuze("soort", {180 + i * 1380, 4740, i < 3 ? 1320 : 1680, 570}, std::string(soorten[i].naam),
+                  [this, i] { soort_ = i; });
         for (int i = 0; i < treden; ++i)
             cel("trede", i + 1, trede(i), regel("trede ", kaal(i + 1), " van boven"), [this, i] { op_ = i; });
     }
 
 protected:
     std::string toon() override {
-        const auto& [naam, ladder, getal] = soorten[static_cast<std::size_t>(soort_)];
+        const auto& [naam, ladder, getal] = soorten[soort_];
         for (int i = 0; i < treden; ++i) {
             const vlak waar = trede(i);
             teken_vak(blad, waar, i == op_ ? donker : half, donker);
@@ -94,8 +91,8 @@ protected:
 
         const eenheid &van = ladder[begin], &naar = ladder[static_cast<std::size_t>(op_)];
         const int macht = macht_tussen(van, naar), per_trede = macht_tussen(ladder[0], ladder[1]);
-        const std::string maat = regel(tekst(getal), " ", van.teken);
-        const std::string nieuw = regel(tekst(omgerekend(getal, van, naar)), " ", naar.teken);
+        const std::string maat = regel(getaltekst(getal), " ", van.teken);
+        const std::string nieuw = regel(getaltekst(omgerekend(getal, van, naar)), " ", naar.teken);
         const int stappen = std::abs(op_ - static_cast<int>(begin));
         const std::string weg =
             regel(kaal(stappen), stappen == 1 ? " trede " : " treden ",
@@ -115,18 +112,14 @@ private:
         const std::array<eenheid, treden>& ladder;
         kommagetal getal;
     };
-    static constexpr std::array<soort, 4> soorten{{{"lengte", lengtematen, {25, 1}},
-                                                   {"gewicht", gewichtsmaten, {750, 0}},
-                                                   {"inhoud", inhoudsmaten, {15, 1}},
-                                                   {"oppervlakte", oppervlaktematen, {4, 0}}}};
+    static constexpr soort soorten[]{{"lengte", lengtematen, {25, 1}},
+                                     {"gewicht", gewichtsmaten, {750, 0}},
+                                     {"inhoud", inhoudsmaten, {15, 1}},
+                                     {"oppervlakte", oppervlaktematen, {4, 0}}};
 
     static constexpr vlak trede(int i) {
         constexpr int breed = 750, boven = 940, hoog = 390, onder = 4200;
         return {65 + i * breed, boven + i * hoog, breed, onder - boven - i * hoog};
-    }
-    // Only whole numbers are large here.
-    static std::string tekst(kommagetal getal) {
-        return regel(getal.decimalen == 0 ? kaal(groepen(getal.geschaald)) : kaal(komma_kort(getal)));
     }
 
     int soort_ = 0, op_ = 5;
@@ -136,10 +129,9 @@ private:
 class blokkendoos : public voorbeeld {
 public:
     blokkendoos() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 1860, 570}, 0, "lengte", lengte_, 1, 6);
-        stappen({2160, 4740, 1860, 570}, 0, "breedte", breedte_, 1, 4);
-        stappen({4140, 4740, 1860, 570}, 0, "hoogte", hoogte_, 1, 5);
+        stappen({180, 4740, 1860, 570}, "lengte", lengte_, 1, 6);
+        stappen({2160, 4740, 1860, 570}, "breedte", breedte_, 1, 4);
+        stappen({4140, 4740, 1860, 570}, "hoogte", hoogte_, 1, 5);
     }
 
 protected:
@@ -182,7 +174,7 @@ private:
 const lesreeks les_meten{{
     {"Omtrek en oppervlakte",
      {"De omtrek is de lengte van de rand. Tel alle zijden bij elkaar op.",
-      "De oppervlakte zegt hoeveel hokjes erin passen. Bij een rechthoek is dat lengte x breedte.",
+      "De oppervlakte zegt hoeveel hokjes erin passen.", "Bij een rechthoek is dat lengte x breedte.",
       "Een hokje hiernaast is 1 cm²."},
      {probeer, "Klik op een hokje, of druk op - en +. Wat groeit het snelst?"},
      nieuw<rechthoek>},

@@ -1,5 +1,6 @@
 // Percentages: a hundred-square to fill, one per cent first, and the percentages worth knowing by heart.
 #include "forms/introduction/les.h"
+#include "forms/introduction/schrijf.h"
 #include "generators/gedeeld/breuk.h"
 
 namespace cijferwerf {
@@ -9,19 +10,12 @@ namespace {
 // "1/4", "0", "1".
 std::string kortste(breuk b) { return gemengd(b.vereenvoudigd()); }
 
-void druk(drawing& on, double punten, kleur met, int x, int y, std::string_view tekst) {
-    on.text_size = punten;
-    on.fore_colour = met;
-    on.print_at(x, y, tekst);
-}
-
 // A hundred squares of which some are filled, read in three ways.
 class honderdveld : public voorbeeld {
 public:
     honderdveld() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 900, "hokjes", aantal_, 0, 100);
-        stappen({3210, 4740, 2790, 570}, 960, "per tien", aantal_, 0, 100, 10);
+        stappen(links_onder, "hokjes", aantal_, 0, 100);
+        stappen(rechts_onder, "per tien", aantal_, 0, 100, 10);
         for (int n = 1; n <= 100; ++n)
             cel("hokje", n, hokje(n), regel(kaal(n), " procent"), [this, n] { aantal_ = aantal_ == n ? n - 1 : n; });
     }
@@ -29,30 +23,21 @@ public:
 protected:
     std::string toon() override {
         for (int n = 1; n <= 100; ++n) {
-            const vlak at = hokje(n);
-            blad.filled_box(at.links, at.boven, at.breedte, at.hoogte, n <= aantal_ ? half : wit);
-            blad.box(at.links, at.boven, at.breedte, at.hoogte, donker);
+            teken_vak(blad, hokje(n), n <= aantal_ ? half : wit, donker, 1);
         }
         const breuk deel{aantal_, 100};
         const std::string procent = regel(kaal(aantal_), " %");
         const std::string komma = regel(kaal(komma_kort(aantal_, 2)));
         constexpr int x = 3720;
-        druk(blad, 28, donker, x, 150, procent);
-        druk(blad, 13, inkt, x, 790, "dat is");
-        blad.text_size = 20;
-        blad.fore_colour = donker;
-        const int end = teken_breuk(blad, x, 1590, 0, aantal_, 100);
+        schrijf(blad, {28, donker}, {x, 150}, procent);
+        schrijf(blad, {13, inkt}, {x, 790}, "dat is");
+        const int end = schrijf_breuk(blad, {20, donker}, {x, 1590}, deel);
         if (deel.vereenvoudigbaar()) {
-            druk(blad, 18, inkt, end + 120, 1590 - halve_regel(18), "=");
-            blad.text_size = 18;
-            const breuk kort = deel.vereenvoudigd();
-            if (kort.noemer == 1)
-                blad.print_at(end + 390, 1590 - halve_regel(18), kaal(kort.teller));
-            else
-                teken_breuk(blad, end + 390, 1590, 0, kort.teller, kort.noemer);
+            schrijf(blad, {18, inkt}, {end + 120, 1590 - halve_regel(18)}, "=");
+            schrijf_breuk(blad, {18, inkt}, {end + 390, 1590}, deel.vereenvoudigd());
         }
-        druk(blad, 13, inkt, x, 2290, "en dat is");
-        druk(blad, 28, donker, x, 2620, komma);
+        schrijf(blad, {13, inkt}, {x, 2290}, "en dat is");
+        schrijf(blad, {28, donker}, {x, 2620}, komma);
         return regel(kaal(aantal_), " van de 100 hokjes: ", procent, ", de breuk ", kortste(deel), ", het kommagetal ",
                      komma, ".");
     }
@@ -70,20 +55,18 @@ private:
 class een_procent_eerst : public voorbeeld {
 public:
     een_procent_eerst() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 870, "bedrag", honderd_euro_, 100, 900, 100);
-        stappen({3210, 4740, 2790, 570}, 975, "procent", procent_, 1, 100);
+        stappen(links_onder, "bedrag", honderd_euro_, 100, 900, 100);
+        stappen(rechts_onder, "procent", procent_, 1, 100);
     }
 
 protected:
     std::string toon() override {
         const int een = honderd_euro_ / 100;
-        const std::string bedrag = regel(kaal(euro(honderd_euro_ * 100LL)));
-        const std::string stukje = regel(kaal(euro(een * 100LL)));
-        const std::string deel = regel(kaal(euro(100LL * een * procent_)));
+        const std::string geheel = bedrag(honderd_euro_ * 100), stukje = bedrag(een * 100);
+        const std::string deel = bedrag(een * 100 * procent_);
         // The amount as a bar of a hundred parts.
         constexpr int links = 190, breed = 5000, boven = 760, hoog = 620;
-        druk(blad, 13, inkt, links, boven - 400, regel("100 % is ", bedrag));
+        schrijf(blad, {13, inkt}, {links, boven - 400}, "100 % is " + geheel);
         blad.filled_box(links, boven, breed, hoog, wit);
         blad.filled_box(links, boven, breed * procent_ / 100, hoog, half);
         for (int i = 1; i < 100; ++i)
@@ -93,19 +76,17 @@ protected:
         blad.box(links, boven, breed, hoog, donker);
         blad.line_width = 1;
         const std::string naam = regel(kaal(procent_), " %");
-        blad.text_size = 13;
-        blad.fore_colour = donker;
         const int midden = links + breed * procent_ / 200;
-        blad.print_at(std::max(links, midden - text_width(naam, 13) / 2), boven + hoog + 60, naam);
+        schrijf(blad, {13, donker}, {std::max(links, midden - text_width(naam, 13) / 2), boven + hoog + 60}, naam);
 
-        const std::string rekenen[2][2]{{"1 %", regel(bedrag, " : 100 = ", stukje)},
+        const std::string rekenen[2][2]{{"1 %", regel(geheel, " : 100 = ", stukje)},
                                         {naam, regel(kaal(procent_), " x ", stukje, " = ", deel)}};
         for (int i = 0; i < 2; ++i) {
             const int y = 2330 + i * 900;
-            druk(blad, 22, donker, links, y, rekenen[i][0]);
-            druk(blad, 22, inkt, links + 1300, y, rekenen[i][1]);
+            schrijf(blad, {21, donker}, {links, y}, rekenen[i][0]);
+            schrijf(blad, {21, inkt}, {links + 1400, y}, rekenen[i][1]);
         }
-        return regel("1 % van ", bedrag, " is ", stukje, ". ", naam, " is ", deel, ".");
+        return regel("1 % van ", geheel, " is ", stukje, ". ", naam, " is ", deel, ".");
     }
 
 private:
@@ -125,12 +106,10 @@ std::string handige_procenten(drawing& on) {
         for (int k = 1; k < n; ++k) on.line(links + k * breed / n, y, links + k * breed / n, y + hoog, donker);
         on.line_width = 3;
         on.box(links, y, breed, hoog, donker);
-        on.line_width = 2;
         const std::string procent = regel(kaal(100 / n), " %");
-        druk(on, 24, donker, 3370, y + hoog / 2 - halve_regel(24), procent);
-        druk(on, 18, inkt, 4480, y + hoog / 2 - halve_regel(18), "=");
-        on.text_size = 20;
-        teken_breuk(on, 4830, y + hoog / 2, 0, 1, n);
+        schrijf(on, {24, donker}, {3370, y + hoog / 2 - halve_regel(24)}, procent);
+        schrijf(on, {18, inkt}, {4480, y + hoog / 2 - halve_regel(18)}, "=");
+        schrijf_breuk(on, {20, inkt}, {4830, y + hoog / 2}, {1, n});
         zin += regel(procent, " is 1/", kaal(n), ". ");
     }
     zin.pop_back();
@@ -146,7 +125,7 @@ const lesreeks les_procenten{{
      {probeer, "Klik op een hokje, of druk op - en +. Wat staat er rechts?"},
      nieuw<honderdveld>},
     {"Neem eerst 1 %",
-     {"Hoeveel is 7 % van € 300,-?", "Neem eerst 1 %. Daarvoor deel je door 100.",
+     {"Hoeveel is 7 % van € 300,-?", "Neem eerst 1 %. Deel daarvoor door 100.",
       "Vermenigvuldig daarna met het aantal procenten."},
      {probeer, "Verander het bedrag en het aantal procenten. Wat blijft hetzelfde in de som?"},
      nieuw<een_procent_eerst>},

@@ -14,12 +14,9 @@ namespace {
 class afronden : public voorbeeld {
 public:
     afronden() {
-        maak_blad(180, 90, 5820, 2);
-        stapper& stap = stappen({180, 4740, 2580, 570}, 660, "getal", getal_, 100, 1'000);
-        stap.vorm = [](int getal) { return regel(kaal(duizend(getal))); };
-        stap.getal->font_size = 15;
-        keuze("afronden", {2940, 4740, 1470, 570}, "tiental", [this] { op_ = 10; });
-        keuze("afronden", {4530, 4740, 1470, 570}, "honderdtal", [this] { op_ = 100; });
+        keuze("afronden", bovenaan(0), "tiental", [this] { op_ = 10; });
+        keuze("afronden", bovenaan(1), "honderdtal", [this] { op_ = 100; });
+        stappen(midden_onder, "getal", getal_, 100, 1'000, 1, [](int getal) { return regel(kaal(duizend(getal))); });
         for (int i = 0; i <= 10; ++i)
             cel("streepje", i, {links + i * (rechts - links) / 10 - 180, lijn_y - 120, 360, 240},
                 regel("streepje ", kaal(i)), [this, i] { getal_ = std::min(getal_, 999) / op_ * op_ + i * op_ / 10; });
@@ -43,13 +40,13 @@ protected:
                                    : rest * 2 == op_ ? "Precies in het midden: rond naar boven af."
                                                      : regel("Het ligt het dichtst bij", duizend(rond), ".");
         const std::string uitkomst = regel(kaal(duizend(getal_)), is_rond ? " blijft" : " is ongeveer", duizend(rond));
-        schrijf_midden(blad, {15, inkt}, {2690, 2640}, waarom);
-        schrijf_midden(blad, {26, donker}, {2690, 3460}, uitkomst);
+        schrijf_midden(blad, {15, inkt}, {2690, 2840}, waarom);
+        schrijf_midden(blad, {26, donker}, {2690, 3540}, uitkomst);
         return regel("Tussen", duizend(onder), " en", duizend(boven), ". ", waarom, " ", uitkomst, ".");
     }
 
 private:
-    static constexpr int links = 600, rechts = 4780, lijn_y = 1400;
+    static constexpr int links = 600, rechts = 4780, lijn_y = 1880;
 
     int getal_ = 347, op_ = 10;
 };
@@ -58,14 +55,13 @@ private:
 class schatting : public voorbeeld {
 public:
     schatting() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 960, "som", nummer_, 1, static_cast<int>(sommen.size()));
-        rond_ = &knop("rond", {3210, 4740, 2790, 570}, theme_role::action, "", [this] { afgerond_ = !afgerond_; });
+        stappen(links_onder, "som", nummer_, 1, laatste(sommen) + 1);
+        rond_ = &knop("rond", rechts_onder, theme_role::action, "", [this] { afgerond_ = !afgerond_; });
     }
 
 protected:
     std::string toon() override {
-        const som& s = sommen[static_cast<std::size_t>(nummer_ - 1)];
+        const som& s = sommen[nummer_ - 1];
         const int precies = uitkomst(s.links, s.teken, s.rechts);
         const int ongeveer = uitkomst(s.rond_links, s.teken, s.rond_rechts);
         rond_->caption = afgerond_ ? "precies" : "rond af";
@@ -95,12 +91,8 @@ private:
         char teken;
         int rechts, rond_links, rond_rechts;
     };
-    static constexpr std::array<som, 6> sommen{{{398, '+', 205, 400, 200},
-                                                {802, '-', 203, 800, 200},
-                                                {49, 'x', 21, 50, 20},
-                                                {287, '+', 512, 300, 500},
-                                                {6, 'x', 298, 6, 300},
-                                                {1'195, ':', 5, 1'200, 5}}};
+    static constexpr som sommen[]{{398, '+', 205, 400, 200}, {802, '-', 203, 800, 200}, {49, 'x', 21, 50, 20},
+                                  {287, '+', 512, 300, 500}, {6, 'x', 298, 6, 300},     {1'195, ':', 5, 1'200, 5}};
     static std::string tekst(int links, char teken, int rechts) {
         return regel(kaal(duizend(links)), " ", std::string_view(&teken, 1), rechts);
     }
@@ -126,61 +118,56 @@ private:
 class genoeg_geld : public voorbeeld {
 public:
     genoeg_geld() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2280, 570}, 660, "geld", euros_, 10, 25);
-        for (int i = 0; i < 3; ++i) {
-            const std::string naam(manieren[static_cast<std::size_t>(i)].naam);
-            keuze("manier", {2580 + i * 1150, 4740, 1120, 570}, naam, [this, i] { manier_ = i; }).accessible_name =
-                manieren[static_cast<std::size_t>(i)].voluit;
-        }
+        for (int i = 0; i < 3; ++i)
+            keuze("manier", bovenaan(i), std::string(manieren[i].naam), [this, i] { manier_ = i; });
+        stappen(midden_onder, "geld", euros_, 10, 25);
     }
 
 protected:
     std::string toon() override {
-        const manier& zo = manieren[static_cast<std::size_t>(manier_)];
+        const manier& zo = manieren[manier_];
         const auto rond = [&](int cent) { return (cent + zo.erbij) / 100; };
         int precies = 0, samen = 0;
-        schrijf_rechts(blad, {14, donker}, {3500, 60}, "precies");
-        schrijf_rechts(blad, {14, donker}, {5260, 60}, zo.voluit);
-        for (int y = 450; const auto& [naam, cent] : lijst) {
+        schrijf_rechts(blad, {14, donker}, {3400, 560}, "precies");
+        schrijf_rechts(blad, {14, donker}, {5260, 560}, zo.naam);
+        for (int y = 900; const auto& [naam, cent] : lijst) {
             schrijf(blad, {16, inkt}, {100, y}, naam);
-            schrijf_rechts(blad, {16, inkt}, {3500, y}, bedrag(cent));
+            schrijf_rechts(blad, {16, inkt}, {3400, y}, bedrag(cent));
             schrijf_rechts(blad, {16, donker}, {5260, y}, bedrag(rond(cent) * 100));
             precies += cent;
             samen += rond(cent);
-            y += 420;
+            y += 400;
         }
         blad.line_width = 2;
-        blad.line(60, 2240, 5320, 2240, donker);
-        schrijf(blad, {18, donker}, {100, 2320}, "samen");
-        schrijf_rechts(blad, {18, inkt}, {3500, 2320}, bedrag(precies));
-        schrijf_rechts(blad, {18, donker}, {5260, 2320}, bedrag(samen * 100));
+        blad.line(60, 2570, 5320, 2570, donker);
+        schrijf(blad, {18, donker}, {100, 2620}, "samen");
+        schrijf_rechts(blad, {18, inkt}, {3400, 2620}, bedrag(precies));
+        schrijf_rechts(blad, {18, donker}, {5260, 2620}, bedrag(samen * 100));
 
         const std::string oordeel = zeker(samen);
-        schrijf_midden(blad, {16, inkt}, {2690, 3200}, regel("Je hebt ", bedrag(euros_ * 100), ". Je schatting zegt:"));
-        schrijf_midden(blad, {18, donker}, {2690, 3700}, oordeel);
-        return regel("Kosten, ", zo.voluit, " afgerond: ", bedrag(samen * 100), ". Precies: ", bedrag(precies),
+        schrijf_midden(blad, {16, inkt}, {2690, 3380}, regel("Je hebt ", bedrag(euros_ * 100), ". Je schatting zegt:"));
+        schrijf_midden(blad, {18, donker}, {2690, 3820}, oordeel);
+        return regel("Kosten, ", zo.naam, " afgerond: ", bedrag(samen * 100), ". Precies: ", bedrag(precies),
                      ". Je hebt ", bedrag(euros_ * 100), ". ", oordeel);
     }
 
 private:
     struct manier {
-        std::string_view naam, voluit;
+        std::string_view naam;
         int erbij; // cents, before the cents are dropped
     };
-    static constexpr std::array<manier, 3> manieren{
-        {{"boven", "naar boven", 99}, {"beneden", "naar beneden", 0}, {"gewoon", "gewoon", 50}}};
+    static constexpr manier manieren[]{{"naar boven", 99}, {"naar beneden", 0}, {"gewoon", 50}};
     struct boodschap {
         std::string_view naam;
         int cent;
     };
-    static constexpr std::array<boodschap, 4> lijst{{{"kaas", 640}, {"brood", 275}, {"druiven", 195}, {"sap", 430}}};
-    static std::string bedrag(int cent) { return regel(kaal(euro(cent))); }
+    static constexpr boodschap lijst[]{{"kaas", 640}, {"brood", 275}, {"druiven", 195}, {"sap", 430}};
 
     std::string zeker(int samen) const {
         if (manier_ == 0) return samen <= euros_ ? "Je hebt zeker genoeg." : "Misschien is het te weinig.";
         if (manier_ == 1) return samen > euros_ ? "Je hebt zeker te weinig." : "Misschien is het genoeg.";
-        return samen <= euros_ ? "Waarschijnlijk genoeg." : "Waarschijnlijk te weinig.";
+        if (samen == euros_) return "Dat weet je niet zeker.";
+        return samen < euros_ ? "Waarschijnlijk genoeg." : "Waarschijnlijk te weinig.";
     }
 
     int euros_ = 17, manier_ = 0;

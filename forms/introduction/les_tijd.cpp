@@ -8,29 +8,26 @@ namespace cijferwerf {
 
 namespace {
 
-// A dial, the same time in digits, and how it is said. Days follow one another without end.
+// A dial, the same time in digits, and how it is said.
 class klok : public voorbeeld {
 public:
     klok() {
-        maak_blad(180, 90, 5820, 2);
-        constexpr int eindeloos = 1'000 * kloktijd::dag;
-        stappen({180, 4740, 2790, 570}, 960, "uur", minuten_, -eindeloos, eindeloos, 60).vorm = [](int minuten) {
-            return regel(kaal(kloktijd{minuten}.uur()));
-        };
-        stappen({3210, 4740, 2790, 570}, 1080, "minuten", minuten_, -eindeloos, eindeloos, 5).vorm = [](int minuten) {
-            return regel(kaal(kloktijd{minuten}.minuut()));
-        };
+        stappen(links_onder, "uur", uur_, -1, 24);
+        stappen(rechts_onder, "minuut", minuut_, -5, 60, 5);
         for (int n = 1; n <= 12; ++n) {
             constexpr int zijde = 340;
             const point op = op_cirkel(midden, straal * 0.72, 90 - 30 * n);
             cel("wijzer", n, {op.x - zijde / 2, op.y - zijde / 2, zijde, zijde}, regel("grote wijzer op ", kaal(n)),
-                [this, n] { minuten_ += n % 12 * 5 - kloktijd{minuten_}.minuut(); });
+                [this, n] { minuut_ = n % 12 * 5; });
         }
     }
 
 protected:
     std::string toon() override {
-        const kloktijd tijd{minuten_};
+        // Past its end the one goes on with the next hour, the other with the next day.
+        const kloktijd tijd = om(uur_, minuut_);
+        uur_ = tijd.uur();
+        minuut_ = tijd.minuut();
         const std::string zin = klokzin(tijd), cijfers = tijd.cijfers();
         teken_klok(blad, midden, straal, tijd.op_wijzerplaat().minuten);
         teken_vak(blad, {3620, 560, 1620, 800}, inkt, donker, 3);
@@ -44,7 +41,7 @@ private:
     static constexpr point midden{1800, 1880};
     static constexpr int straal = 1320;
 
-    int minuten_ = om(15, 25).minuten;
+    int uur_ = 15, minuut_ = 25;
 };
 
 std::string duur(int minuten) {
@@ -57,12 +54,9 @@ std::string duur(int minuten) {
 class tijdbalk : public voorbeeld {
 public:
     tijdbalk() {
-        maak_blad(180, 90, 5820, 2);
-        const auto tekst = [](int minuten) { return kloktijd{minuten}.cijfers(); };
-        begin_stap_ = &stappen({180, 4740, 2790, 570}, 780, "begin", begin_, vroegst.minuten, 0, 5);
-        eind_stap_ = &stappen({3210, 4740, 2790, 570}, 780, "einde", eind_, 0, laatst.minuten, 5);
-        begin_stap_->vorm = eind_stap_->vorm = tekst;
-        begin_stap_->getal->font_size = eind_stap_->getal->font_size = 15;
+        const auto cijfers = [](int minuten) { return kloktijd{minuten}.cijfers(); };
+        begin_stap_ = &stappen(links_onder, "begin", begin_, vroegst.minuten, 0, 5, cijfers);
+        eind_stap_ = &stappen(rechts_onder, "einde", eind_, 0, laatst.minuten, 5, cijfers);
     }
 
 protected:
@@ -88,12 +82,12 @@ protected:
             const kloktijd van = punten[i - 1], naar = punten[i];
             const bool hele_uren = van.minuut() == 0 && naar.minuut() == 0;
             teken_vak(blad, {x(van), boven, x(naar) - x(van), hoog}, hele_uren ? half : geel, donker);
-            const int y = 1720 + static_cast<int>(i) * 480;
+            const int y = 1640 + static_cast<int>(i) * 480;
             schrijf(blad, {17, inkt}, {60, y}, regel(van.cijfers(), " - ", naar.cijfers()));
             schrijf_rechts(blad, {17, inkt}, {5320, y}, duur(naar - van));
             zin += regel(" ", van.cijfers(), " tot ", naar.cijfers(), " is ", duur(naar - van), ",");
         }
-        const int streep = 1720 + static_cast<int>(punten.size()) * 480;
+        const int streep = 1660 + static_cast<int>(punten.size()) * 480;
         blad.line_width = 2;
         blad.line(60, streep - 40, 5320, streep - 40, donker);
         schrijf(blad, {20, donker}, {60, streep + 20}, "samen");
@@ -113,16 +107,14 @@ private:
 class tijdmaten : public voorbeeld {
 public:
     tijdmaten() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 960, "aantal", aantal_, 1, 5);
-        stapper& soort = stappen({3210, 4740, 2790, 570}, 660, "maat", maat_, 0, static_cast<int>(maten.size()) - 1);
-        soort.vorm = [](int maat) { return std::string(maten[static_cast<std::size_t>(maat)].een); };
-        soort.getal->font_size = 13;
+        stappen(links_onder, "aantal", aantal_, 1, 5);
+        stappen(rechts_onder, "maat", maat_, 0, laatste(maten), 1,
+                [](int maat) { return std::string(maten[maat].een); });
     }
 
 protected:
     std::string toon() override {
-        const tijdmaat& maat = maten[static_cast<std::size_t>(maat_)];
+        const tijdmaat& maat = maten[maat_];
         for (int i = 0; i < aantal_; ++i) {
             constexpr int links = 60, breed = 5250, hoog = 400;
             const int y = 120 + i * 550;
@@ -143,11 +135,11 @@ private:
         std::string_view een, meer, klein;
         int factor;
     };
-    static constexpr std::array<tijdmaat, 5> maten{{{"jaar", "jaren", "maanden", 12},
-                                                    {"week", "weken", "dagen", 7},
-                                                    {"dag", "dagen", "uren", 24},
-                                                    {"uur", "uren", "minuten", 60},
-                                                    {"minuut", "minuten", "seconden", 60}}};
+    static constexpr tijdmaat maten[]{{"jaar", "jaar", "maanden", 12},
+                                      {"week", "weken", "dagen", 7},
+                                      {"dag", "dagen", "uur", 24},
+                                      {"uur", "uur", "minuten", 60},
+                                      {"minuut", "minuten", "seconden", 60}};
 
     int aantal_ = 3, maat_ = 1;
 };
@@ -169,7 +161,7 @@ const lesreeks les_tijd{{
      nieuw<tijdbalk>},
     {"Van groot naar klein",
      {"Een jaar heeft 12 maanden. Een week heeft 7 dagen.",
-      "Een dag heeft 24 uren, een uur heeft 60 minuten en een minuut heeft 60 seconden.",
+      "Een dag heeft 24 uur, een uur heeft 60 minuten en een minuut heeft 60 seconden.",
       "Naar een kleinere maat? Dan vermenigvuldig je."},
      {probeer, "Kies een maat en een aantal."},
      nieuw<tijdmaten>},

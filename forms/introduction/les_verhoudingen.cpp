@@ -37,9 +37,8 @@ void teken_verhoudingstabel(drawing& on, int boven, int naam_breedte, const std:
 class eieren_en_melk : public voorbeeld {
 public:
     eieren_en_melk() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({180, 4740, 2790, 570}, 1020, "eieren", eieren_, per_keer_ei, 5 * per_keer_ei, per_keer_ei);
-        stappen({3210, 4740, 2790, 570}, 1020, "melk", bekers_, per_keer_melk, 5 * per_keer_melk, per_keer_melk);
+        stappen(links_onder, "eieren", eieren_, per_keer_ei, 5 * per_keer_ei, per_keer_ei);
+        stappen(rechts_onder, "melk", bekers_, per_keer_melk, 5 * per_keer_melk, per_keer_melk);
     }
 
 protected:
@@ -94,10 +93,7 @@ private:
 // How far a car goes on some litres, by way of one litre.
 class via_een : public voorbeeld {
 public:
-    via_een() {
-        maak_blad(180, 90, 5820, 2);
-        stappen({1740, 4740, 2700, 570}, 930, "liter", liter_, 1, 12);
-    }
+    via_een() { stappen(midden_onder, "liter", liter_, 1, 12); }
 
 protected:
     std::string toon() override {
@@ -119,7 +115,9 @@ protected:
             teken_vak(blad, vak, i < liter_ ? half : wit, donker);
             schrijf_midden(blad, {12, inkt}, vak.midden(), kaal(km_per_liter));
         }
-        schrijf_midden(blad, {14, donker}, {links + liter_ * per_liter / 2, y + 640}, regel(kaal(liter_), " liter"));
+        const std::string getankte = regel(kaal(liter_), " liter");
+        schrijf(blad, {14, donker}, {links + std::max(0, liter_ * per_liter - text_width(getankte, 14)) / 2, y + 480},
+                getankte);
         return regel("Op 1 liter rijdt de auto ", kaal(km_per_liter), " km, op ", kaal(liter_), " liter ", kaal(km),
                      " km.");
     }
@@ -147,10 +145,9 @@ private:
 class schaal : public voorbeeld {
 public:
     schaal() {
-        maak_blad(180, 90, 5820, 2);
         for (int i = 0; const int to_one : {1'000, 10'000, 40'000})
-            keuze("schaal", {180 + 1980 * i++, 150, 1860, 480}, naam(to_one), [this, to_one] { schaal_ = to_one; });
-        stappen({1740, 4740, 2700, 570}, 930, "cm", cm_, 1, 9);
+            keuze("schaal", bovenaan(i++), naam(to_one), [this, to_one] { schaal_ = to_one; });
+        stappen(midden_onder, "cm", cm_, 1, 9);
     }
 
 protected:
@@ -186,17 +183,17 @@ private:
 const lesreeks les_verhoudingen{{
     {"Een verhouding",
      {"Voor pannenkoeken neem je 2 eieren op 3 bekers melk. Dat is een verhouding.",
-      "Neem je meer eieren? Dan heb je in verhouding ook meer melk nodig.", "", ""},
+      "Neem je meer eieren? Dan heb je in verhouding ook meer melk nodig."},
      {probeer, "Neem meer of minder eieren of melk. Kijk hoe het andere meegaat."},
      nieuw<eieren_en_melk>},
     {"Reken eerst naar 1",
      {"Een auto rijdt 60 km op 4 liter. Hoe ver komt hij op 6 liter?",
-      "Reken eerst uit hoe ver hij komt op 1 liter. Dan kun je daarna met elk getal vermenigvuldigen.", "", ""},
+      "Reken eerst uit hoe ver hij komt op 1 liter. Dan kun je daarna met elk getal vermenigvuldigen."},
      {probeer, "Kies hoeveel liter je tankt en volg de pijlen."},
      nieuw<via_een>},
     {"Schaal",
      {"Een schaal is ook een verhouding.", "Bij schaal 1 : 1.000 is 1 cm op de kaart in werkelijkheid 1.000 cm.",
-      "Van cm naar m deel je door 100.", ""},
+      "Van cm naar m deel je door 100."},
      {probeer, "Kies een schaal en een lengte op de kaart. Hoe lang is dat in het echt?"},
      nieuw<schaal>},
 }};

@@ -30,6 +30,19 @@ void schrijf_rechts(drawing& on, schrift in, point rechtsboven, std::string_view
     on.print_right(rechtsboven.x, rechtsboven.y, tekst);
 }
 
+int schrijf_breuk(drawing& on, schrift in, point links, breuk b) {
+    if (b.noemer == 1) return schrijf(on, in, {links.x, links.y - halve_regel(in.punten)}, kaal(b.teller));
+    const zelfde_stand bewaard(on, 3);
+    neem(on, in);
+    return teken_breuk(on, links.x, links.y, 0, b.teller, b.noemer);
+}
+
+std::string bedrag(int cent) { return regel(kaal(euro(cent))); }
+
+std::string getaltekst(kommagetal getal) {
+    return regel(getal.decimalen == 0 ? kaal(groepen(getal.geschaald)) : kaal(komma_kort(getal)));
+}
+
 void teken_vak(drawing& on, const vlak& waar, kleur vulling, kleur rand, int dikte) {
     const zelfde_stand bewaard(on, dikte);
     on.filled_box(waar.links, waar.boven, waar.breedte, waar.hoogte, vulling);

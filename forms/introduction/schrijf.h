@@ -1,7 +1,9 @@
-// Words and boxes on the drawing of an example, with their size and colours in one call.
+// Words, numbers and boxes on the drawing of an example, with their size and colours in one call.
 // Where they stand, and what they say, is the example's.
 #pragma once
 
+#include "generators/gedeeld/breuk.h"
+#include "generators/gedeeld/kommagetal.h"
 #include "generators/gedeeld/tekening.h"
 
 namespace cijferwerf {
@@ -16,6 +18,14 @@ struct schrift {
 int schrijf(drawing& on, schrift in, point linksboven, std::string_view tekst);
 void schrijf_midden(drawing& on, schrift in, point midden, std::string_view tekst);
 void schrijf_rechts(drawing& on, schrift in, point rechtsboven, std::string_view tekst);
+
+// A fraction set upright from its left end on, its bar at this height, or the whole number that it is; returns its
+// right end.
+int schrijf_breuk(drawing& on, schrift in, point links, breuk b);
+
+// "€ 12,50" and "€ 5,-"; "4.000.000" and "0,25" (only whole numbers are large here).
+std::string bedrag(int cent);
+std::string getaltekst(kommagetal getal);
 
 // A box with an edge, so many pixels wide.
 void teken_vak(drawing& on, const vlak& waar, kleur vulling, kleur rand, int dikte = 2);

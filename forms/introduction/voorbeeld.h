@@ -6,6 +6,7 @@
 #include "runtime/form.h"
 
 #include <deque>
+#include <optional>
 
 namespace cijferwerf {
 
@@ -19,7 +20,6 @@ public:
     // Of the panel, in twips. All places here are counted from its top-left corner.
     static constexpr int paneel_breedte = 6180, paneel_hoogte = 5430;
 
-    voorbeeld() = default;
     voorbeeld(const voorbeeld&) = delete;
     voorbeeld& operator=(const voorbeeld&) = delete;
     virtual ~voorbeeld() = default;
@@ -34,30 +34,32 @@ public:
     const std::string& zin() const { return zin_; }
 
 protected:
+    // With a drawing twice as high as an exercise's, whose top is here on the panel; or with none.
+    explicit voorbeeld(std::optional<int> blad_boven = 90);
+
     // Two buttons that lower and raise a value, with its name at the left and the value between them.
     struct stapper {
         int* waarde;
         int van, tot, stap;
-        button *min, *plus;
+        std::string (*vorm)(int); // how the value is written, where not as a whole number
         label* getal;
-        std::string (*vorm)(int) = nullptr; // how the value is written, where not as a whole number
+        button *min, *plus;
     };
 
     // Puts the state into words, labels and the drawing, which is empty; returns the sentence. A stepper's `van` and
     // `tot` may be changed here.
     virtual std::string toon() = 0;
 
-    // Makes the drawing: 5380 wide and 2130 high for each strip, shown at this width with its left end and its top
-    // here. Text that crosses the border of two strips may be seen broken: keep it clear of y = 2130.
-    void maak_blad(int links, int boven, int getoonde_breedte, int stroken);
-    // Where on the panel a part of the drawing is seen.
-    place op_blad(const vlak& deel) const;
+    // Where controls stand: in the row below the drawing, and in the row of three above it.
+    static constexpr place links_onder{180, 4740, 2790, 570}, rechts_onder{3210, 4740, 2790, 570},
+        midden_onder{1590, 4740, 3000, 570};
+    static constexpr place bovenaan(int i) { return {180 + 1980 * i, 150, 1860, 480}; }
 
     // A line of words, or of a number.
-    label& woorden(place waar, double punten, theme_role rol = theme_role::body, const std::string& tekst = {});
-    // 570 high. The number is in bold, in the middle of what the name leaves free.
-    stapper& stappen(place waar, int naam_breedte, const std::string& naam, int& waarde, int van, int tot,
-                     int stap = 1);
+    label& woorden(const std::string& naam, place waar, double punten, theme_role rol, const std::string& tekst = {});
+    // The name is only spoken where there is no room for it beside the buttons and the value.
+    stapper& stappen(place waar, const std::string& naam, int& waarde, int van, int tot, int stap = 1,
+                     std::string (*vorm)(int) = nullptr);
     // A button; its caption is spoken too unless another text is.
     button& knop(const std::string& naam, place waar, theme_role rol, const std::string& opschrift,
                  std::function<void()> click);
@@ -67,17 +69,17 @@ protected:
     // One of a few that exclude one another; the first that is made is chosen at first.
     option_button& keuze(const std::string& naam, place waar, const std::string& opschrift,
                          std::function<void()> click);
+    // Where on the panel a part of the drawing is seen.
+    place op_blad(const vlak& deel) const;
 
-    drawing blad;
+    picture_box blad;
 
 private:
     template<class Control>
     Control& neem_op(std::deque<Control>& soort, const std::string& naam, place waar, theme_role rol,
-                     const std::string& opschrift);
-    void verdeel_over_stroken();
+                     const std::string& opschrift, std::function<void()> click = {});
+    void zet_neer(control& made, const std::string& naam, place waar, theme_role rol);
 
-    place blad_plaats_{};
-    std::deque<picture_box> stroken_;
     std::deque<label> woorden_;
     std::deque<button> knoppen_;
     std::deque<option_button> keuzes_;
@@ -86,14 +88,20 @@ private:
     std::string zin_;
 };
 
-// An example without controls: a drawing of two strips over the whole panel, and its sentence.
+// An example without controls: a drawing in the middle of the panel, and its sentence.
 template<std::string (*Teken)(drawing&)>
 class prent : public voorbeeld {
 public:
-    prent() { maak_blad(180, 411, 5820, 2); }
+    prent() : voorbeeld(411) {}
 
 protected:
     std::string toon() override { return Teken(blad); }
 };
+
+// The last number of a table, for a stepper that goes through it.
+template<class Rij, std::size_t Aantal>
+constexpr int laatste(const Rij (&)[Aantal]) {
+    return static_cast<int>(Aantal) - 1;
+}
 
 } // namespace cijferwerf
