@@ -124,7 +124,11 @@ protected:
         if (event->type() == QEvent::WindowActivate) of_.box_page_->activateWindow();
         return false;
     }
-    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), QColor(0x17, 0x20, 0x2E, 0x73)); }
+    void paintEvent(QPaintEvent*) override {
+        QColor dark = theme::colour(look::ink);
+        dark.setAlphaF(look::box_shade);
+        QPainter(this).fillRect(rect(), dark);
+    }
     void keyPressEvent(QKeyEvent*) override {}
     bool focusNextPrevChild(bool) override { return true; }
 

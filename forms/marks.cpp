@@ -1,6 +1,7 @@
 #include "forms/marks.h"
 
 #include "globals/globalen.h"
+#include "runtime/look.h"
 
 #include <algorithm>
 #include <array>
@@ -29,7 +30,7 @@ constexpr auto tabellen = [] {
         made[i][lichtgroen] = colours_of(subject::meetkunde).mid;
         made[i][lichtcyaan] = colours_of(subject::procenten).mid;
         made[i][rood] = colours_of(subject::tijd).mid;
-        made[i][grijs] = 0x71829A;
+        made[i][grijs] = look::edge;
     }
     return made;
 }();

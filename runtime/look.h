@@ -23,8 +23,10 @@ inline constexpr rgb24 ground = 0xE9EEF5, // of a form
 // The face, by the first of these that there is: their widths are the same (see text_width).
 inline constexpr std::array font_families{"Liberation Sans", "Arial", "Helvetica"};
 // Of a line of text, above its baseline and below it, in parts of its size.
-inline constexpr int largest_corner = 180; // twips, of a panel or a card
 inline constexpr double ascent = 0.905, descent = 0.212;
+inline constexpr int largest_corner = 180; // twips, of a panel or a card
+// What lies behind a message box is covered with ink to this part.
+inline constexpr float box_shade = 0.45F;
 
 } // namespace look
 

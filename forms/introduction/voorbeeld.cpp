@@ -1,5 +1,7 @@
 #include "forms/introduction/voorbeeld.h"
 
+#include "runtime/look.h"
+
 #include <algorithm>
 
 namespace cijferwerf {
@@ -8,17 +10,17 @@ namespace {
 
 constexpr kleurtabel kleuren_bij(const subject_colours& about) {
     kleurtabel colours = kleur_rgb;
-    colours[inkt] = 0x17202E;
+    colours[inkt] = look::ink;
     colours[donker] = about.dark;
     colours[half] = about.mid;
     colours[licht] = about.tint;
     colours[blauw] = 0x2F66C9;
-    colours[groen] = 0x17703A;
-    colours[rood] = 0xA8261F;
+    colours[groen] = look::green;
+    colours[rood] = look::red;
     colours[geel] = 0xF3CE5E;
     colours[olijf] = 0x7A5A00;
-    colours[lichtgrijs] = 0xC3CCD8;
-    colours[grijs] = 0x5C6878;
+    colours[lichtgrijs] = look::off_edge;
+    colours[grijs] = look::grey;
     return colours;
 }
 
