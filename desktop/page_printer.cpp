@@ -1,4 +1,4 @@
-#include "desktop/page_printer.h"
+#include "desktop/report_printer.h"
 
 #include <QLibrary>
 #include <QPrinter>
@@ -46,7 +46,7 @@ print_result print(const page_to_print& page) {
 
     QPainter on;
     if (!on.begin(&printer)) return {outcome::failed, "de printer kan niet worden geopend."};
-    page.painted(on, printer.logicalDpiX() / twips_per_inch);
+    page.paint(on, printer.logicalDpiX() / twips_per_inch);
     if (!on.end() || printer.printerState() == QPrinter::Error) return {outcome::failed, "de printer meldt een fout."};
     if (const auto reason = page.pdf_file.isEmpty() ? refusal() : std::nullopt) return {outcome::failed, *reason};
     return {};

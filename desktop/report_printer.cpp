@@ -1,6 +1,5 @@
 #include "desktop/report_printer.h"
 
-#include "desktop/page_printer.h"
 #include "desktop/shipped.h"
 #include "desktop/theme.h"
 
