@@ -27,8 +27,7 @@ void sums_of_two(oefening_id id, const char* reads, std::vector<double> factors)
         right(C * E + D), wrong("zomaar opgeteld", A + B), wrong("verkeerde factor", C * E * E + D),
         wrong("getal om", C + D * E), wrong("beide getallen omgerekend", (A + B) * E),
         wrong("van elkaar", [](const reading& n) { return std::abs(n[2] * n[4] - n[3]); }),
-        wrong("in plaats van", C / E + D), explains("(eerste|tweede) getal *naar $c.", by_variant({0, 1, 0, 1})),
-        explains("Op de stippen moet dus # staan", C * E + D));
+        wrong("in plaats van", C / E + D), explains("(eerste|tweede) getal *naar $c.", by_variant({0, 1, 0, 1})));
 }
 
 // Each wrong answer is told how it came about: by "x 100", ": 10", not at all, or the other way.

@@ -119,7 +119,7 @@ const exercise_rows ratios([] {
         range({{16, 30}, {10000, 56000}}), right(says("# m", A * B / 100)),
         wrong("Je hebt gedeeld. Je had", says("# m", B / A / 100)), wrong("aantal cm gekozen", says("# m", A * B)),
         wrong("bovendien ook zomaar meters", says("# m", B / A)),
-        explains("in werkelijkheid # cm. Het fietspad is # cm lang", B, A), explains("ofwel # m.", A * B / 100));
+        explains("in werkelijkheid # cm. Het fietspad is # cm lang", B, A));
     row(L_museum_02_16_click, 5, "gemiddeld # mensen. Eén op de " + from_three, range({{408, 4000, 12}, {0, 2}}),
         range({{420, 3990}, {3, 5}}), range({{440, 3960}, {6, 8}}), range({{420, 3990}, {9, 12}}),
         range({{420, 3978}, {13, 17}}), right(A / one_in), wrong("uit het buitenland komt", A - A / one_in),
