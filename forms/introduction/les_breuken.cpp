@@ -1,7 +1,6 @@
 // Fractions: a bar in pieces, fractions of equal value, and adding with equal denominators.
 #include "forms/introduction/les.h"
 #include "forms/introduction/schrijf.h"
-#include "generators/gedeeld/breuk.h"
 
 #include <tuple>
 

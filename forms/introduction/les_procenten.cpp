@@ -1,14 +1,10 @@
 // Percentages: a hundred-square to fill, one per cent first, and the percentages worth knowing by heart.
 #include "forms/introduction/les.h"
 #include "forms/introduction/schrijf.h"
-#include "generators/gedeeld/breuk.h"
 
 namespace cijferwerf {
 
 namespace {
-
-// "1/4", "0", "1".
-std::string kortste(breuk b) { return gemengd(b.vereenvoudigd()); }
 
 // A hundred squares of which some are filled, read in three ways.
 class honderdveld : public voorbeeld {
@@ -22,9 +18,7 @@ public:
 
 protected:
     std::string toon() override {
-        for (int n = 1; n <= 100; ++n) {
-            teken_vak(blad, hokje(n), n <= aantal_ ? half : wit, donker, 1);
-        }
+        for (int n = 1; n <= 100; ++n) teken_vak(blad, hokje(n), n <= aantal_ ? half : wit, donker, 1);
         const breuk deel{aantal_, 100};
         const std::string procent = regel(kaal(aantal_), " %");
         const std::string komma = regel(kaal(komma_kort(aantal_, 2)));
@@ -38,8 +32,8 @@ protected:
         }
         schrijf(blad, {13, inkt}, {x, 2290}, "en dat is");
         schrijf(blad, {28, donker}, {x, 2620}, komma);
-        return regel(kaal(aantal_), " van de 100 hokjes: ", procent, ", de breuk ", kortste(deel), ", het kommagetal ",
-                     komma, ".");
+        return regel(kaal(aantal_), " van de 100 hokjes: ", procent, ", de breuk ", gemengd(deel.vereenvoudigd()),
+                     ", het kommagetal ", komma, ".");
     }
 
 private:
@@ -55,14 +49,14 @@ private:
 class een_procent_eerst : public voorbeeld {
 public:
     een_procent_eerst() {
-        stappen(links_onder, "bedrag", honderd_euro_, 100, 900, 100);
+        stappen(links_onder, "bedrag", euros_, 100, 900, 100);
         stappen(rechts_onder, "procent", procent_, 1, 100);
     }
 
 protected:
     std::string toon() override {
-        const int een = honderd_euro_ / 100;
-        const std::string geheel = bedrag(honderd_euro_ * 100), stukje = bedrag(een * 100);
+        const int een = euros_ / 100;
+        const std::string geheel = bedrag(euros_ * 100), stukje = bedrag(een * 100);
         const std::string deel = bedrag(een * 100 * procent_);
         // The amount as a bar of a hundred parts.
         constexpr int links = 190, breed = 5000, boven = 760, hoog = 620;
@@ -90,7 +84,7 @@ protected:
     }
 
 private:
-    int honderd_euro_ = 300, procent_ = 7;
+    int euros_ = 300, procent_ = 7;
 };
 
 // Bars under one another: half, a quarter, a fifth, a tenth.
