@@ -53,26 +53,17 @@ const formula its_mark = chosen(button - 1, {arrow(rood), arrow(blauw), arrow(ge
 
 // ---- places of digits ----
 
-// Which digits of a wrong answer stand elsewhere is what its feedback says.
-void check_digits(const reading& n) {
-    const seen& e = n.exercise;
-    for (int i = 2; i <= 4; ++i) {
-        const std::string wrong = e.answer(i);
-        std::string moved;
-        for (std::size_t at = 0; at < wrong.size(); ++at) moved += wrong[at] == e.right.at(at) ? '.' : 'x';
-        const auto all = std::ranges::count(moved, 'x'), last = std::count(moved.end() - 3, moved.end(), 'x');
-        EXPECT_TRUE(std::ranges::is_permutation(e.right, wrong) && (last == 0 || last == 2) && all <= last + 2);
-        const char* told = all == last                                  ? "In het laatste deel"
-                           : last > 0                                   ? "Vier cijfers"
-                           : n.variant() < 3 && moved.starts_with("xx") ? "De eerste twee cijfers"
-                           : n.variant() < 3 ? "De laatste drie cijfers zijn wel goed. In het linker"
-                                             : "De laatste drie cijfers zijn wel goed. In het middelste";
-        EXPECT_TRUE(e.feedback(i).starts_with(told)) << wrong << ": " << e.feedback(i);
-    }
-    EXPECT_EQ(e.words, telwoord_in_groepen(whole(e.right), spelling::schools));
-}
-
 formula unit_of(const formula& number) { return number - floor(number / 10) * 10; }
+
+// Which digits of a wrong answer stand where those of the right one do.
+const formula thousands = floor(answer / 1000), of_right = floor(A / 1000), same_left = thousands == of_right,
+              same_last = answer - thousands * 1000 == A - of_right * 1000,
+              same_third = unit_of(thousands) == unit_of(of_right);
+void check_words(const reading& n) {
+    const std::string& right = n.exercise.right;
+    EXPECT_EQ(n.exercise.words, telwoord_in_groepen(whole(right), spelling::schools));
+    for (const std::string& each : n.exercise.answers()) EXPECT_TRUE(std::ranges::is_permutation(right, each)) << each;
+}
 
 // The place of the digit at which the arrow points, counted from 0 at the right end.
 const formula place = [](const reading& n) {
@@ -200,7 +191,13 @@ const exercise_rows number_knowledge([] {
               lies::elsewhere));
     row(B_letters_11_01_click, 3, "Hoe schrijf je het in cijfers?",
         counts([](const reading& n) { return decimal(n.exercise.right); }), range({{12102, 98987, 1500}}),
-        range({{102102, 987987, 15000}}), range({{1102102, 9987987, 150000}}), check_digits);
+        range({{102102, 987987, 15000}}), range({{1102102, 9987987, 150000}}), wrong("In het laatste deel", same_left),
+        wrong("Vier cijfers", same_left + same_last == 0),
+        wrong(
+            {"De (laatste drie cijfers zijn wel goed. In het linker|eerste twee|laatste drie cijfers zijn wel goed. In het middelste)",
+             {by_variant({1, same_third, 2})}},
+            same_last),
+        check_words);
     row(B_waarde_11_01_click, 3, "dat cijfer waard? | #", counts(place), range({{1000, 99999, 400}, {1, 4}}),
         range({{100000, 9999999, 40000}, {3, 6}}), range({{10000000, 99999999, 400000}, {6, 7}}),
         right(pointed * place_worth), wrong(at_other_places()),

@@ -201,10 +201,17 @@ std::string fault(std::string_view text) {
         const std::string_view rest = text.substr(i);
         if (rest.size() > 1 && (rest[0] | 0x20) == 'e' && (is_digit(rest[1]) || rest[1] == '+' || rest[1] == '-'))
             return "an exponent";
+        const std::size_t end = rest.starts_with(' ') ? rest.find_first_not_of("0123456789", 1) : 1; // of a next number
+        if (end > 2 && rest.size() > 2 && text[i - 1] != ',' && text[i - 1] != '.' &&
+            (end == rest.npos || rest[end] != '/'))
+            return "two numbers side by side";
         const bool minus = first > 0 && text[first - 1] == '-' && (first == 1 || text[first - 2] == ' ');
         if (minus && found.find_first_not_of("0,") == found.npos) return "less than nothing";
         --i;
     }
+    for (const char one : std::string_view("+-x:="))
+        for (const char other : std::string_view("+-x:="))
+            if (text.find(std::string{' ', one, ' ', other, ' '}) != text.npos) return "two signs side by side";
     for (const std::string_view odd : {"nan", "inf"})
         if (const std::size_t at = text.find(odd); at != text.npos) {
             const auto letter = [&](std::size_t i) {
@@ -216,11 +223,11 @@ std::string fault(std::string_view text) {
 }
 
 TEST(properties, know_a_malformed_number) {
-    for (const char* right :
-         {"1.000", "31.900,50", "12.30 uur", "0,05", "Nog 3...", "1,5 - 0,5", "1/2", "12.345.678", "1234.567", "5-0"})
+    for (const char* right : {"1.000", "31.900,50", "12.30 uur", "0,05", "Nog 3...", "1,5 - 0,5", "1/2", "12.345.678",
+                              "1234.567", "5-0", "1 3/8 : 2"})
         EXPECT_EQ(fault(right), "") << right;
-    for (const char* wrong :
-         {"0.5", "1.0000", "1e5", "x = -0 m", "nan", "1.00.000", "1234.567.890", "-0,00", "3,4,5", "PRINT_1"})
+    for (const char* wrong : {"0.5", "1.0000", "1e5", "x = -0 m", "nan", "1.00.000", "1234.567.890", "-0,00", "3,4,5",
+                              "PRINT_1", "4 38", "is = + 3"})
         EXPECT_NE(fault(wrong), "") << wrong;
 }
 
