@@ -139,8 +139,7 @@ const exercise_rows columns([] {
     row(L_na_elkaar_12_01_click, 2, "| # - # (+|-) # =", range({{80, 480, 10}, {60, 160}, {0, 0}, {15, 45}}),
         range({{80, 480, 10}, {60, 160}, {1, 1}, {15, 45}}), right(after),
         wrong("getallen bij elkaar opgeteld", A - B - D), wrong("getallen van elkaar afgetrokken", A - B + D),
-        wrong("dat je alleen de eerste", A - B), wrong("alleen iets gedaan met de laatste", B + sign * D),
-        explains("Dus eerst doe je # - # = # en dan doe je ten slotte # (+|-) #", A, B, A - B, A - B, C, D));
+        wrong("dat je alleen de eerste", A - B), wrong("alleen iets gedaan met de laatste", B + sign * D));
     row(L_door_elkaar_12_02_click, 2, "| # + # x # - # =", range({{3, 19}, {3, 12}, {4, 10}, {2, 6}}),
         range({{15, 79}, {3, 12}, {4, 13}, {2, 9}}), right(A + B * C - D),
         wrong("eerst de vermenigvuldiging", (A + B) * C - D), wrong("geen haakjes", A + B * (C - D)),
@@ -169,7 +168,7 @@ const exercise_rows columns([] {
         range({{18, 89}, {12, 98}, {1, 2}}), range({{21, 92}, {12, 98}, {1, 2}}), right(makes(minus, rest, B)),
         wrong("", makes(1 - minus, rest, B), makes(minus, rest, tens), makes(1 - minus, rest, tens),
               makes(minus, rest, A), makes(minus, 10 - rest, B), makes(minus, rest + 1, B)),
-        explains("tiental: # = # (-|+) #. *eerst # x # *en daar # x #", A, tens, 1 - minus, rest, tens, B, rest, B),
+        explains("tiental: # = # (-|+) #.", A, tens, 1 - minus, rest),
         tips("Misschien kun je", "vlak bij een tiental"));
     row(M_flesjes_12_02_click, 4, "In elk krat zitten # flesjes.",
         counts(crates(true, true), crates(false, true), crates(true, false), crates(false, false)),
@@ -177,7 +176,7 @@ const exercise_rows columns([] {
         right(bottles), wrong("van voren ziet", front * A), wrong("van opzij ziet", side * A),
         wrong("aantal kratten", bottles / A), wrong("Begin met het tellen", (front + side) * A),
         wrong("boven elkaar staan dubbel", front * side * A),
-        explains("voren zie je # x # = # * dat er # kratten", B, C, front, D));
+        explains("voren zie je # x # = # * dat er # kratten*zitten # flesjes", B, C, front, D, A));
     row(M_snel_12_06_click, 4, "| Hoeveel is... | # (-|+) # (-|+) # (-|+) #",
         right(A + (2 * B - 1) * C + (2 * D - 1) * E + (2 * F - 1) * G), ticks({20}));
     row(M_controle_12_02_click, 2, "zie je een (deling|vermenigvuldiging). * | # (:|x) # = #",

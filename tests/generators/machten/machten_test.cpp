@@ -80,10 +80,7 @@ const exercise_rows powers([] {
         range({{7, 185, 15}, {0, 0}, {2, 10}, {2, 3}, {1, 1}, {5, 70, 3}, {3, 60, 3}, {31, 130, 10}}),
         range({{40, 90, 3}, {1, 1}, {2, 10}, {2, 3}, {1, 1}, {5, 60, 3}, {44, 215, 20}, {49, 275, 30}}),
         range({{40, 245, 20}, {0, 0}, {2, 10}, {2, 3}, {0, 0}, {5, 40, 3}, {36, 120, 5}, {31, 80}}), right(with_last),
-        around(with_last, {10, 20, 30}),
-        explains("daarvan: #. Daarna *rechts: # (-|+) # = # en # (-|+) # =", power(C, D), A, B, power(C, D), plus_power,
-                 plus_power, E, F),
-        tips("", "van links naar rechts."));
+        around(with_last, {10, 20, 30}), explains("daarvan: #.", power(C, D)), tips("", "van links naar rechts."));
     row(M_bacterie_00_11_click, 2,
         "elke # (minuten|uren) te delen. *meer dan # bacteriën *| $0 {minuten|uur} | 2 bacteriën | $0 {minuten|uur} | ...",
         range({{10, 50}, {0, 0}, {16, 1024}}), range({{3, 9}, {1, 1}, {16, 1024}}), right(periods * A),
