@@ -34,7 +34,7 @@ float random_draws::fraction() {
         put_in_.pop_back();
         return next;
     }
-    const std::uint32_t bits = scrambled(static_cast<std::uint32_t>(engine_()) ^ mix_);
+    const std::uint32_t bits = scrambled(engine_() ^ mix_);
     return static_cast<float>(bits >> 8) * 0x1p-24F;
 }
 
