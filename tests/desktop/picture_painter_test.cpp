@@ -116,13 +116,13 @@ TEST(picture_box, a_picture_of_few_colours_is_scaled_without_a_grain) {
     slope.setColorTable({qRgb(234, 242, 251), qRgb(217, 179, 137), qRgb(47, 127, 209), qRgb(63, 73, 86)});
     for (int x = 0; x < slope.width(); ++x)
         for (int y = 0; y < slope.height(); ++y) slope.setPixel(x, y, static_cast<unsigned>((x + y) / 40 % 4));
-    const QString file = QCoreApplication::applicationDirPath() + "/helling.bmp";
+    const std::string name = "helling" + std::to_string(QCoreApplication::applicationPid()) + ".bmp";
+    const QString file = QCoreApplication::applicationDirPath() + '/' + name.c_str();
     ASSERT_TRUE(slope.save(file, "BMP"));
     drawing shown;
-    shown.picture("helling.bmp");
-    const QImage image = painted(shown);
+    shown.picture(name);
+    EXPECT_EQ(painted(shown).pixelColor(10, 10), QColor(217, 179, 137));
     QFile::remove(file);
-    EXPECT_EQ(image.pixelColor(10, 10), QColor(217, 179, 137));
 }
 
 TEST(report, is_printed_on_one_page_with_its_columns_in_line) {
