@@ -22,9 +22,8 @@ void town(oefening_id id, double hundreds, const char* second_tip) {
         range({{0, 1}, {15000, 54989, 999}, {15000, 54989, 999}, {0, 0}, of_ten, below, of_hundred, less}),
         range({{0, 1}, {60000, 99989, 999}, {60000, 99989, 999}}), right(apart),
         wrong("", swapped, apart + 10, apart - 10, apart + 100, apart - 100),
-        explains("eenheden doe je # -*tientallen doe je # - # = #, *honderdtallen doe je # - # = #.",
-                 digit(top, 1) + 10, digit(top, 2) - 1 + hundreds * 10, digit(low, 2), digit(apart, 2),
-                 digit(top, 3) - hundreds, digit(low, 3), digit(apart, 3)),
+        explains("eenheden doe je # -*tientallen doe je # -*honderdtallen doe je # -", digit(top, 1) + 10,
+                 digit(top, 2) - 1 + hundreds * 10, digit(top, 3) - hundreds),
         tips("Zet het grootste getal boven", second_tip));
 }
 
