@@ -6,11 +6,6 @@ namespace {
 
 constexpr int least = 840, most = 30'000;
 
-template<class Operator>
-formula combined(const formula& a, const formula& b, Operator combine) {
-    return [=](const reading& of) { return combine(a.in(of), b.in(of)); };
-}
-
 std::string as_text(const outcome& value) {
     if (const auto* number = std::get_if<double>(&value)) return testing::PrintToString(*number);
     if (const auto* text = std::get_if<std::string>(&value)) return *text;
@@ -210,14 +205,6 @@ private:
 
 } // namespace
 
-formula operator+(const formula& a, const formula& b) { return combined(a, b, std::plus<>()); }
-formula operator-(const formula& a, const formula& b) { return combined(a, b, std::minus<>()); }
-formula operator*(const formula& a, const formula& b) { return combined(a, b, std::multiplies<>()); }
-formula operator/(const formula& a, const formula& b) { return combined(a, b, std::divides<>()); }
-
-formula operator<(const formula& a, const formula& b) { return combined(a, b, std::less<>()); }
-formula operator==(const formula& a, const formula& b) { return combined(a, b, same); }
-
 formula place_of(const formula& value, std::vector<formula> among) {
     return [=](const reading& of) {
         std::vector<double> all;
@@ -230,43 +217,6 @@ formula place_of(const formula& value, std::vector<formula> among) {
 double rounded(double value, int decimals) {
     const double scale = std::pow(10, decimals);
     return std::floor(value * scale + 0.5 + 1e-9) / scale;
-}
-
-formula rounded(const formula& a, int decimals) {
-    return [=](const reading& of) { return rounded(a.in(of), decimals); };
-}
-
-row_part wrong(const std::string& piece, std::vector<formula> values) {
-    return [=](exercise_row& row) {
-        for (const formula& value : values) row.wrong.push_back({piece, value});
-    };
-}
-row_part wrong(const statement& told, const formula& value) {
-    return [=](exercise_row& row) { row.wrong.push_back({told.pattern, value, told.numbers}); };
-}
-row_part explains(const std::string& pattern, std::vector<formula> numbers) {
-    return [=](exercise_row& row) { row.explains.push_back({pattern, numbers}); };
-}
-row_part counts(std::vector<formula> values) {
-    return [=](exercise_row& row) { row.counts = values; };
-}
-row_part right(const formula& value) {
-    return [=](exercise_row& row) { row.right = value; };
-}
-row_part range(std::vector<span> spans) {
-    return [=](exercise_row& row) { row.ranges.push_back(spans); };
-}
-row_part of(std::vector<int> variants) {
-    return [=](exercise_row& row) { row.of = variants; };
-}
-row_part words(std::vector<std::size_t> different) {
-    return [=](exercise_row& row) { row.words = different; };
-}
-row_part tips(const char* first, const char* second) {
-    return [=](exercise_row& row) { row.tips = {first, second}; };
-}
-row_part ticks(std::vector<int> limits) {
-    return [=](exercise_row& row) { row.ticks = limits; };
 }
 
 void add_test(const exercise_row& row) {

@@ -94,10 +94,20 @@ private:
     std::function<outcome(const reading&)> get_;
 };
 
-formula operator+(const formula& a, const formula& b);
-formula operator-(const formula& a, const formula& b);
-formula operator*(const formula& a, const formula& b);
-formula operator/(const formula& a, const formula& b);
+// A function of numbers, of what formulas make.
+template<class Function, class... Formulas>
+formula lifted(Function function, const Formulas&... values) {
+    return [=](const reading& of) { return function(formula(values).in(of)...); };
+}
+inline bool same(double a, double b) { return std::abs(a - b) <= 1e-9 * std::max({1.0, std::abs(a), std::abs(b)}); }
+inline formula operator+(const formula& a, const formula& b) { return lifted(std::plus<>(), a, b); }
+inline formula operator-(const formula& a, const formula& b) { return lifted(std::minus<>(), a, b); }
+inline formula operator*(const formula& a, const formula& b) { return lifted(std::multiplies<>(), a, b); }
+inline formula operator/(const formula& a, const formula& b) { return lifted(std::divides<>(), a, b); }
+// Of an answer: whether it may be it.
+inline formula operator<(const formula& a, const formula& b) { return lifted(std::less<>(), a, b); }
+inline formula operator==(const formula& a, const formula& b) { return lifted(same, a, b); }
+
 // An answer like says("# : #", B, A).
 template<class... Formulas>
 formula says(const char* pattern, const Formulas&... numbers) {
@@ -109,18 +119,10 @@ inline formula blocks(kleur colour) {
         return std::ranges::count(n.exercise.blocks, colour, [](const box_op& box) { return box.pen.colour; });
     };
 }
-// Whether they are so.
-formula operator<(const formula& a, const formula& b);
-formula operator==(const formula& a, const formula& b);
 // Half up, to so many decimals.
-formula rounded(const formula& a, int decimals = 0);
 double rounded(double value, int decimals = 0);
-inline bool same(double a, double b) { return std::abs(a - b) <= 1e-9 * std::max({1.0, std::abs(a), std::abs(b)}); }
-
-// A function of numbers, of what formulas make.
-template<class Function, class... Formulas>
-formula lifted(Function function, const Formulas&... values) {
-    return [=](const reading& of) { return function(formula(values).in(of)...); };
+inline formula rounded(const formula& a, int decimals = 0) {
+    return lifted([=](double x) { return rounded(x, decimals); }, a);
 }
 inline formula floor(const formula& a) {
     return lifted([](double x) { return std::floor(x + 1e-9); }, a);
@@ -156,9 +158,7 @@ formula place_of(const formula& value, std::vector<formula> among);
 // What an answer is worth, and its button: for the numbers of its feedback, or to say whether it may be the answer.
 inline const formula answer = [](const reading& of) { return number_of(of.option).value(); };
 inline const formula button = [](const reading& of) { return of.place; };
-inline formula at_button(const formula& which) {
-    return lifted([](double a, double b) { return a == b; }, button, which);
-}
+inline formula at_button(const formula& which) { return button == which; }
 
 // The numbers that were read, in order.
 inline formula read_number(std::size_t i) {
@@ -216,34 +216,52 @@ struct exercise_row {
 // The parts of a row, as exercise_row explains them; a function of the reading is its check.
 using row_part = std::function<void(exercise_row&)>;
 
-row_part wrong(const std::string& piece, std::vector<formula> values);
-// The same with the numbers of the piece, such as `answer`.
-row_part wrong(const statement& told, const formula& value);
-row_part explains(const std::string& pattern, std::vector<formula> numbers);
-row_part counts(std::vector<formula> values);
+inline std::vector<formula> listed(std::vector<formula> all) { return all; }
+template<class... Formulas>
+std::vector<formula> listed(const Formulas&... each) {
+    return {formula(each)...};
+}
 template<class... Formulas>
 row_part wrong(const std::string& piece, const Formulas&... values) {
-    return wrong(piece, std::vector<formula>{values...});
+    return [piece, all = listed(values...)](exercise_row& row) {
+        for (const formula& value : all) row.wrong.push_back({piece, value});
+    };
 }
-template<class... Formulas>
-row_part explains(const std::string& pattern, const Formulas&... numbers) {
-    return explains(pattern, std::vector<formula>{numbers...});
+// The same with the numbers of the piece, such as `answer`.
+inline row_part wrong(const statement& told, const formula& value) {
+    return [=](exercise_row& row) { row.wrong.push_back({told.pattern, value, told.numbers}); };
 }
-template<class... Formulas>
-row_part counts(const Formulas&... values) {
-    return counts(std::vector<formula>{values...});
-}
-row_part right(const formula& value);
-// For all the row's sub-variants together, or one of these for each.
-row_part range(std::vector<span> spans);
-row_part of(std::vector<int> variants);
-row_part words(std::vector<std::size_t> different);
-row_part tips(const char* first, const char* second);
-row_part ticks(std::vector<int> limits);
-inline const row_part with_calculator = [](exercise_row& row) { row.calculator = true; };
 inline row_part wrong(std::vector<mistake> all) {
     return [=](exercise_row& row) { row.wrong.insert(row.wrong.end(), all.begin(), all.end()); };
 }
+template<class... Formulas>
+row_part explains(const std::string& pattern, const Formulas&... numbers) {
+    return [pattern, all = listed(numbers...)](exercise_row& row) { row.explains.push_back({pattern, all}); };
+}
+template<class... Formulas>
+row_part counts(const Formulas&... values) {
+    return [all = listed(values...)](exercise_row& row) { row.counts = all; };
+}
+inline row_part right(const formula& value) {
+    return [=](exercise_row& row) { row.right = value; };
+}
+// For all the row's sub-variants together, or one of these for each.
+inline row_part range(std::vector<span> spans) {
+    return [=](exercise_row& row) { row.ranges.push_back(spans); };
+}
+inline row_part of(std::vector<int> variants) {
+    return [=](exercise_row& row) { row.of = variants; };
+}
+inline row_part words(std::vector<std::size_t> different) {
+    return [=](exercise_row& row) { row.words = different; };
+}
+inline row_part tips(const char* first, const char* second) {
+    return [=](exercise_row& row) { row.tips = {first, second}; };
+}
+inline row_part ticks(std::vector<int> limits) {
+    return [=](exercise_row& row) { row.ticks = limits; };
+}
+inline const row_part with_calculator = [](exercise_row& row) { row.calculator = true; };
 
 void add_test(const exercise_row& row);
 // Adds the test of a row to the program.

@@ -23,7 +23,7 @@ bool begins(std::string_view text, std::size_t at) {
 }
 
 // "1.250,5", "-3": points before groups of three, a comma before decimals.
-std::optional<double> take_number(std::string_view text, std::size_t& at) {
+std::optional<double> take_decimal(std::string_view text, std::size_t& at) {
     const bool negative = at < text.size() && text[at] == '-' && (at == 0 || !digit(text, at - 1));
     std::size_t here = at + negative;
     if (!begins(text, here)) return {};
@@ -49,16 +49,17 @@ std::optional<double> take_fraction(std::string_view text, std::size_t& at) {
         const double over = take_digits(text, from);
         if (from >= text.size() || text[from] != '/' || !digit(text, ++from)) return {};
         const double under = take_digits(text, from);
+        if (from < text.size() && text[from] == ',' && digit(text, from + 1)) return {}; // "600/0,75" is a division
         return over / under;
     };
     std::size_t here = at;
-    if (!begins(text, here)) return take_number(text, at);
+    if (!begins(text, here)) return take_decimal(text, at);
     if (const auto alone = part(here)) return at = here, alone;
     here = at;
     const double whole = take_digits(text, here);
     if (here < text.size() && text[here++] == ' ')
         if (const auto rest = part(here)) return at = here, whole + *rest;
-    return take_number(text, at);
+    return take_decimal(text, at);
 }
 
 // "9:05", "0:01:10".
@@ -116,7 +117,7 @@ struct matcher {
     }
     bool rest(std::size_t t, std::size_t p) {
         for (; p < pattern.size(); ++p, ++t) switch (pattern[p]) {
-            case '#': return number(take_number, t, p + 1);
+            case '#': return number(take_decimal, t, p + 1);
             case '&': return number(take_fraction, t, p + 1);
             case '~': return number(take_time, t, p + 1);
             case '@': return some_text(true, t, p + 1);
@@ -128,7 +129,7 @@ struct matcher {
                     const std::string& word = found.words.at(static_cast<std::size_t>(which - 'a'));
                     if (!text.substr(t).starts_with(word)) return false;
                     t += word.size();
-                } else if (take_number(text, t) != found.numbers.at(static_cast<std::size_t>(which - '0')))
+                } else if (take_decimal(text, t) != found.numbers.at(static_cast<std::size_t>(which - '0')))
                     return false;
                 --t;
                 break;
@@ -149,24 +150,23 @@ std::optional<found_in_text> find_pattern(std::string_view text, std::string_vie
     return {};
 }
 
+std::optional<double> take_number(std::string_view text, std::size_t& at) {
+    const auto time = take_time(text, at);
+    return time ? time : take_fraction(text, at);
+}
+
 std::optional<double> number_of(std::string_view answer) {
     std::optional<double> value;
     for (std::size_t at = 0; at < answer.size();) {
         if (!digit(answer, at) && !(answer[at] == '-' && digit(answer, at + 1))) {
             ++at;
-            continue;
-        }
-        if (at > 0 && std::isalpha(static_cast<unsigned char>(answer[at - 1]))) { // of "m2"
+        } else if (at > 0 && std::isalpha(static_cast<unsigned char>(answer[at - 1]))) { // of "m2"
             take_digits(answer, at);
-            continue;
+        } else {
+            if (value) return {};
+            value = take_number(answer, at);
+            if (!value) return {};
         }
-        if (value) return {};
-        value = take_fraction(answer, at);
-        while (value && at < answer.size() && answer[at] == ':' && digit(answer, at + 1)) {
-            ++at;
-            value = *value * 60 + take_digits(answer, at);
-        }
-        if (!value) return {};
     }
     return value;
 }

@@ -33,4 +33,7 @@ std::optional<found_in_text> find_pattern(std::string_view text, std::string_vie
 // 70 (seconds), "12 %" 12. Nothing where it has no number or several.
 std::optional<double> number_of(std::string_view answer);
 
+// The number that stands at a place of the text, as any of those, and moves past it; nothing in the midst of another.
+std::optional<double> take_number(std::string_view text, std::size_t& at);
+
 } // namespace cijferwerf

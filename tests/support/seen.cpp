@@ -1,6 +1,8 @@
 #include "tests/support/seen.h"
 
-#include "tests/support/rows_of.h"
+#include "tests/support/ink.h"
+
+#include <cmath>
 
 namespace cijferwerf {
 
@@ -70,6 +72,106 @@ void seen::look_at(const drawing& drawn) {
         }
         if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled) blocks.push_back(*box);
     }
+}
+
+// ---- rows ----
+
+namespace {
+
+constexpr double far_apart = 700;
+
+bool is_number(const ink& word) { return word.word.find_first_not_of("0123456789") == std::string::npos; }
+
+struct bar {
+    double left, right, y;
+};
+
+// The short horizontal lines that no later filled box has covered.
+std::vector<bar> bars_of(const drawing& drawn) {
+    std::vector<bar> bars;
+    for (const drawing_op& operation : drawn.operations()) {
+        if (const auto* line = std::get_if<line_op>(&operation); line != nullptr && line->from.y == line->to.y)
+            bars.push_back({double(std::min(line->from.x, line->to.x)), double(std::max(line->from.x, line->to.x)),
+                            double(line->from.y)});
+        if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled) {
+            const double right = box->x + box->width;
+            std::erase_if(bars, [&](const bar& b) {
+                return b.left >= box->x && b.right <= right && b.y >= box->y && b.y <= box->y + box->height;
+            });
+            if (box->height <= 30) bars.push_back({double(box->x), right, box->y + box->height / 2.0});
+        }
+    }
+    std::erase_if(bars, [](const bar& b) { return b.right - b.left > far_apart; });
+    return bars;
+}
+
+} // namespace
+
+std::vector<std::string> rows_of(const drawing& drawn) {
+    struct item {
+        double left, right, middle;
+        std::string text;
+    };
+    std::vector<item> items;
+    std::vector<ink> words = visible_words(drawn);
+    // What is written in red over a number that is struck out.
+    const bool struck = std::ranges::any_of(drawn.operations(), [](const drawing_op& operation) {
+        const auto* line = std::get_if<line_op>(&operation);
+        return line != nullptr && line->pen.colour == rood && line->from.x != line->to.x && line->from.y != line->to.y;
+    });
+    std::erase_if(words, [&](const ink& w) { return struck && w.colour == rood && is_number(w); });
+    std::vector<bar> bars = bars_of(drawn);
+    for (const ink& w : words)
+        if (w.word == "---") bars.push_back({w.left, w.right, w.bottom - w.size * 20 * 0.275});
+    const auto take = [&](auto holds) {
+        const auto found = std::ranges::find_if(words, [&](const ink& w) { return is_number(w) && holds(w); });
+        ink taken{};
+        if (found != words.end()) {
+            taken = *found;
+            words.erase(found);
+        }
+        return taken;
+    };
+    for (const bar& b : bars) {
+        const auto at_middle = [&](const ink& w) { return std::abs(w.middle() - (b.left + b.right) / 2) < 65; };
+        const ink over = take([&](const ink& w) { return at_middle(w) && std::abs(b.y - w.bottom) < 160; });
+        if (over.word.empty()) continue;
+        const ink under = take([&](const ink& w) { return at_middle(w) && std::abs(w.top - b.y) < 160; });
+        if (under.word.empty()) continue;
+        const ink wholes = take([&](const ink& w) {
+            return w.right <= b.left + 15 && w.right > b.left - 200 && w.top < b.y && w.bottom > b.y;
+        });
+        items.push_back({wholes.word.empty() ? b.left : wholes.left, b.right, b.y,
+                         (wholes.word.empty() ? "" : wholes.word + " ") + over.word + "/" + under.word});
+    }
+    std::erase_if(words, [](const ink& w) { return w.word == "---"; });
+    for (const ink& w : words) {
+        const double middle = w.top + w.size * 20 * 0.35;
+        const auto base = std::ranges::find_if(words, [&](const ink& other) {
+            return is_number(w) && w.size < other.size * 0.8 && w.left > other.right - 40 &&
+                   w.left < other.right + 120 && middle < other.top + other.size * 20 * 0.3 &&
+                   middle > other.top - other.size * 20 * 0.3;
+        });
+        if (base == words.end())
+            items.push_back({w.left, w.right, middle, w.word});
+        else
+            items.push_back({w.left, w.right, base->top + base->size * 20 * 0.35, "^" + w.word});
+    }
+    std::ranges::sort(items, {}, &item::middle);
+    std::vector<std::string> rows;
+    for (std::size_t first = 0; first < items.size();) {
+        std::size_t end = first;
+        while (end < items.size() && items[end].middle - items[first].middle < 60) ++end;
+        std::ranges::sort(items.begin() + static_cast<std::ptrdiff_t>(first),
+                          items.begin() + static_cast<std::ptrdiff_t>(end), {}, &item::left);
+        for (std::size_t i = first; i < end; ++i)
+            if (i > first && items[i].left - items[i - 1].right < far_apart)
+                rows.back() += (items[i].text.starts_with('^') ? "" : " ") + items[i].text;
+            else
+                rows.push_back(items[i].text);
+        first = end;
+    }
+    return rows;
 }
 
 } // namespace cijferwerf

@@ -71,4 +71,8 @@ private:
 // The lines that are not empty, each with a blank behind it.
 std::string joined(const tekstregels& lines);
 
+// A drawing read row by row from left to right: fractions with their bars as "1 3/8", raised exponents as "^2". Words
+// that stand far apart are rows of their own.
+std::vector<std::string> rows_of(const drawing& drawn);
+
 } // namespace cijferwerf

@@ -4,6 +4,7 @@
 #include "tests/support/pattern.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <map>
 
@@ -16,11 +17,24 @@ enum class kind { number, sign, equals, open, close, word, stop };
 struct token {
     kind is;
     std::string_view text;
-    std::size_t at;      // in the text
-    double value = 0;    // of a number
-    double step = 0;     // of its last digit
-    bool clock = false;  // a number written "9:05"
-    bool rounds = false; // a word such as "ongeveer"
+    double value = 0; // of a number
+
+    bool has(char c) const { return text.find(c) != text.npos; }
+    // A word or sign after which digits may be left out.
+    bool rounds() const {
+        constexpr std::array words{"≈",     "ongeveer", "Ongeveer", "afgerond", "Afgerond",
+                                   "bijna", "rond",     "Rond",     "ruim",     "af"};
+        return is != kind::number && std::ranges::find(words, text) != words.end();
+    }
+    // The step of the last digit that counts: 0.01 of "3,14", 100 of "4.200".
+    double step() const {
+        if (is != kind::number || has('/') || has(':')) return 0;
+        if (const auto comma = text.find(','); comma != text.npos)
+            return std::pow(10, -static_cast<double>(text.size() - comma - 1));
+        const auto last = text.find_last_not_of("0.");
+        const std::string_view zeros = text.substr(last == text.npos ? 1 : last + 1);
+        return std::pow(10, std::ranges::count(zeros, '0'));
+    }
 };
 
 bool digit(char c) { return c >= '0' && c <= '9'; }
@@ -28,309 +42,230 @@ bool letter(char c) {
     return std::isalpha(static_cast<unsigned char>(c)) != 0 || static_cast<unsigned char>(c) >= 0x80;
 }
 
-// The step of the last digit that counts: 0.01 of "3,14", 100 of "4.200".
-double last_step(std::string_view number) {
-    if (const auto comma = number.find(','); comma != number.npos)
-        return std::pow(10, -static_cast<double>(number.size() - comma - 1));
-    double step = 1;
-    for (std::size_t i = number.size(); i > 1 && (number[i - 1] == '0' || number[i - 1] == '.'); --i)
-        if (number[i - 1] == '0') step *= 10;
-    return step;
-}
+// One side of an equals sign, or a part of it.
+struct side {
+    std::size_t begin, end; // its tokens
+    double value = 0;
+    int terms = 0;
+    std::string_view unit = {}; // the last one
+    bool percent = false, clock = false, fraction = false;
+    double step = 0; // of its last number
+
+    // What the two make, of which this one comes first.
+    side with(const side& next, char sign) const {
+        side both = next;
+        both.begin = begin;
+        both.value = sign == '+'   ? value + next.value
+                     : sign == '-' ? value - next.value
+                     : sign == 'x' ? value * next.value
+                                   : value / next.value;
+        both.terms += terms;
+        if (next.unit.empty()) both.unit = unit;
+        both.percent |= percent;
+        both.clock |= clock;
+        return both;
+    }
+};
 
 class reader {
 public:
     explicit reader(std::string_view text) : text_(text) {
-        split();
-        for (const token& each : tokens_) rounds_ = rounds_ || each.rounds;
+        for (std::size_t at = 0; at < text_.size();) split(at);
+        rounds_ = std::ranges::any_of(tokens_, &token::rounds);
     }
 
-    checked_sums check() {
+    checked_sums check() const {
         checked_sums all;
         for (std::size_t i = 0; i < tokens_.size(); ++i) {
-            if (tokens_[i].is != kind::equals) continue;
-            const auto left = side_before(i);
-            const auto right = side_from(i + 1);
+            if (!is(i, kind::equals)) continue;
+            const auto left = side_before(i), right = side_from(i + 1);
             // "is" is an equals sign behind a sum only.
-            if (!left || !right || (tokens_[i].text == "is" && left->terms < 2)) continue;
-            if (!comparable(*left, *right)) continue;
+            if (!left || !right || (tokens_[i].text == "is" && left->terms < 2) || !comparable(*left, *right)) continue;
             ++all.steps;
-            if (!agree(*left, *right)) all.wrong.emplace_back(text_.substr(left->begin, right->end - left->begin));
+            if (!agree(*left, *right)) all.wrong.emplace_back(tokens_[left->begin].text.data(), end_of(*right));
         }
         return all;
     }
 
 private:
-    struct side {
-        double value = 0;
-        int terms = 0;
-        std::string_view unit{};
-        bool percent = false, clock = false, fraction = false;
-        double step = 0; // of the digits of a single number
-        std::size_t begin = 0, end = 0;
-    };
-
     // ---- tokens ----
 
-    void split() {
-        for (std::size_t at = 0; at < text_.size();) {
-            const char c = text_[at];
-            if (c == ' ') {
-                ++at;
-            } else if (digit(c)) {
-                at = number(at);
-            } else if (c == '(' || c == ')') {
-                push(c == '(' ? kind::open : kind::close, at, 1);
-                ++at;
-            } else if (c == '=' || text_.substr(at).starts_with("≈")) {
-                push(kind::equals, at, c == '=' ? 1 : 3);
-                tokens_.back().rounds = c != '=';
-                at += c == '=' ? 1 : 3;
-            } else if (text_.substr(at).starts_with("€")) {
-                push(kind::word, at, 3);
-                at += 3;
-            } else if (text_.substr(at).starts_with("×")) {
-                push(kind::sign, at, 2);
-                at += 2;
-            } else if (c == '%') {
-                push(kind::word, at, 1);
-                ++at;
-            } else if (c == '+' || c == '-' || c == '/' || c == ':' || c == '^') {
-                // A colon that is glued to what stands before it is one of the sentence.
-                const bool glued =
-                    c == ':' && at > 0 && text_[at - 1] != ' ' && (at + 1 == text_.size() || text_[at + 1] == ' ');
-                push(glued ? kind::stop : kind::sign, at, 1);
-                ++at;
-            } else if (letter(c)) {
-                at = word(at);
-            } else {
-                push(kind::stop, at, 1);
-                ++at;
-            }
-        }
-    }
-    void push(kind is, std::size_t at, std::size_t length) { tokens_.push_back({is, text_.substr(at, length), at}); }
-
-    // "3.400", "12,50", "5,-", "3/4", "9:05"; a mixed number comes apart and is put together in term().
-    std::size_t number(std::size_t at) {
-        std::size_t end = at;
-        while (end < text_.size() && digit(text_[end])) ++end;
-        const auto digits_at = [&](std::size_t from) {
-            std::size_t n = 0;
-            while (from + n < text_.size() && digit(text_[from + n])) ++n;
-            return n;
+    void split(std::size_t& at) {
+        static constexpr std::pair<std::string_view, kind> symbols[]{
+            {"(", kind::open}, {")", kind::close}, {"=", kind::equals}, {"≈", kind::equals},
+            {"€", kind::word}, {"%", kind::word},  {"×", kind::sign},   {"+", kind::sign},
+            {"-", kind::sign}, {"/", kind::sign},  {":", kind::sign},   {"^", kind::sign}};
+        const std::string_view rest = text_.substr(at);
+        const auto push = [&](kind is, std::size_t length) {
+            tokens_.push_back({is, rest.substr(0, length)});
+            at += length;
         };
-        while (end < text_.size() && text_[end] == '.' && digits_at(end + 1) == 3) end += 4;
-        if (end < text_.size() && text_[end] == ',') {
-            if (digits_at(end + 1) > 0)
-                end += 1 + digits_at(end + 1);
-            else if (end + 1 < text_.size() && text_[end + 1] == '-') {
-                push(kind::number, at, end - at);
-                tokens_.back().value = number_of(text_.substr(at, end - at)).value_or(0);
-                tokens_.back().step = 1;
-                return end + 2;
-            }
+        if (digit(rest[0])) return number(at);
+        for (const auto& [symbol, is] : symbols) {
+            if (!rest.starts_with(symbol)) continue;
+            // A colon that is glued to what stands before it is one of the sentence.
+            const bool glued = rest[0] == ':' && at > 0 && text_[at - 1] != ' ' && (rest.size() == 1 || rest[1] == ' ');
+            return push(glued ? kind::stop : is, symbol.size());
         }
-        if (end < text_.size() && text_[end] == ':' && digits_at(end + 1) == 2) {
-            std::size_t clock = end + 3;
-            if (clock < text_.size() && text_[clock] == ':' && digits_at(clock + 1) == 2) clock += 3;
-            push(kind::number, at, clock - at);
-            tokens_.back().value = number_of(text_.substr(at, clock - at)).value_or(0);
-            tokens_.back().clock = true;
-            return clock;
-        }
-        push(kind::number, at, end - at);
-        token& made = tokens_.back();
-        made.value = number_of(made.text).value_or(0);
-        made.step = last_step(made.text);
-        if (end < text_.size() && text_[end] == '/' && digits_at(end + 1) > 0) {
-            const std::size_t under = digits_at(end + 1);
-            const double denominator = number_of(text_.substr(end + 1, under)).value_or(1);
-            made.text = text_.substr(at, end + 1 + under - at);
-            made.value /= denominator;
-            made.step = 0;
-            return end + 1 + under;
-        }
-        for (const auto& [raised, power] : {std::pair{"²", 2}, std::pair{"³", 3}})
-            if (text_.substr(end).starts_with(raised)) {
-                made.value = std::pow(made.value, power);
-                return end + 2;
-            }
-        return end;
-    }
-    std::size_t word(std::size_t at) {
-        std::size_t end = at;
-        while (end < text_.size() && (letter(text_[end]) || (end > at && digit(text_[end])))) ++end;
-        const std::string_view found = text_.substr(at, end - at);
-        const auto any_of = [&](auto... names) { return ((found == names) || ...); };
-        if (any_of("x", "X"))
-            push(kind::sign, at, 1);
-        else if (any_of("is"))
-            push(kind::equals, at, 2);
+        std::size_t length = 0;
+        while (length < rest.size() && (letter(rest[length]) || (length > 0 && digit(rest[length])))) ++length;
+        const std::string_view word = rest.substr(0, length);
+        if (length > 0)
+            return push(word == "x" || word == "X" ? kind::sign : word == "is" ? kind::equals : kind::word, length);
+        if (rest[0] == ' ')
+            ++at;
         else
-            push(kind::word, at, end - at);
-        tokens_.back().rounds =
-            any_of("ongeveer", "Ongeveer", "afgerond", "Afgerond", "bijna", "rond", "Rond", "ruim", "af");
-        return end;
+            push(kind::stop, 1);
+    }
+    // "3.400", "12,50", "5,-", "1 3/4", "9:05", "2³".
+    void number(std::size_t& at) {
+        const std::size_t from = at;
+        const auto value = take_number(text_, at);
+        if (!value) {
+            while (at < text_.size() && digit(text_[at])) ++at;
+            return tokens_.push_back({kind::stop, text_.substr(from, at - from)});
+        }
+        tokens_.push_back({kind::number, text_.substr(from, at - from), *value});
+        if (text_.substr(at).starts_with(",-")) at += 2;
+        for (const auto& [raised, power] : {std::pair{"²", 2}, std::pair{"³", 3}})
+            if (text_.substr(at).starts_with(raised)) {
+                tokens_.back().value = std::pow(*value, power);
+                at += 2;
+            }
     }
 
-    // ---- expressions ----
+    // ---- expressions: each moves i past what it reads ----
 
-    const token* get(std::size_t i) const { return i < tokens_.size() ? &tokens_[i] : nullptr; }
     bool is(std::size_t i, kind what) const { return i < tokens_.size() && tokens_[i].is == what; }
     bool is_word(std::size_t i, std::string_view what) const { return is(i, kind::word) && tokens_[i].text == what; }
 
-    // A sign, or the words for one: ' ' for none. Moves past it.
+    // A sign, or the words for one: ' ' for none.
     char sign(std::size_t& i) const {
         if (is(i, kind::sign)) {
             const char c = tokens_[i++].text[0];
             return c == '/' ? ':' : c == 'X' || c == '\xC3' ? 'x' : c;
         }
         if ((is_word(i, "delen") || is_word(i, "gedeeld")) && is_word(i + 1, "door")) return i += 2, ':';
+        if (!is(i + 1, kind::number)) return ' ';
         for (const auto& [name, c] : {std::pair{"plus", '+'}, std::pair{"keer", 'x'}, std::pair{"maal", 'x'}})
-            if (is_word(i, name) && is(i + 1, kind::number)) return ++i, c;
+            if (is_word(i, name)) return ++i, c;
         // "3/4 van 12", "5 % van 12"
-        if (is_word(i, "van") && is(i + 1, kind::number) && i > 0 &&
-            (is_word(i - 1, "%") || tokens_[i - 1].text.find('/') != std::string_view::npos))
-            return ++i, 'x';
+        if (is_word(i, "van") && i > 0 && (is_word(i - 1, "%") || tokens_[i - 1].has('/'))) return ++i, 'x';
         return ' ';
     }
 
+    // Products joined by + and -, or terms joined by x and :, as far as they go.
+    std::optional<side> expression(std::size_t& i, bool product = false) const {
+        const auto part = [&](std::size_t& at) { return product ? term(at) : expression(at, true); };
+        auto all = part(i);
+        while (all) {
+            std::size_t next = i;
+            const char c = sign(next);
+            if (std::string_view(product ? "x:" : "+-").find(c) > 1) break;
+            const auto more = part(next);
+            if (!more) break;
+            all = all->with(*more, c);
+            i = next;
+        }
+        return all;
+    }
     // A number with its unit, or an expression in brackets.
-    bool term(std::size_t& i, side& of, double& value) {
-        bool euro = false;
-        if (is_word(i, "€")) euro = true, ++i;
-        if (is(i, kind::open)) {
-            side inner;
-            std::size_t from = i + 1;
-            if (!expression(from, inner) || !is(from, kind::close)) return false;
-            value = inner.value;
-            of.terms += inner.terms;
-            if (!inner.unit.empty()) of.unit = inner.unit;
-            i = from + 1;
-        } else if (is(i, kind::number)) {
-            const token& here = tokens_[i++];
-            value = here.value;
-            of.step = here.step;
-            of.clock = of.clock || here.clock;
-            of.fraction = here.text.find('/') != std::string_view::npos;
-            ++of.terms;
-            // "1 3/8"
-            if (is(i, kind::number) && tokens_[i].text.find('/') != std::string_view::npos && here.step >= 1 &&
-                text_[tokens_[i].at - 1] == ' ' && value == std::floor(value)) {
-                value += tokens_[i++].value;
-                of.step = 0;
-            }
-            of.end = tokens_[i - 1].at + tokens_[i - 1].text.size();
+    std::optional<side> term(std::size_t& i) const {
+        side found{i, i};
+        std::size_t at = i + is_word(i, "€");
+        if (is(at, kind::open)) {
+            const auto inner = expression(++at);
+            if (!inner || !is(at, kind::close)) return {};
+            found = *inner;
+        } else if (is(at, kind::number)) {
+            const token& here = tokens_[at];
+            found.value = here.value;
+            found.terms = 1;
+            found.clock = here.has(':');
+            found.fraction = here.has('/');
+            found.step = here.step();
         } else
-            return false;
-        if (is(i, kind::sign) && tokens_[i].text == "^" && is(i + 1, kind::number)) {
-            value = std::pow(value, tokens_[i + 1].value);
-            i += 2;
+            return {};
+        ++at;
+        if (is(at, kind::sign) && tokens_[at].text == "^" && is(at + 1, kind::number)) {
+            found.value = std::pow(found.value, tokens_[at + 1].value);
+            at += 2;
         }
-        if (euro) of.unit = "€";
-        unit(i, of, value);
+        if (is_word(i, "€")) found.unit = "€";
+        found.begin = i;
+        found.end = at;
+        unit(at, found);
         // "2 uur en 46 minuten"
-        std::size_t next = is_word(i, "en") ? i + 1 : i;
-        if (const auto large = find_unit(of.unit); large && is(next, kind::number)) {
-            side part;
-            double more = 0;
-            if (term(next, part, more))
-                if (const auto small = find_unit(part.unit);
+        std::size_t next = is_word(at, "en") ? at + 1 : at;
+        if (const auto large = find_unit(found.unit); large && is(next, kind::number))
+            if (const auto part = term(next))
+                if (const auto small = find_unit(part->unit);
                     small && small->ladder == large->ladder && small->size < large->size) {
-                    value += more * small->size / large->size;
-                    i = next;
+                    found.value += part->value * small->size / large->size;
+                    found.end = part->end;
+                    at = next;
                 }
-        }
-        return true;
+        i = at;
+        return found;
     }
     // Words behind a number, as far as the sum goes on behind them.
-    void unit(std::size_t& i, side& of, double& value) const {
+    void unit(std::size_t& i, side& of) const {
         if (is_word(i, "%")) {
-            ++i;
-            if (is_word(i, "van") && is(i + 1, kind::number))
-                value /= 100;
-            else
-                of.percent = true;
-            of.end = tokens_[i - 1].at + 1;
+            of.percent = !(is_word(++i, "van") && is(i + 1, kind::number));
+            if (!of.percent) of.value /= 100;
+            of.end = i;
             return;
         }
+        const auto goes_on = [&](std::size_t at) { return sign(at) != ' '; };
         std::size_t end = i;
-        while (is(end, kind::word) && end < i + 4) {
-            std::size_t next = end;
-            if (sign(next) != ' ') break;
-            ++end;
-        }
+        while (is(end, kind::word) && end < i + 4 && !goes_on(end)) ++end;
         if (end == i) return;
-        std::size_t next = end;
-        if (find_unit(tokens_[i].text) || is(end, kind::equals) || is(end, kind::close) || is(end, kind::sign)) {
-            if (!is(end, kind::equals) && !is(end, kind::close) && sign(next) == ' ') end = i + 1;
-            of.unit = tokens_[i].text;
-            of.end = tokens_[i].at + tokens_[i].text.size();
-            i = end;
-        }
+        const bool ends = is(end, kind::equals) || is(end, kind::close);
+        if (!find_unit(tokens_[i].text) && !ends && !is(end, kind::sign)) return;
+        of.unit = tokens_[i].text;
+        of.end = i + 1;
+        i = ends || goes_on(end) ? end : i + 1;
     }
-    bool product(std::size_t& i, side& of, double& value) {
-        if (!term(i, of, value)) return false;
-        for (;;) {
-            std::size_t next = i;
-            const char c = sign(next);
-            double factor = 0;
-            if ((c != 'x' && c != ':') || !term(next, of, factor)) return true;
-            value = c == 'x' ? value * factor : value / factor;
-            i = next;
-        }
-    }
-    bool expression(std::size_t& i, side& of) {
-        if (i < tokens_.size()) of.begin = tokens_[i].at;
-        if (!product(i, of, of.value)) return false;
-        for (;;) {
-            std::size_t next = i;
-            const char c = sign(next);
-            double other = 0;
-            if ((c != '+' && c != '-') || !product(next, of, other)) return true;
-            of.value = c == '+' ? of.value + other : of.value - other;
-            i = next;
-        }
-    }
-    // Whether a sum that could not be read from its beginning has this token before what could be read.
-    bool goes_on_from(std::size_t i, const side& found) const {
-        const bool part =
-            is_word(i, "van") && i > 0 && (!is(i - 1, kind::word) || is_word(i - 1, "%") || is_word(i - 1, "deel"));
-        if (is(i, kind::sign) || is(i, kind::number) || part || is_word(i, "door")) return true;
-        const std::size_t unit = i > 0 && is_word(i, "en") ? i - 1 : i;
-        return found.terms == 1 && find_unit(tokens_[unit].text);
-    }
-    // The longest expression that ends before the equals sign.
-    std::optional<side> side_before(std::size_t equals) {
+
+    // ---- sides ----
+
+    // The longest expression that ends before the equals sign, unless it is the rest of a sum that could not be read.
+    std::optional<side> side_before(std::size_t equals) const {
         std::size_t first = equals;
-        while (first > 0 && tokens_[first - 1].is != kind::stop && tokens_[first - 1].is != kind::equals) --first;
+        while (first > 0 && !is(first - 1, kind::stop) && !is(first - 1, kind::equals)) --first;
         for (std::size_t from = first; from < equals; ++from) {
             if (!is(from, kind::number) && !is(from, kind::open) && !is_word(from, "€")) continue;
-            side found;
             std::size_t i = from;
-            if (!expression(i, found) || i != equals) continue;
-            // The rest of a sum that could not be read.
-            if (from > 0 && goes_on_from(from - 1, found)) return {};
+            const auto found = expression(i);
+            if (!found || i != equals) continue;
+            if (from > 0 && goes_on_from(from - 1, *found)) return {};
             return found;
         }
         return {};
     }
-    std::optional<side> side_from(std::size_t i) {
+    bool goes_on_from(std::size_t i, const side& found) const {
+        const bool part =
+            is_word(i, "van") && i > 0 && (!is(i - 1, kind::word) || is_word(i - 1, "%") || is_word(i - 1, "deel"));
+        if (is(i, kind::sign) || is(i, kind::number) || part || is_word(i, "door")) return true;
+        return found.terms == 1 && find_unit(tokens_[i > 0 && is_word(i, "en") ? i - 1 : i].text);
+    }
+    std::optional<side> side_from(std::size_t i) const {
         while (i < tokens_.size() &&
-               (tokens_[i].rounds || is_word(i, "dus") || is_word(i, "nog") || is_word(i, "precies")))
+               (tokens_[i].rounds() || is_word(i, "dus") || is_word(i, "nog") || is_word(i, "precies")))
             ++i;
-        side found;
-        if (is(i, kind::sign) && tokens_[i].text == "-" && is(i + 1, kind::number)) {
-            ++i;
-            if (!expression(i, found) || found.terms != 1) return {};
-            found.value = -found.value;
-        } else if (!expression(i, found))
-            return {};
+        const bool negative = is(i, kind::sign) && tokens_[i].text == "-" && is(i + 1, kind::number);
+        i += negative;
+        auto found = expression(i);
+        if (!found || (negative && found->terms > 1)) return {};
+        if (negative) found->value = -found->value;
         std::size_t next = i;
         const char c = sign(next);
         if (c != ' ' && (c != '-' || is(next, kind::stop))) return {}; // it goes on with what is no number
         return found;
+    }
+    const char* end_of(const side& of) const {
+        const std::string_view last = tokens_[of.end - 1].text;
+        return last.data() + last.size();
     }
 
     // ---- judging ----
@@ -345,13 +280,11 @@ private:
     }
     bool agree(const side& left, const side& right) const {
         double slack = 1e-9 * std::max({1.0, std::abs(left.value), std::abs(right.value)});
-        if (rounds_ && right.step > 0) slack += right.step / 2;
-        const auto near = [&](double a, double b) { return std::abs(a - b) <= slack; };
-        if (near(left.value, right.value)) return true;
-        if (left.percent != right.percent && near(left.percent ? left.value / 100 : left.value * 100, right.value))
-            return true;
+        if (rounds_) slack += right.step / 2;
+        const auto near = [&](double a) { return std::abs(a - right.value) <= slack; };
         const auto from = find_unit(left.unit), to = find_unit(right.unit);
-        return from && to && from->ladder == to->ladder && near(left.value * from->size / to->size, right.value);
+        return near(left.value) || (left.percent != right.percent && near(left.value * (left.percent ? 0.01 : 100))) ||
+               (from && to && from->ladder == to->ladder && near(left.value * from->size / to->size));
     }
 
     std::string_view text_;

@@ -2,7 +2,6 @@
 // mistake that its feedback names.
 #include "tests/support/exercise_rows.h"
 #include "tests/support/ink.h"
-#include "tests/support/rows_of.h"
 
 namespace cijferwerf {
 namespace {

@@ -124,6 +124,8 @@ const formula front = B * C, side = D * E, bottles = front * D * A;
 const formula pupils = (A + 2) * B, raised = pupils * C * D;
 const formula months = 0 - floor(0 - B / C);
 
+constexpr span tenths{1.1, 7.9};
+
 const exercise_rows columns([] {
     town(B_inwoners_1_12_01_click, 0, "lenen van de tientallen.");
     town(B_inwoners_2_12_01_click, 1, "tientallen moet je dan ook nog lenen.");
@@ -177,6 +179,10 @@ const exercise_rows columns([] {
         wrong("boven elkaar staan dubbel", front * side * A),
         explains("voren zie je # x # = # * dat er # kratten*zitten # flesjes", B, C, front, D, A));
     row(M_snel_12_06_click, 4, "| Hoeveel is... | # (-|+) # (-|+) # (-|+) #",
+        range({{8.1, 23.9, 0.3}, {0, 0}, tenths, {0, 0}, tenths, {0, 0}, tenths}),
+        range({{4.1, 16.9, 0.3}, {1, 1}, tenths, {1, 1}, tenths, {1, 1}, tenths}),
+        range({{4.1, 16.9, 0.3}, {0, 0}, tenths, {0, 0}, tenths, {1, 1}, {1.1, 5.9}}),
+        range({{4.1, 16.9, 0.3}, {0, 0}, tenths, {1, 1}, {1.1, 5.9}, {0, 0}, tenths}),
         right(A + (2 * B - 1) * C + (2 * D - 1) * E + (2 * F - 1) * G), ticks({20}));
     row(M_controle_12_02_click, 2, "zie je een (deling|vermenigvuldiging). * | # (:|x) # = #",
         range({{0, 0}, {1.2, 99, 20}, {0, 0}, {1.01, 9.99, .1}}),

@@ -10,14 +10,12 @@
 #include "tests/support/ink.h"
 #include "tests/support/operation_text.h"
 #include "tests/support/pattern.h"
-#include "tests/support/rows_of.h"
 #include "tests/support/seen.h"
 #include "tests/support/sums.h"
 
 #include <cmath>
 #include <map>
 #include <set>
-#include <sstream>
 
 namespace cijferwerf {
 namespace {
@@ -64,13 +62,10 @@ private:
     std::map<exception_kind, bool> missed_;
 };
 
-// The lines that are sentences, as a pupil reads them.
-std::vector<std::string> sentences(const oefening& made) {
-    std::vector<std::string> all;
-    for (const tekstregels* lines : {&made.vraagregels, &made.uitlegregels, &made.tipregels_1, &made.tipregels_2,
-                                     &made.foutregels_2, &made.foutregels_3, &made.foutregels_4})
-        all.insert(all.end(), lines->begin(), lines->end());
-    return all;
+// What is told in sentences: the question, the explanation, the tips, and what is said about each wrong answer.
+std::array<const tekstregels*, 7> told(const oefening& of) {
+    return {&of.vraagregels,  &of.uitlegregels, &of.tipregels_1, &of.tipregels_2,
+            &of.foutregels_2, &of.foutregels_3, &of.foutregels_4};
 }
 
 std::array<std::string, 4> answers(const oefening& made) {
@@ -91,27 +86,18 @@ TEST(properties, know_equal_values_in_different_clothes) {
 }
 
 TEST(properties, know_a_sum_that_is_wrong) {
-    const std::pair<const char*, int> right[]{{"Dat is 3.400 : 100 = 34. Daarna doe je nog 3,5 x 34 = 119.", 2},
-                                              {"100 % - 88% = 12 % is supporter van AZ.", 1},
-                                              {"Dus 3,5 % van 3.400 = 119.", 1},
-                                              {"dus 12 x 50 = ongeveer 600 supporters.", 1},
-                                              {"10 : 3 = afgerond 3,33", 1},
-                                              {"1/2 + 1/3 = 3/6 + 2/6 = 5/6", 2},
-                                              {"2 1/2 - 3/4 = 1 3/4 liter", 1},
-                                              {"2,5 m = 250 cm en 3 x 20 cm = 0,6 m", 2},
-                                              {"€ 12,50 + € 7,50 = € 20,-", 1},
-                                              {"(3 + 4) x 2 = 14", 1},
-                                              {"17 gedeeld door 2 is 8,5", 1},
-                                              {"2 uur en 46 minuten = 166 minuten", 1},
-                                              {"7/100 = 7 %", 1},
-                                              {"10:15 - 9:05 = 1:10", 1},
-                                              {"1 % = 34 euro. Nummer 3: 5 + 2 = 7 dus 3 = ...", 1},
-                                              {"2³ = 8 en 5^2 = 25", 2},
-                                              {"3/4 van 12 = 9", 1}};
+    constexpr std::string_view exact =
+        "Dat is 3.400 : 100 = 34. Daarna doe je nog 3,5 x 34 = 119. Zo is 100 % - 88% = 12 % supporter van AZ. "
+        "Dus 3,5 % van 3.400 = 119. 1/2 + 1/3 = 3/6 + 2/6 = 5/6. 2 1/2 - 3/4 = 1 3/4 liter. 450/0,75 = 600. "
+        "2,5 m = 250 cm en 3 x 20 cm = 0,6 m. € 12,50 + € 7,50 = € 20,-. (3 + 4) x 2 = 14. 17 gedeeld door 2 is 8,5. "
+        "2 uur en 46 minuten = 166 minuten. 7/100 = 7 %. 10:15 - 9:05 = 1:10. Nummer 3: 5 + 2 = 7 dus 3 = ... "
+        "2³ = 8 en 5^2 = 25. 3/4 van 12 = 9.";
+    const std::pair<std::string_view, int> right[]{
+        {exact, 20}, {"dus 12 x 50 = ongeveer 600 supporters.", 1}, {"10 : 3 = afgerond 3,33", 1}};
     for (const auto& [text, steps] : right) {
         const checked_sums found = check_sums(text);
         EXPECT_EQ(found.steps, steps) << text;
-        EXPECT_TRUE(found.wrong.empty()) << text << ": " << testing::PrintToString(found.wrong);
+        EXPECT_TRUE(found.wrong.empty()) << testing::PrintToString(found.wrong);
     }
     for (const char* wrong :
          {"3.400 : 100 = 35", "100 % - 88% = 13 %", "5 % van 200 = 11", "10 : 3 = 3,33", "1/2 + 1/3 = 3/6 + 2/6 = 4/6",
@@ -199,8 +185,6 @@ std::string fault(std::string_view text) {
         while (found.back() == '.' || found.back() == ',') found.remove_suffix(1);
         if (!well_formed(found)) return "the number " + std::string(found);
         const std::string_view rest = text.substr(i);
-        if (rest.size() > 1 && (rest[0] | 0x20) == 'e' && (is_digit(rest[1]) || rest[1] == '+' || rest[1] == '-'))
-            return "an exponent";
         const std::size_t end = rest.starts_with(' ') ? rest.find_first_not_of("0123456789", 1) : 1; // of a next number
         if (end > 2 && rest.size() > 2 && text[i - 1] != ',' && text[i - 1] != '.' &&
             (end == rest.npos || rest[end] != '/'))
@@ -212,13 +196,6 @@ std::string fault(std::string_view text) {
     for (const char one : std::string_view("+-x:="))
         for (const char other : std::string_view("+-x:="))
             if (text.find(std::string{' ', one, ' ', other, ' '}) != text.npos) return "two signs side by side";
-    for (const std::string_view odd : {"nan", "inf"})
-        if (const std::size_t at = text.find(odd); at != text.npos) {
-            const auto letter = [&](std::size_t i) {
-                return i < text.size() && (std::isalpha(static_cast<unsigned char>(text[i])) != 0 || text[i] < 0);
-            };
-            if ((at == 0 || !letter(at - 1)) && !letter(at + 3)) return "no number of a pupil's";
-        }
     return "";
 }
 
@@ -226,19 +203,20 @@ TEST(properties, know_a_malformed_number) {
     for (const char* right : {"1.000", "31.900,50", "12.30 uur", "0,05", "Nog 3...", "1,5 - 0,5", "1/2", "12.345.678",
                               "1234.567", "5-0", "1 3/8 : 2"})
         EXPECT_EQ(fault(right), "") << right;
-    for (const char* wrong : {"0.5", "1.0000", "1e5", "x = -0 m", "nan", "1.00.000", "1234.567.890", "-0,00", "3,4,5",
-                              "PRINT_1", "4 38", "is = + 3"})
+    for (const char* wrong :
+         {"0.5", "1.0000", "x = -0 m", "1.00.000", "1234.567.890", "-0,00", "3,4,5", "PRINT_1", "4 38", "is = + 3"})
         EXPECT_NE(fault(wrong), "") << wrong;
 }
 
 TEST_P(every_exercise, writes_numbers_as_pupils_do_and_single_blanks) {
     each([&](const oefening& made) {
-        for (const std::string& line : sentences(made)) {
-            EXPECT_EQ(fault(line), "") << line;
-            EXPECT_NE(line, "") << "an empty line is a single blank";
-            EXPECT_LE(std::ranges::count_if(line, [](char c) { return (c & 0xC0) != 0x80; }), 72) << line;
-            EXPECT_TRUE(allowed(double_blanks_meant, kaal(std::string_view(line)).find("  ") == line.npos)) << line;
-        }
+        for (const tekstregels* lines : told(made))
+            for (const std::string_view line : *lines) {
+                EXPECT_EQ(fault(line), "") << line;
+                EXPECT_NE(line, "") << "an empty line is a single blank";
+                EXPECT_LE(std::ranges::count_if(line, [](char c) { return (c & 0xC0) != 0x80; }), 72) << line;
+                EXPECT_TRUE(allowed(double_blanks_meant, kaal(line).find("  ") == line.npos)) << line;
+            }
         for (const std::string& answer : answers(made)) {
             EXPECT_EQ(fault(answer), "") << answer;
             EXPECT_FALSE(answer.starts_with("  ")) << answer;
@@ -304,15 +282,14 @@ TEST_P(every_exercise, reads_its_picture_aloud_without_giving_away_the_answer) {
 
 TEST_P(every_exercise, fits_the_screen) {
     each([&](const oefening& made) {
-        const double size = vraag_punten(made.vraagregels);
-        for (std::string_view line : made.vraagregels) EXPECT_LE(text_width(line, size, 1.0), vraag_breedte) << line;
         const antwoordindeling layout = leg_antwoorden(answers(made), made.hulpmiddel == "REKENMACHINE");
         for (const std::string& answer : answers(made)) EXPECT_TRUE(layout.past(answer)) << answer;
-        for (const tekstregels* lines : {&made.uitlegregels, &made.tipregels_1, &made.tipregels_2, &made.foutregels_2,
-                                         &made.foutregels_3, &made.foutregels_4}) {
+        for (const tekstregels* lines : told(made)) {
+            const bool question = lines == &made.vraagregels;
+            const double size = question ? vraag_punten(*lines) : bericht_punten;
             for (const std::string_view line : *lines)
-                EXPECT_LE(text_width(line, bericht_punten, 1.0), bericht_breedte) << line;
-            EXPECT_EQ(lines->back(), leeg) << "a seventh line is never shown";
+                EXPECT_LE(text_width(line, size, 1.0), question ? vraag_breedte : bericht_breedte) << line;
+            EXPECT_TRUE(question || lines->back() == leeg) << "a seventh line is never shown";
         }
     });
 }
@@ -431,9 +408,7 @@ TEST_P(every_exercise, does_not_give_its_right_answer_away) {
 TEST_P(every_exercise, works_out_every_sum_rightly) {
     each([&](const oefening& made) {
         std::vector<std::string> texts = rows_of(explained(made));
-        for (const tekstregels* lines : {&made.vraagregels, &made.uitlegregels, &made.tipregels_1, &made.tipregels_2,
-                                         &made.foutregels_2, &made.foutregels_3, &made.foutregels_4})
-            texts.push_back(joined(*lines));
+        for (const tekstregels* lines : told(made)) texts.push_back(joined(*lines));
         for (const std::string& text : texts) {
             const checked_sums sums = check_sums(text);
             EXPECT_TRUE(allowed(step_not_exact, sums.wrong.empty())) << testing::PrintToString(sums.wrong);
@@ -453,18 +428,6 @@ std::string illegible(const drawing& drawn) {
             if (words[i].meets(words[j])) return "\"" + words[i].word + "\" over \"" + words[j].word + "\"";
     }
     return "";
-}
-
-TEST_P(every_exercise, has_a_picture_whose_texts_can_be_read_also_when_explained) {
-    each([&](const oefening& made) {
-        EXPECT_EQ(illegible(made.plaatje), "");
-        EXPECT_EQ(illegible(explained(made)), "") << "with the explanation drawn";
-        if (made.tijdlimiet == 0) return;
-        constexpr double bar_top = 1100, bar_bottom = 1450;
-        const double bar_left = 2700 - made.tijdlimiet * 100, bar_right = 2700 + made.tijdlimiet * 100;
-        for (const ink& word : visible_words(made.plaatje))
-            EXPECT_FALSE(word.meets({bar_left, bar_top, bar_right, bar_bottom, ""})) << word.word << " under the bar";
-    });
 }
 
 // Of a picture file: none that is known.
@@ -487,77 +450,43 @@ std::string invisible(const drawing& drawn) {
     return "";
 }
 
-TEST_P(every_exercise, prints_nothing_in_the_colour_of_its_ground) {
-    each([&](const oefening& made) {
-        EXPECT_EQ(invisible(made.plaatje), "");
-        EXPECT_EQ(invisible(explained(made)), "") << "with the explanation drawn";
-    });
-}
-
-TEST_P(every_exercise, draws_no_line_across_a_word) {
-    each([&](const oefening& made) {
-        const auto strikes = [](const std::string& command) { return command.starts_with("DOORSTREPEN"); };
-        std::vector<drawing> boards{made.plaatje};
-        if (std::ranges::none_of(made.uitlegopdrachten, strikes)) boards.push_back(explained(made));
-        for (const drawing& board : boards) {
-            const auto crossed = line_through_word(board);
-            EXPECT_TRUE(allowed(crossing_line_meant, !crossed)) << crossed.value_or("");
-        }
-    });
-}
-
-TEST_P(every_exercise, leaves_nothing_in_its_picture_that_looks_as_if_it_slipped) {
+TEST_P(every_exercise, has_a_picture_that_can_be_read_also_when_explained) {
     each([&](const oefening& made) {
         const auto slipped = out_of_place(made.plaatje);
         EXPECT_TRUE(allowed(loose_place_meant, !slipped)) << slipped.value_or("");
+        const auto strikes = [](std::string_view command) { return command.starts_with("DOORSTREPEN"); };
+        const bool struck = std::ranges::any_of(made.uitlegopdrachten, strikes);
+        for (const bool after : {false, true}) {
+            drawing board = made.plaatje;
+            if (after) board = explained(made);
+            EXPECT_EQ(illegible(board), "");
+            EXPECT_EQ(invisible(board), "");
+            const auto crossed = line_through_word(board);
+            EXPECT_TRUE((after && struck) || allowed(crossing_line_meant, !crossed)) << crossed.value_or("");
+        }
+        if (made.tijdlimiet == 0) return;
+        constexpr double bar_top = 1100, bar_bottom = 1450;
+        const double bar_left = 2700 - made.tijdlimiet * 100, bar_right = 2700 + made.tijdlimiet * 100;
+        for (const ink& word : visible_words(made.plaatje))
+            EXPECT_FALSE(word.meets({bar_left, bar_top, bar_right, bar_bottom, ""})) << word.word << " under the bar";
     });
 }
 
 // ---- commands ----
 
-// What is wrong with a drawing command, or nothing.
-std::string command_fault(const std::string& command) {
-    std::vector<std::string> fields;
-    std::istringstream line(command);
-    for (std::string field; std::getline(line, field, '_');) fields.push_back(field);
-    const auto number = [&](std::size_t i, double low, double high, bool whole_number = true) {
-        if (i >= fields.size()) return false;
-        std::string_view digits = fields[i];
-        if (digits.starts_with('-')) digits.remove_prefix(1);
-        const std::size_t point = whole_number ? digits.npos : digits.find('.');
-        for (std::size_t at = 0; at < digits.size(); ++at)
-            if (!is_digit(digits[at]) && at != point) return false;
-        return !digits.empty() && is_digit(digits.front()) && is_digit(digits.back()) && lees_getal(fields[i]) >= low &&
-               lees_getal(fields[i]) <= high;
-    };
-    const auto numbers = [&](std::size_t first, std::size_t last, bool whole_number = true) {
-        for (std::size_t i = first; i <= last; ++i)
-            if (!number(i, -1e5, 1e5, whole_number)) return false;
-        return true;
-    };
-    const std::string keyword = fields.empty() ? "" : fields[0];
-    const std::size_t count = fields.size();
-    const bool right = keyword == "PRINT"  ? numbers(1, 2) && number(3, 0, 15) && number(4, 7, 39, false) && count > 5
-                       : keyword == "LINE" ? numbers(1, 4) && number(5, 0, 15) && count == 8 &&
-                                                 (fields[6] == "B" || fields[6] == "BF") && number(7, 0, 6)
-                       : keyword == "BREUK1"         ? numbers(1, 5) && count == 6
-                       : keyword == "DOORSTREPEN"    ? numbers(1, 4) && count >= 6
-                       : keyword == "PARTJES"        ? numbers(1, 3) && count == 4
-                       : keyword == "TELLERSNOEMERS" ? numbers(1, 12, false) && count == 13
-                                                     : false;
-    return right ? "" : "malformed: " + command;
-}
-
 TEST_P(every_exercise, gives_drawing_commands_that_draw_what_they_say) {
+    constexpr std::array forms{"^PRINT_#_#_#_*_@^",       "^LINE_#_#_#_#_#_(B|BF)_#^",
+                               "^BREUK1_#_#_#_#_#^",      "^PARTJES_#_#_#_^",
+                               "^DOORSTREPEN_#_#_#_#_@^", "^TELLERSNOEMERS_#_#_#_#_#_#_#_#_#_#_#_#_^"};
     each([&](const oefening& made) {
-        bool ended = false;
-        for (const std::string command : made.uitlegopdrachten) {
-            if (command == leeg) {
-                ended = true;
-                continue;
-            }
-            EXPECT_FALSE(ended) << "never drawn: " << command;
-            EXPECT_EQ(command_fault(command), "");
+        const auto is_empty = [](std::string_view command) { return command == leeg; };
+        const auto& commands = made.uitlegopdrachten;
+        const auto end = std::ranges::find_if(commands, is_empty);
+        EXPECT_TRUE(std::all_of(end, commands.end(), is_empty)) << "never drawn";
+        for (auto at = commands.begin(); at != end; ++at) {
+            const std::string command = *at;
+            const auto fits = [&](const char* form) { return find_pattern("^" + command + "^", form).has_value(); };
+            EXPECT_TRUE(std::ranges::any_of(forms, fits)) << command;
         }
     });
 }
