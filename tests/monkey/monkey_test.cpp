@@ -106,7 +106,8 @@ protected:
 
     // 0 where the system does not tell, or a sanitizer keeps what is freed.
     static long resident_kib() {
-        long total = 0, resident = 0;
+        [[maybe_unused]] long total = 0;
+        long resident = 0;
 #ifndef __SANITIZE_ADDRESS__
         std::ifstream("/proc/self/statm") >> total >> resident;
 #endif
