@@ -85,13 +85,13 @@ public:
 
     void operator()(const picture_op& op) {
         const QSize size = (box_.size() * pixels_).toSize();
-        const QImage& image = pictures_.scaled(op.file, size);
+        const QImage& image = pictures_.scaled(std::string(op.file), size);
         if (!image.isNull()) {
             on_.drawImage(box_, image);
             return;
         }
         const bool dark = qGray(rgb(shown_, shown_.ground).rgb()) < 128;
-        (*this)(text_op{60, 30, dark ? wit : zwart, 8.25, "plaatje ontbreekt: " + op.file});
+        (*this)(text_op{60, 30, dark ? wit : zwart, 8.25, "plaatje ontbreekt: " + std::string(op.file)});
     }
 
 private:

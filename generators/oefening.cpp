@@ -60,7 +60,7 @@ void oefening::druk_antwoord_over_stippen(int x, int y, kleur in, std::string_vi
     const int ruimte = std::max(breedte, text_width(kaal(antwoord), punten) + 2 * text_width(" ", punten));
     const int midden = x + ruimte / 2;
     druk(midden - breedte / 2, y, stippen);
-    plaatje.x = x + ruimte;
+    plaatje.move_to(x + ruimte, y);
     // From the tops of the letters to a little below the line on which they stand.
     const int boven = digit_top(punten) - 20;
     const int hoogte = static_cast<int>(punten * 20 * 0.95) - boven;

@@ -81,7 +81,7 @@ line_style style_of(const pen& with) {
 
 scene_text line_of(const drawing& shown, const text_op& text) {
     const int baseline = static_cast<int>(std::lround(look::ascent * text.size * 20));
-    return {0, baseline, text.size, false, text_colour_on(shown, text.colour), text.text};
+    return {0, baseline, text.size, false, text_colour_on(shown, text.colour), std::string(text.text)};
 }
 
 place drawn_bounds(const drawing& shown) {

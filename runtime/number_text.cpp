@@ -182,11 +182,15 @@ kladblok::~kladblok() {
     if (onder_handen == this) onder_handen = nullptr;
 }
 
-void kladblok::begin() {
-    onder_handen = this;
+void kladblok::vergeet() {
     more_.clear();
     next_ = first_.data();
     limit_ = next_ + first_.size();
+}
+
+void kladblok::begin() {
+    onder_handen = this;
+    vergeet();
 }
 
 char* kladblok::verhuis(char* end, std::size_t room) {

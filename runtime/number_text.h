@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -149,11 +150,22 @@ public:
     kladblok(const kladblok&) = delete;
     kladblok& operator=(const kladblok&) = delete;
 
-    // Forgets every line in it. From now on lines are glued here.
+    // Forgets all that is in it.
+    void vergeet();
+    // The same, and from now on lines are glued here.
     void begin();
 
     plakregel plak(std::initializer_list<regeldeel> delen);
     plakregel plak_velden(std::initializer_list<regeldeel> delen);
+    // A copy of other things.
+    template<class Item>
+    std::span<const Item> bewaar(std::span<const Item> items) {
+        next_ = met_ruimte(next_, items.size_bytes() + alignof(Item));
+        next_ += -reinterpret_cast<std::uintptr_t>(next_) % alignof(Item);
+        auto* const to = reinterpret_cast<Item*>(next_);
+        next_ = reinterpret_cast<char*>(std::uninitialized_copy(items.begin(), items.end(), to));
+        return {to, items.size()};
+    }
 
 private:
     // Goes on elsewhere with the line that stands from next_ to `end`, where there is so much room behind it.

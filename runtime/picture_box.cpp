@@ -82,35 +82,52 @@ int text_width(std::string_view text, double points, double stretch) {
 int bold_text_width(std::string_view text, double points) { return width_in(bold_widths, text, points); }
 
 void drawing::reset() {
+    move_to(0, 0);
     clear();
     ground = wit;
     fore_colour = zwart;
     text_size = 8;
     line_width = 1;
     style = line_style::solid;
-    x = y = 0;
 }
 
-void drawing::print(std::string_view text) { print_at(x, y, text, text_width(text, text_size)); }
-
-void drawing::print_at(int left, int top, std::string_view text, int width) {
-    operations_.emplace_back(std::in_place_type<text_op>, left, top, fore_colour, text_size, std::string(text));
-    x = left + width;
-    y = top;
+void drawing::clear() {
+    move_to(x(), y_);
+    operations_.clear();
+    spoken.clear();
+    if (kept_.use_count() == 1)
+        kept_->vergeet();
+    else
+        kept_ = nullptr;
 }
+
+kladblok& drawing::kept() {
+    if (kept_ == nullptr) kept_ = std::make_shared<kladblok>();
+    return *kept_;
+}
+
+void drawing::move_to(int left, int top) {
+    x_ = left;
+    y_ = top;
+    printed_ = {};
+}
+
+void drawing::print(std::string_view text) { print_at(x(), y_, text); }
 
 void drawing::print_at(int left, int top, std::string_view text) {
-    print_at(left, top, text, text_width(text, text_size));
+    x_ = left;
+    y_ = top;
+    printed_ = keep({text});
+    printed_size_ = text_size;
+    operations_.emplace_back(text_op{left, top, fore_colour, text_size, printed_});
 }
 
 void drawing::print_centred(int middle, int top, std::string_view text) {
-    const int width = text_width(text, text_size);
-    print_at(middle - width / 2, top, text, width);
+    print_at(middle - text_width(text, text_size) / 2, top, text);
 }
 
 void drawing::print_right(int right, int top, std::string_view text) {
-    const int width = text_width(text, text_size);
-    print_at(right - width, top, text, width);
+    print_at(right - text_width(text, text_size), top, text);
 }
 
 void drawing::line(int x1, int y1, int x2, int y2, kleur with) {
@@ -146,10 +163,14 @@ void drawing::sector(int centre_x, int centre_y, int radius, double start, doubl
     operations_.emplace_back(circle_op{{centre_x, centre_y}, radius, radius, pen(with), filled, start, sweep});
 }
 
-void drawing::polygon(std::vector<point> corners, kleur with, bool filled) {
-    operations_.emplace_back(polygon_op{std::move(corners), pen(with), filled});
+void drawing::polygon(std::span<const point> corners, kleur with, bool filled) {
+    operations_.emplace_back(polygon_op{kept().bewaar(corners), pen(with), filled});
 }
 
-void drawing::picture(std::string file) { operations_.emplace_back(picture_op{std::move(file)}); }
+void drawing::polygon(std::initializer_list<point> corners, kleur with, bool filled) {
+    polygon(std::span(corners.begin(), corners.size()), with, filled);
+}
+
+void drawing::picture(std::string_view file) { operations_.emplace_back(picture_op{keep({file})}); }
 
 } // namespace cijferwerf

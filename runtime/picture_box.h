@@ -8,7 +8,10 @@
 #include "runtime/palette.h"
 
 #include <cstdint>
-#include <string>
+#include <initializer_list>
+#include <memory>
+#include <span>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -32,12 +35,15 @@ struct pen {
     bool operator==(const pen&) const = default;
 };
 
+// The texts and corners of operations are only looked at here: the drawing that they belong to, and every copy of it,
+// keeps them until it is emptied.
+
 // A line of text; (x, y) is its top-left corner, the size is in points. Drawn at 90 % of the face's width.
 struct text_op {
     int x, y;
     kleur colour;
     double size;
-    std::string text;
+    std::string_view text;
 };
 
 struct line_op {
@@ -63,14 +69,14 @@ struct circle_op {
 };
 
 struct polygon_op {
-    std::vector<point> corners;
+    std::span<const point> corners;
     cijferwerf::pen pen;
     bool filled;
 };
 
 // A picture file, by bare name, that fills the whole box.
 struct picture_op {
-    std::string file;
+    std::string_view file;
 };
 
 using drawing_op = std::variant<text_op, line_op, box_op, circle_op, polygon_op, picture_op>;
@@ -89,7 +95,7 @@ constexpr int digit_top(double points) { return static_cast<int>(points * 20 * 0
 // them: it is read in place of the texts among them.
 struct spoken_part {
     std::size_t first, end;
-    std::string sentence;
+    std::string_view sentence; // that the drawing keeps, or of the program
 };
 
 class drawing {
@@ -109,16 +115,19 @@ public:
     double text_size = 8; // points
     int line_width = 1;   // pixels at 96 dpi
     line_style style = line_style::solid;
-    int x = 0; // where print() puts the top-left corner of the next line
-    int y = 0;
 
     // White, empty, black on it, 8 points, thin solid lines, position at the top left.
     void reset();
     // Empties the list and leaves everything else as it is.
-    void clear() {
-        operations_.clear();
-        spoken.clear();
-    }
+    void clear();
+
+    // A line glued as by regel() that stays while this drawing, or a copy of it, is not emptied.
+    std::string_view keep(std::initializer_list<regeldeel> parts) { return kept().plak(parts); }
+
+    // The position: where print() puts the top-left corner of the next line.
+    int x() const { return x_ + text_width(printed_, printed_size_); }
+    int y() const { return y_; }
+    void move_to(int left, int top);
 
     // Prints one line at the current position, which then moves to the end of the text.
     void print(std::string_view text);
@@ -136,16 +145,22 @@ public:
     void ellipse(int centre_x, int centre_y, int radius_x, int radius_y, kleur with, bool filled);
     // Degrees, counter-clockwise from three o'clock.
     void sector(int centre_x, int centre_y, int radius, double start, double sweep, kleur with, bool filled);
-    void polygon(std::vector<point> corners, kleur with, bool filled);
+    void polygon(std::span<const point> corners, kleur with, bool filled);
+    void polygon(std::initializer_list<point> corners, kleur with, bool filled);
     // Fills the whole box with the picture of this bare file name.
-    void picture(std::string file);
+    void picture(std::string_view file);
 
 private:
     cijferwerf::pen pen(kleur with) const { return {with, line_width, style}; }
-    void print_at(int left, int top, std::string_view text, int width);
     void add_box(int left, int top, int box_width, int box_height, kleur with, bool filled);
+    kladblok& kept();
 
     std::vector<drawing_op> operations_;
+    std::shared_ptr<kladblok> kept_; // copies share it: what stands in it never changes
+    int x_ = 0;                      // where what was printed last begins, ...
+    int y_ = 0;
+    std::string_view printed_; // ... which is not measured until it matters
+    double printed_size_ = 0;
 };
 
 } // namespace cijferwerf

@@ -43,13 +43,13 @@ std::string_view shown_by(std::string_view file) {
     return known == pictures.end() ? "" : known->shows;
 }
 
-words words_of(const text_op& text) { return {text.x, text.y, text_height(text.size), text.text}; }
+words words_of(const text_op& text) { return {text.x, text.y, text_height(text.size), std::string(text.text)}; }
 
 std::vector<words> words_in(const drawing& shown) {
     std::vector<words> found;
     std::vector<bool> replaced(shown.operations().size());
     for (const spoken_part& part : shown.spoken) {
-        words said{INT_MIN, INT_MIN, 0, part.sentence};
+        words said{INT_MIN, INT_MIN, 0, std::string(part.sentence)};
         for (std::size_t at = part.first; at < std::min(part.end, replaced.size()); ++at) {
             replaced[at] = true;
             const auto* text = std::get_if<text_op>(&shown.operations()[at]);

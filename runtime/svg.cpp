@@ -223,7 +223,7 @@ private:
         escaped(text);
         out_ += "</text>\n";
     }
-    void through(const std::vector<point>& points) {
+    void through(std::span<const point> points) {
         out_ += " points=\"";
         for (std::string_view between; const point& each : points) {
             out_ += between;

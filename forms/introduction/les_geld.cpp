@@ -65,7 +65,7 @@ public:
                 [](int nummer) { return bedrag(artikelen[nummer].prijs); });
         knop("opnieuw", rechts_onder, theme_role::action, "geld terugnemen", [this] { gegeven_ = {}; });
         for (std::size_t i = 0; i < geld.size(); ++i)
-            cel("geldstuk", static_cast<int>(i) + 1, plek(i), "een " + geldstuk(geld[i]), [this, i] {
+            cel("geldstuk", static_cast<int>(i) + 1, plek(i), "een " + std::string(geldstuk(geld[i])), [this, i] {
                 if (totaal() + geld[i] <= meest) ++gegeven_[i];
             });
     }

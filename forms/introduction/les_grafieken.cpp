@@ -17,7 +17,7 @@ void teken_cirkel(drawing& on, point midden, int straal, const std::vector<taart
     std::vector<taartdeel> zonder = delen;
     int geheel = 0;
     for (taartdeel& each : zonder) {
-        each.tekst.clear();
+        each.tekst = {};
         geheel += each.deel;
     }
     teken_taart(on, midden, straal, zonder, vanaf);
@@ -66,7 +66,7 @@ protected:
         as.lijnen_op();
         as.getallen_links();
         as.naam_boven("ijsjes");
-        std::vector<std::string> namen;
+        std::vector<plakregel> namen;
         std::vector<point> waarden;
         for (int x = 0; const dagverkoop& each : verkoop) {
             namen.emplace_back(each.kort);
@@ -113,7 +113,7 @@ protected:
         as.lijnen_op();
         as.getallen_links();
         as.naam_boven("mm regen");
-        std::vector<std::string> namen;
+        std::vector<plakregel> namen;
         for (int i = 1; i <= 6; ++i) {
             namen.emplace_back(kort[i - 1]);
             as.kolom(i * 10 - 8, i * 10 - 2, regen[i - 1], i == maand_ ? donker : half);

@@ -54,7 +54,7 @@ std::string duur(int minuten) {
 class tijdbalk : public voorbeeld {
 public:
     tijdbalk() {
-        const auto cijfers = [](int minuten) { return kloktijd{minuten}.cijfers(); };
+        const auto cijfers = [](int minuten) -> std::string { return kloktijd{minuten}.cijfers(); };
         begin_stap_ = &stappen(links_onder, "begin", begin_, vroegst.minuten, 0, 5, cijfers);
         eind_stap_ = &stappen(rechts_onder, "einde", eind_, 0, laatst.minuten, 5, cijfers);
     }

@@ -53,7 +53,7 @@ void voorbeeld::ververs() {
     blad.ground = licht;
     blad.fore_colour = inkt;
     zin_ = toon();
-    blad.spoken = {{0, blad.operations().size(), zin_}}; // in place of all that is to be read in it
+    blad.spoken = {{0, blad.operations().size(), blad.keep({zin_})}}; // in place of all that is to be read in it
     for (const stapper& each : stappers_) {
         each.getal->caption = each.vorm != nullptr ? each.vorm(*each.waarde) : std::to_string(*each.waarde);
         each.min->enabled = *each.waarde > each.van;

@@ -18,6 +18,6 @@ breuk trek_breuk(random_draws& toeval, int least, int most);
 std::vector<breuk> breuken_onder_1(int grootste_noemer);
 
 // "2 1/4", "3/4", "5": simplified, the wholes taken out.
-inline std::string kortste(breuk b) { return gemengd(b.vereenvoudigd()); }
+inline plakregel kortste(breuk b) { return gemengd(b.vereenvoudigd()); }
 
 } // namespace cijferwerf

@@ -19,7 +19,7 @@ void oefeningen::B_chocolade_03_03_click() {
         trek_tot([this] { return trek(11) + 2; }, [&](int drawn) { return std::gcd(drawn, kinderen) == 1; });
 
     bord(wit, zwart, 12);
-    vertel(plaatje, regel(Telwoord(repen), " repen chocola, en eronder ", telwoord(kinderen), " kinderen."));
+    vertel(plaatje, Telwoord(repen), " repen chocola, en eronder ", telwoord(kinderen), " kinderen.");
     const int stap_reep = std::min(5000 / repen, 600);
     for (int i = 0; i < repen; ++i) {
         const int links = drawing::inner_width / 2 + (2 * i - repen + 1) * stap_reep / 2 - 150;
@@ -92,8 +92,8 @@ void oefeningen::B_vlakjes_03_03_click() {
 
     bord(wit, zwart, 12);
     const int boven = (drawing::inner_height - rijen * vorm.vlakje) / 2;
-    vertel(plaatje, regel("Een rechthoek van ", telwoord(rijen), " rijen met elk ", telwoord(vorm.kolommen),
-                          " vlakjes. Rood: ", telwoord(rood_aantal), "."));
+    vertel(plaatje, "Een rechthoek van ", telwoord(rijen), " rijen met elk ", telwoord(vorm.kolommen),
+           " vlakjes. Rood: ", telwoord(rood_aantal), ".");
     for (int i = 0; i < totaal; ++i) {
         const int plaats = plaatsen[static_cast<std::size_t>(i)];
         const int x = 250 + plaats / rijen * vorm.vlakje;
@@ -199,8 +199,8 @@ void oefeningen::L_stukken_03_14_click() {
     const std::string deel = streepbreuk({tot_B, stukken});
 
     bord(wit, donkerblauw, 16);
-    vertel(plaatje, regel("Een lijnstuk van A naar C in ", telwoord(stukken), " gelijke stukken. B staat bij het ",
-                          rangtelwoord(tot_B), " streepje na A. Eronder de lengte van AB en die van AC:"));
+    vertel(plaatje, "Een lijnstuk van A naar C in ", telwoord(stukken), " gelijke stukken. B staat bij het ",
+           rangtelwoord(tot_B), " streepje na A. Eronder de lengte van AB en die van AC:");
     constexpr int links = 440, rechts = 4940, lijn = 780;
     const auto streep = [&](int i) { return links + (rechts - links) * i / stukken; };
     plaatje.line_width = 3;

@@ -11,8 +11,8 @@ namespace cijferwerf {
 namespace {
 
 // "3 9/6": wholes before a fraction that may be above 1.
-std::string met_helen(int helen, breuk b) {
-    return helen == 0 ? streepbreuk(b) : regel(kaal(helen), " ", streepbreuk(b));
+plakregel met_helen(int helen, breuk b) {
+    return helen == 0 ? streepbreuk(b) : plak_even({kaal(helen), " ", streepbreuk(b)});
 }
 
 } // namespace

@@ -59,8 +59,8 @@ void oefeningen::M_getallenlijn_03_03_click() {
         const int x = plek(rij(aangewezen, i));
         teken_pijl(plaatje, {x, 1720}, {x, lijn + 20}, tint);
         const int onder_pijl = tiende_onder(rij(aangewezen, i));
-        vertel(plaatje, regel("De ", bijvoeglijk(tint), " pijl wijst tussen ", nul_tot_een.woord(onder_pijl), " en ",
-                              nul_tot_een.woord(onder_pijl + 1), "."));
+        vertel(plaatje, "De ", bijvoeglijk(tint), " pijl wijst tussen ", nul_tot_een.woord(onder_pijl), " en ",
+               nul_tot_een.woord(onder_pijl + 1), ".");
         druk_midden(x, 1750, woord(tint));
         op_plaats(i, woord(tint));
     }

@@ -137,9 +137,9 @@ std::array<int, 5> middens_van_streepjes(int x, std::string_view line) {
 }
 
 // The numbers above or below the bars, each as near as blanks allow to its middle.
-std::string getallenrij(int y, const std::array<int, 5>& middens, const std::array<int, 5>& getallen) {
+plakregel getallenrij(int y, const std::array<int, 5>& middens, const std::array<int, 5>& getallen) {
     const auto stuk = [&](std::size_t i) {
-        return stuk_tekst{middens[i] - text_width(kaal(getallen[i]), 8) / 2, regel(kaal(getallen[i]))};
+        return stuk_tekst{middens[i] - text_width(kaal(getallen[i]), 8) / 2, plak_even({kaal(getallen[i])})};
     };
     return druk_opdracht(y, wit, 8, {stuk(0), stuk(1), stuk(2), stuk(3), stuk(4)});
 }

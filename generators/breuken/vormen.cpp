@@ -220,7 +220,7 @@ void oefeningen::M_vereenvoudigen_03_14_click() {
     const int top = y - text_height(18) / 2;
     const auto is = [&](int x) {
         druk(x + 130, top, "=");
-        return plaatje.x + 130;
+        return plaatje.x() + 130;
     };
     int x = is(teken_breuk(plaatje, variant == 1 ? 1200 : 1050, y, helen, k.eerste().teller, k.eerste().noemer));
     const int einde_midden =

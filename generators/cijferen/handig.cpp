@@ -16,7 +16,7 @@ struct splitsing {
     int rest = 0, rest_maal = 0;
 
     int waarde() const { return rond * b + (plus ? 1 : -1) * rest * rest_maal; }
-    std::string tekst() const { return regel(kaal(rond), " x", b, plus ? " +" : " -", rest, " x", rest_maal); }
+    plakregel tekst() const { return plak_even({kaal(rond), " x", b, plus ? " +" : " -", rest, " x", rest_maal}); }
     friend bool operator==(const splitsing& een, const splitsing& ander) { return een.waarde() == ander.waarde(); }
     friend auto operator<=>(const splitsing& een, const splitsing& ander) { return een.waarde() <=> ander.waarde(); }
 };
@@ -87,7 +87,7 @@ void oefeningen::M_flesjes_12_02_click() {
     const auto kratten_naast = [hoog](int naast) {
         return regel(telwoord(naast), " kratten naast elkaar en ", telwoord(hoog), " op elkaar.");
     };
-    vertel(plaatje, regel("Van voren ", kratten_naast(breed), " Van opzij ", kratten_naast(diep)));
+    vertel(plaatje, "Van voren ", kratten_naast(breed), " Van opzij ", kratten_naast(diep));
     druk(links, grond - hoog * hoogte - 290, opschrift);
     plaatje.filled_box(100, grond, 5180, 30, grijs);
     teken_stapel(plaatje, midden_voor, grond, breed, hoog, 400, hoogte);

@@ -60,23 +60,23 @@ void teken_krant(drawing& on, const aftrekking& a, bool vertrokken) {
                 regel("Dit jaar zijn er", duizend(nu), " inwoners.")});
 }
 
-std::string stap(std::string_view begin, kolom k) {
-    return regel("            ", begin, k.boven, " -", k.onder, " =", k.boven - k.onder);
+plakregel stap(std::string_view begin, kolom k, std::string_view einde = "") {
+    return plak_even({"            ", begin, k.boven, " -", k.onder, " =", k.boven - k.onder, einde});
 }
 
 // The written subtraction. Its digits are 340 apart, so that a stroke through one of them leaves its neighbours alone.
 constexpr int rechts = 5070, kolombreedte = 340, punten = 17;
 
-std::string in_kolommen(int y, int getal, std::string_view ervoor = "", std::string_view erachter = "") {
-    const std::string cijfers = regel(ervoor, cijfers_wijd(duizend(getal)));
+plakregel in_kolommen(int y, int getal, std::string_view ervoor = "", std::string_view erachter = "") {
+    const plakregel cijfers = plak_even({ervoor, cijfers_wijd(duizend(getal))});
     return druk_opdracht(rechts - text_width(cijfers, punten), y, wit, punten, cijfers, erachter);
 }
 // The digit above in a column, 0 for the units, is struck and the number put over it.
-std::string doorgestreept(int kolomnummer, int getal) {
+plakregel doorgestreept(int kolomnummer, int getal) {
     const int midden = rechts - kolombreedte / 4 - kolombreedte * kolomnummer;
     return doorstreep_opdracht(midden - 150, 650, midden - text_width(kaal(tekst(getal)), 8.25) / 2, 290, getal);
 }
-std::vector<std::string> uitgewerkt(const aftrekking& a) {
+std::vector<plakregel> uitgewerkt(const aftrekking& a) {
     return {in_kolommen(460, a.grootste()),
             in_kolommen(860, a.kleinste(), "", "  -"),
             vak_opdracht(3450, 1300, 1700, 20, wit),
@@ -105,9 +105,9 @@ void oefeningen::B_inwoners_1_12_01_click() {
     tip_2("Als je het kleinste getal van het grootste aftrekt,", "moet je bij de eenheden lenen van de tientallen.");
 
     uitleg("Trek het kleinste getal van het grootste getal af.", "Bij de eenheden moet je een tiental lenen.",
-           stap("Bij de eenheden doe je", a.eenheden()) + ",", stap("Bij de tientallen doe je", a.tientallen()) + ",",
+           stap("Bij de eenheden doe je", a.eenheden(), ","), stap("Bij de tientallen doe je", a.tientallen(), ","),
            regel(stap("Bij de honderdtallen doe je", a.honderdtallen()), ". Het verschil is", juist, "."));
-    for (const std::string& line : uitgewerkt(a)) opdracht(line);
+    for (const plakregel& line : uitgewerkt(a)) opdracht(line);
 }
 
 void oefeningen::B_inwoners_2_12_01_click() {
@@ -129,10 +129,10 @@ void oefeningen::B_inwoners_2_12_01_click() {
 
     uitleg("Trek het kleinste getal van het grootste getal af.",
            "Bij de eenheden moet je van de tientallen lenen en bij de",
-           "tientallen moet je van de honderdtallen lenen.", stap("Bij de eenheden doe je", a.eenheden()) + ",",
-           stap("Bij de tientallen doe je", a.tientallen()) + ",",
+           "tientallen moet je van de honderdtallen lenen.", stap("Bij de eenheden doe je", a.eenheden(), ","),
+           stap("Bij de tientallen doe je", a.tientallen(), ","),
            regel(stap("Bij de honderdtallen doe je", a.honderdtallen()), ". Het verschil is", juist, "."));
-    for (const std::string& line : uitgewerkt(a)) opdracht(line);
+    for (const plakregel& line : uitgewerkt(a)) opdracht(line);
 }
 
 void oefeningen::Z_sponsorloop_12_07() {

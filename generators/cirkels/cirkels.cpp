@@ -8,8 +8,8 @@ namespace cijferwerf {
 
 namespace {
 
-std::string cm(kommagetal lengte) { return regel(komma(lengte, 2), " cm"); }
-std::string cm2(kommagetal oppervlakte) { return regel(komma(oppervlakte, 2), " cm²"); }
+plakregel cm(kommagetal lengte) { return plak_even({komma(lengte, 2), " cm"}); }
+plakregel cm2(kommagetal oppervlakte) { return plak_even({komma(oppervlakte, 2), " cm²"}); }
 
 // A circle with its radius, and what is known of that.
 void teken_cirkel(drawing& on, std::string_view straal) {

@@ -33,7 +33,7 @@ void teken_meterstanden(drawing& on, std::string_view opschrift, int oud, int ni
         teken_teller(on, links, boven, tekst(stand));
     }
 }
-std::string verschil_opdracht(int verbruik) {
+plakregel verschil_opdracht(int verbruik) {
     return druk_opdracht(600, 1690, donkerrood, 13, "verschil:", duizend(verbruik), " m³");
 }
 
@@ -41,7 +41,7 @@ struct grenzen {
     int minste, meeste;
 };
 
-std::string kubieke_meters(int aantal) { return regel(duizend(aantal), " m³"); }
+plakregel kubieke_meters(int aantal) { return plak_even({duizend(aantal), " m³"}); }
 
 } // namespace
 

@@ -11,7 +11,7 @@ namespace cijferwerf {
 
 namespace {
 
-std::string kJ(long long aantal) { return regel(duizend(aantal), " kJ"); }
+plakregel kJ(long long aantal) { return plak_even({duizend(aantal), " kJ"}); }
 
 // Grams in kilograms: " 0,04".
 number_text in_kg(int gram) { return komma_kort({gram, 3}); }

@@ -7,7 +7,7 @@
 namespace cijferwerf {
 
 int teken_breuk(drawing& on, int x, int y, std::string_view geheel, std::string_view teller, std::string_view noemer) {
-    const verteld_als breuk(on, noemer.empty() ? std::string(geheel) : regel(geheel, " ", teller, "/", noemer));
+    const verteld_als breuk(on, geheel, noemer.empty() ? "" : " ", teller, noemer.empty() ? "" : "/", noemer);
     const double points = on.text_size;
     const int line_height = text_height(points);
     const auto width_of = [&](std::string_view text) { return text_width(text, points); };

@@ -43,12 +43,12 @@ constexpr breuk operator*(breuk a, breuk b) { return {a.teller * b.teller, a.noe
 constexpr breuk operator/(breuk a, breuk b) { return a * b.omgekeerd(); }
 
 // "7/4", without a blank in front.
-inline std::string streepbreuk(breuk b) { return regel(kaal(b.teller), "/", kaal(b.noemer)); }
+inline plakregel streepbreuk(breuk b) { return plak_even({kaal(b.teller), "/", kaal(b.noemer)}); }
 
 // "1 3/4", "3/4", "2": the wholes taken out, the rest as it stands. Without a blank in front.
-inline std::string gemengd(breuk b) {
-    if (b.rest().teller == 0) return regel(kaal(b.geheel()));
-    return b.geheel() == 0 ? streepbreuk(b) : regel(kaal(b.geheel()), " ", streepbreuk(b.rest()));
+inline plakregel gemengd(breuk b) {
+    if (b.rest().teller == 0) return kaal(b.geheel());
+    return b.geheel() == 0 ? streepbreuk(b) : plak_even({kaal(b.geheel()), " ", streepbreuk(b.rest())});
 }
 
 // Draws a mixed number with its fraction upright - numerator over bar over denominator - in the picture's colour and

@@ -39,7 +39,7 @@ struct datum {
 
     constexpr const maand& in() const { return maanden.at(static_cast<std::size_t>(maandnummer - 1)); }
     // "3 maart".
-    std::string tekst() const { return regel(kaal(dag), " ", in().naam); }
+    plakregel tekst() const { return plak_even({kaal(dag), " ", in().naam}); }
 
     friend constexpr bool operator==(datum, datum) = default;
 };

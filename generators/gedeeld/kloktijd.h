@@ -16,9 +16,9 @@ struct kloktijd {
     constexpr int uur() const { return (minuten % dag + dag) % dag / 60; }
     constexpr int minuut() const { return (minuten % 60 + 60) % 60; }
     // "9:05", "14:30".
-    std::string cijfers() const { return regel(kaal(uur()), minuut() < 10 ? ":0" : ":", kaal(minuut())); }
+    plakregel cijfers() const { return plak_even({kaal(uur()), minuut() < 10 ? ":0" : ":", kaal(minuut())}); }
     // "9:05 uur".
-    std::string tekst() const { return cijfers() + " uur"; }
+    plakregel tekst() const { return plak_even({cijfers(), " uur"}); }
 
     constexpr std::string_view dagdeel() const {
         return uur() < 6 ? "'s nachts" : uur() < 12 ? "'s morgens" : uur() < 18 ? "'s middags" : "'s avonds";

@@ -19,6 +19,8 @@ inline std::string_view machtnaam(int exponent) {
 }
 
 // The same with "macht" where that is Dutch: "tot de derde macht", but "in het kwadraat".
-inline std::string machtnaam_voluit(int exponent) { return regel(machtnaam(exponent), exponent == 2 ? "" : " macht"); }
+inline plakregel machtnaam_voluit(int exponent) {
+    return plak_even({machtnaam(exponent), exponent == 2 ? "" : " macht"});
+}
 
 } // namespace cijferwerf

@@ -4,8 +4,8 @@
 
 namespace cijferwerf {
 
-std::string factor_tekst(int macht) {
-    return regel(kaal(groepen(tien_tot_de(std::abs(macht)))), " keer zo ", macht < 0 ? "klein" : "groot");
+plakregel factor_tekst(int macht) {
+    return plak_even({kaal(groepen(tien_tot_de(std::abs(macht)))), " keer zo ", macht < 0 ? "klein" : "groot"});
 }
 
 } // namespace cijferwerf

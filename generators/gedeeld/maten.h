@@ -90,6 +90,6 @@ constexpr kommagetal omgerekend(kommagetal getal, const eenheid& van, const eenh
 constexpr kommagetal factor(const eenheid& van, const eenheid& naar) { return omgerekend({1}, van, naar); }
 
 // For a power of ten: "100 keer zo groot" for 2, "1.000 keer zo klein" for -3.
-std::string factor_tekst(int macht);
+plakregel factor_tekst(int macht);
 
 } // namespace cijferwerf

@@ -1,16 +1,14 @@
 #include "generators/gedeeld/munten.h"
 
-#include "runtime/number_text.h"
-
 #include <algorithm>
 
 namespace cijferwerf {
 
-std::string geldstuk(int cent, int aantal) {
+plakregel geldstuk(int cent, int aantal) {
     const bool is_briefje = cent >= briefwaarden.back();
     const std::string_view soort =
         aantal == 1 ? (is_briefje ? "briefje" : "munt") : (is_briefje ? "briefjes" : "munten");
-    return cent < 100 ? regel(soort, " van", cent, " eurocent") : regel(soort, " van", euro(cent));
+    return cent < 100 ? plak_even({soort, " van", cent, " eurocent"}) : plak_even({soort, " van", euro(cent)});
 }
 
 bedragen gepast_te_betalen(std::span<const stapel> geld) {

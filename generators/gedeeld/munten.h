@@ -2,10 +2,11 @@
 // Which of them an exercise deals out is its own affair.
 #pragma once
 
+#include "runtime/number_text.h"
+
 #include <array>
 #include <bitset>
 #include <span>
-#include <string>
 #include <vector>
 
 namespace cijferwerf {
@@ -15,7 +16,7 @@ inline constexpr std::array<int, 7> briefwaarden{50'000, 20'000, 10'000, 5'000, 
 inline constexpr std::array<int, 8> muntwaarden{200, 100, 50, 20, 10, 5, 2, 1};
 
 // "munt van 20 eurocent", "munten van € 2,-", "briefje van € 10,-": the plural from two on.
-std::string geldstuk(int cent, int aantal = 1);
+plakregel geldstuk(int cent, int aantal = 1);
 
 // So many coins or notes of one value.
 struct stapel {

@@ -35,7 +35,7 @@ plakregel druk_rechts_opdracht(int rechts, int y, kleur in, double points, const
 // to right; between two texts is at least one blank.
 struct stuk_tekst {
     int x;
-    std::string text;
+    plakregel text;
 };
 plakregel druk_opdracht(int y, kleur in, double points, std::initializer_list<stuk_tekst> stukken);
 

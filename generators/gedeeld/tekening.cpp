@@ -4,19 +4,10 @@
 #include "runtime/number_text.h"
 
 #include <algorithm>
+#include <array>
 #include <numbers>
 
 namespace cijferwerf {
-
-namespace {
-
-int heel(double value) { return static_cast<int>(std::lround(value)); }
-
-} // namespace
-
-void vertel(drawing& on, std::string zin) {
-    on.spoken.push_back({on.operations().size(), on.operations().size(), std::move(zin)});
-}
 
 std::string in_stappen(double waarde, double stap) {
     const int tienden = heel(10 * waarde / stap);
@@ -41,13 +32,13 @@ void teken_pijl(drawing& on, point van, point naar, kleur kleur_pijl) {
         return point{van.x + heel((dx * along - dy * aside) / length),
                      van.y + heel((dy * along + dx * aside) / length)};
     };
-    const std::vector<point> omtrek{naar,
-                                    at(length - head, half_head),
-                                    at(length - head, half_shaft),
-                                    at(0, half_shaft),
-                                    at(0, -half_shaft),
-                                    at(length - head, -half_shaft),
-                                    at(length - head, -half_head)};
+    const std::array omtrek{naar,
+                            at(length - head, half_head),
+                            at(length - head, half_shaft),
+                            at(0, half_shaft),
+                            at(0, -half_shaft),
+                            at(length - head, -half_shaft),
+                            at(length - head, -half_head)};
     on.polygon(omtrek, kleur_pijl, true);
     if (kleur_pijl != zwart) on.polygon(omtrek, zwart, false);
 }

@@ -49,26 +49,33 @@ private:
     int width_;
 };
 
-// Tells what is seen and not read, in a sentence for who cannot see it. It says how something lies or how many marks
-// high it is, in words, and leaves to the pupil what that is worth.
-void vertel(drawing& on, std::string zin);
+// Tells what is seen and not read, in a sentence, glued from texts and numbers, for who cannot see it. It says how
+// something lies or how many marks high it is, in words, and leaves to the pupil what that is worth.
+template<line_part... Parts>
+void vertel(drawing& on, const Parts&... zin) {
+    on.spoken.push_back({on.operations().size(), on.operations().size(), on.keep({regeldeel(zin)...})});
+}
 
 // The texts that are drawn while it lives are read as this sentence, or, without one, not at all.
 class verteld_als {
 public:
-    explicit verteld_als(drawing& on, std::string zin = {})
+    template<line_part... Parts>
+    explicit verteld_als(drawing& on, const Parts&... zin)
         : on_(on),
           eerste_(on.operations().size()),
-          zin_(std::move(zin)) {}
-    ~verteld_als() { on_.spoken.push_back({eerste_, on_.operations().size(), std::move(zin_)}); }
+          zin_(on.keep({regeldeel(zin)...})) {}
+    ~verteld_als() { on_.spoken.push_back({eerste_, on_.operations().size(), zin_}); }
     verteld_als(const verteld_als&) = delete;
     verteld_als& operator=(const verteld_als&) = delete;
 
 private:
     drawing& on_;
     std::size_t eerste_;
-    std::string zin_;
+    std::string_view zin_;
 };
+
+// The nearest whole number, halves away from zero.
+constexpr int heel(double waarde) { return static_cast<int>(waarde < 0 ? waarde - 0.5 : waarde + 0.5); }
 
 // How many steps a value is: "zeven", or to a tenth "7,5".
 std::string in_stappen(double waarde, double stap);

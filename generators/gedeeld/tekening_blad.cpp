@@ -18,7 +18,7 @@ void sheet(drawing& on, const vlak& waar) {
 } // namespace
 
 int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view kop,
-               const std::vector<std::string>& regels, kleur tint) {
+               const std::vector<plakregel>& regels, kleur tint) {
     const zelfde_stand bewaard(on);
     const double size = on.text_size;
     on.filled_box(waar.links + 45, waar.boven + 45, waar.breedte, waar.hoogte, grijs); // its shadow
@@ -47,7 +47,7 @@ int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view 
     const int room = waar.onder() - 40 - y, count = std::max(static_cast<int>(regels.size()), 1);
     const int step = std::min(room / count, text_height(size) * 3 / 2);
     const int first = y + (step - text_height(size)) / 2;
-    for (int i = 0; const std::string& line : regels) {
+    for (int i = 0; const plakregel& line : regels) {
         const int top = first + step * i++;
         if (soort == bladsoort::krant || soort == bladsoort::reclame)
             on.print_centred(waar.midden().x, top, line);
@@ -57,7 +57,7 @@ int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view 
     return first;
 }
 
-vlak teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& regels) {
+vlak teken_advertentie(drawing& on, int nummer, const std::vector<plakregel>& regels) {
     if (nummer < 1 || nummer > 4) stop_run("no advertisement " + std::to_string(nummer));
     const zelfde_stand bewaard(on);
     constexpr int rand = 12;
@@ -68,7 +68,7 @@ vlak teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& 
     const int step = std::min((waar.hoogte - 60) / static_cast<int>(regels.size()), text_height(on.text_size) * 3 / 2);
     int middle = waar.midden().y - step * (static_cast<int>(regels.size()) - 1) / 2;
     on.fore_colour = donkerrood;
-    for (const std::string& line : regels) {
+    for (const plakregel& line : regels) {
         druk_om(on, {waar.midden().x, middle}, line);
         on.fore_colour = zwart;
         middle += step;

@@ -13,10 +13,10 @@ enum class bladsoort : std::uint8_t { krant, brief, reclame, paneel };
 // newspaper's and an advertisement's lines are centred. The lines lie evenly from under the heading on, at most a
 // line and a half apart. Returns the top of the first line.
 int teken_blad(drawing& on, const vlak& waar, bladsoort soort, std::string_view kop,
-               const std::vector<std::string>& regels, kleur tint = donkerblauw);
+               const std::vector<plakregel>& regels, kleur tint = donkerblauw);
 
 // One of four advertisements that fill the picture two by two, 1 to 4 in reading order: centred lines in black, the
 // first of them in a colour of its own, at the drawing's text size. A line has room for 2640. Returns its place.
-vlak teken_advertentie(drawing& on, int nummer, const std::vector<std::string>& regels);
+vlak teken_advertentie(drawing& on, int nummer, const std::vector<plakregel>& regels);
 
 } // namespace cijferwerf

@@ -42,7 +42,7 @@ void roosterfiguur::teken(drawing& on, const rooster& op, kleur vulling) const {
     const zelfde_stand bewaard(on);
     std::vector<point> hoeken;
     for (const point& hoek : hoeken_) hoeken.push_back(op.hoek(hoek));
-    on.polygon(std::move(hoeken), vulling, true);
+    on.polygon(hoeken, vulling, true);
     teken_rand(on, op);
 }
 
@@ -69,8 +69,8 @@ std::string roosterfiguur::rand() const {
 
 void teken_rooster(drawing& on, const rooster& op, const std::vector<gekleurde_figuur>& figuren) {
     for (int nummer = 0; const auto& [figuur, vulling] : figuren)
-        vertel(on, regel("De ", rangtelwoord(++nummer), " figuur is ", woord(vulling),
-                         ". In hokjes loopt de rand: ", figuur.rand(), "."));
+        vertel(on, "De ", rangtelwoord(++nummer), " figuur is ", woord(vulling),
+               ". In hokjes loopt de rand: ", figuur.rand(), ".");
     const zelfde_stand bewaard(on);
     for (const auto& [figuur, vulling] : figuren) figuur.teken(on, op, vulling);
     const point eind = op.hoek({op.breed, op.hoog});
@@ -93,21 +93,19 @@ int naast_hoogte(const drawing& on, std::string_view maat) {
     return std::max(maatlijn, text_width(maat, on.text_size) / 2 + 60);
 }
 
-int twips(double value) { return static_cast<int>(std::lround(value)); }
-
 } // namespace
 
 void teken_doos(drawing& on, const vlak& binnen, int breedte, int diepte, int hoogte, std::string_view achter) {
     constexpr double naar_rechts = 0.5, omhoog = 0.38; // of what lies behind, per unit of depth
-    const auto maat = [&](int waarde) { return regel(kaal(waarde), achter); };
-    vertel(on, regel("Een doos: ", maat(breedte), " breed, ", maat(diepte), " diep en ", maat(hoogte), " hoog."));
+    const auto maat = [&](int waarde) { return plak_even({kaal(waarde), achter}); };
+    vertel(on, "Een doos: ", maat(breedte), " breed, ", maat(diepte), " diep en ", maat(hoogte), " hoog.");
     const verteld_als stil(on);
     const int naast = naast_hoogte(on, maat(hoogte)), links = 2 * naast;
     const int rechts = text_width(maat(diepte), on.text_size), onder = maatlijn + text_height(on.text_size);
     const double schaal = schaal_voor(binnen.breedte - links - rechts, breedte + naar_rechts * diepte,
                                       binnen.hoogte - onder, hoogte + omhoog * diepte);
-    const int b = twips(breedte * schaal), h = twips(hoogte * schaal);
-    const point schuin{twips(diepte * schaal * naar_rechts), -twips(diepte * schaal * omhoog)};
+    const int b = heel(breedte * schaal), h = heel(hoogte * schaal);
+    const point schuin{heel(diepte * schaal * naar_rechts), -heel(diepte * schaal * omhoog)};
     const int over_breed = binnen.breedte - links - rechts - b - schuin.x,
               over_hoog = binnen.hoogte - onder - h + schuin.y;
     const int x = binnen.links + links + over_breed / 2, y = binnen.onder() - onder - h - over_hoog / 2;
@@ -132,13 +130,13 @@ void teken_doos(drawing& on, const vlak& binnen, int breedte, int diepte, int ho
 
 void teken_cilinder(drawing& on, const vlak& binnen, int middellijn, int hoogte, std::string_view achter) {
     constexpr double plat = 0.28; // how flat the circles are seen
-    const auto maat = [&](int waarde) { return regel(kaal(waarde), achter); };
-    vertel(on, regel("Een cilinder met een middellijn van ", maat(middellijn), " en ", maat(hoogte), " hoog."));
+    const auto maat = [&](int waarde) { return plak_even({kaal(waarde), achter}); };
+    vertel(on, "Een cilinder met een middellijn van ", maat(middellijn), " en ", maat(hoogte), " hoog.");
     const verteld_als stil(on);
     const int naast = naast_hoogte(on, maat(hoogte)), onder = maatlijn + text_height(on.text_size);
     const double schaal =
         schaal_voor(binnen.breedte - 4 * naast, middellijn, binnen.hoogte - onder, hoogte + plat * middellijn);
-    const int straal = twips(middellijn * schaal / 2), h = twips(hoogte * schaal), boog = twips(straal * plat);
+    const int straal = heel(middellijn * schaal / 2), h = heel(hoogte * schaal), boog = heel(straal * plat);
     const int over = binnen.hoogte - onder - h - 2 * boog;
     const int x = binnen.midden().x, y = binnen.onder() - onder - boog - h - over / 2;
 

@@ -45,7 +45,7 @@ void teken_munt(drawing& on, point midden, int straal, int cent) {
     on.circle(midden.x, midden.y, binnen, letterkleur(soort->rand));
     on.fore_colour = letterkleur(soort->hart);
     on.text_size = buiten / 26.0;
-    druk_om(on, midden, cent < 100 ? regel(kaal(cent), " ct") : regel("€", cent / 100));
+    druk_om(on, midden, cent < 100 ? plak_even({kaal(cent), " ct"}) : plak_even({"€", cent / 100}));
 }
 
 void teken_briefje(drawing& on, int links, int boven, int breedte, int euro) {
@@ -58,7 +58,7 @@ void teken_briefje(drawing& on, int links, int boven, int breedte, int euro) {
     on.fore_colour = letterkleur(soort->tint);
     on.box(links + rand, boven + rand, breedte - 2 * rand, hoogte - 2 * rand, on.fore_colour);
     on.text_size = breedte / 60.0;
-    druk_om(on, {links + breedte / 2, boven + hoogte / 2}, regel("€", euro));
+    druk_om(on, {links + breedte / 2, boven + hoogte / 2}, plak_even({"€", euro}));
 }
 
 } // namespace cijferwerf

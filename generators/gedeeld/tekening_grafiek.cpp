@@ -16,15 +16,16 @@ constexpr int room = 50; // between an axis and its labels
 
 // The place of a value between two ends, half up.
 int tussen(int waarde, const asschaal& langs, int van, int tot) {
-    return van + static_cast<int>(std::lround(1.0 * (waarde - langs.van) * (tot - van) / (langs.tot - langs.van)));
+    return van + heel(1.0 * (waarde - langs.van) * (tot - van) / (langs.tot - langs.van));
 }
 
 // "0, 20 enzovoort tot 160, bij elke tweede streep"
-std::string getallen_langs(const asschaal& langs, int om, std::string_view achter) {
-    const auto getal = [&](int waarde) { return regel(kaal(duizend(waarde / langs.een)), achter); };
+plakregel getallen_langs(const asschaal& langs, int om, std::string_view achter) {
+    const auto getal = [&](int waarde) { return plak_even({kaal(duizend(waarde / langs.een)), achter}); };
     const int laatste = langs.van + (langs.tot - langs.van) / om * om, strepen = om / langs.stap;
-    return regel(getal(langs.van), ", ", getal(langs.van + om), " enzovoort tot ", getal(laatste),
-                 strepen == 1 ? ", bij elke streep" : regel(", bij elke ", rangtelwoord(strepen), " streep"));
+    return plak_even(
+        {getal(langs.van), ", ", getal(langs.van + om), " enzovoort tot ", getal(laatste),
+         strepen == 1 ? ", bij elke streep" : plak_even({", bij elke ", rangtelwoord(strepen), " streep"})});
 }
 
 } // namespace
@@ -53,9 +54,11 @@ std::string assen::hoogte(int waarde) const { return in_stappen(waarde - langs_y
 
 void assen::vertel() {
     std::string zin = "Een grafiek.";
+    zin.reserve(500);
     const auto as = [&zin](std::string_view kant, const beschrift& van) {
         if (van.getallen.empty()) return;
-        zin += regel(" ", kant, van.naam.empty() ? "" : regel(" (", van.naam, ")"), ": ", van.getallen, ".");
+        zin += plak_even(
+            {" ", kant, van.naam.empty() ? "" : " (", van.naam, van.naam.empty() ? ": " : "): ", van.getallen, "."});
     };
     as("Omhoog", omhoog_);
     as("Naar rechts", opzij_);
@@ -64,8 +67,8 @@ void assen::vertel() {
         const auto [in, waarde] = kolommen_[i];
         const bool andere = !benoemd && (i == 0 || in != kolommen_[i - 1].in);
         zin += i == 0 ? " De kolommen van links naar rechts, in strepen hoog: " : andere ? "; " : ", ";
-        if (andere) zin += regel(woord(in), " ");
-        if (benoemd) zin += namen_[i] + " ";
+        if (andere) zin.append(woord(in)).append(" ");
+        if (benoemd) zin.append(namen_[i]).append(" ");
         zin += hoogte(waarde);
     }
     if (!kolommen_.empty()) zin += '.';
@@ -75,13 +78,13 @@ void assen::vertel() {
                      op_naam ? " lijn, in strepen hoog: " : " lijn, in strepen naar rechts en omhoog: ");
         for (std::size_t i = 0; i < waarden.size(); ++i) {
             if (i > 0) zin += ", ";
-            zin += op_naam ? namen_[i] : in_stappen(waarden[i].x - langs_x_.van, langs_x_.stap);
+            zin += op_naam ? namen_[i] : plakregel(in_stappen(waarden[i].x - langs_x_.van, langs_x_.stap));
             zin += op_naam ? " " : " en ";
             zin += hoogte(waarden[i].y);
         }
         zin += '.';
     }
-    on_.spoken[zin_].sentence = std::move(zin);
+    on_.spoken[zin_].sentence = on_.keep({zin});
 }
 
 void assen::lijnen_op() {
@@ -111,11 +114,11 @@ void assen::getallen_onder(int om) {
         on_.print_centred(x(waarde), plot_.onder() + room / 2, kaal(duizend(waarde / langs_x_.een)));
 }
 
-void assen::namen_onder(const std::vector<std::string>& namen) {
+void assen::namen_onder(const std::vector<plakregel>& namen) {
     namen_ = namen;
     const verteld_als stil(on_);
     int links = langs_x_.van;
-    for (const std::string& naam : namen) {
+    for (const plakregel& naam : namen) {
         on_.print_centred((x(links) + x(links + langs_x_.stap)) / 2, plot_.onder() + room / 2, naam);
         links += langs_x_.stap;
     }
@@ -163,8 +166,9 @@ void teken_taart(drawing& on, point midden, int straal, const std::vector<taartd
         std::accumulate(delen.begin(), delen.end(), 0, [](int sum, const taartdeel& each) { return sum + each.deel; });
     std::string zin = "Een cirkel in delen. In twaalfden van de cirkel: ";
     for (const taartdeel& each : delen)
-        zin += regel(&each == &delen.front() ? "" : ", ", each.tekst.empty() ? woord(each.vulling) : each.tekst,
-                     each.gestreept ? " gestreept " : " ", in_stappen(12.0 * each.deel, geheel));
+        zin +=
+            regel(&each == &delen.front() ? "" : ", ", each.tekst.empty() ? plakregel(woord(each.vulling)) : each.tekst,
+                  each.gestreept ? " gestreept " : " ", in_stappen(12.0 * each.deel, geheel));
     vertel(on, zin + '.');
     const verteld_als stil(on);
     struct sector {
@@ -215,9 +219,8 @@ void arceer_sector(drawing& on, point midden, int straal, double vanaf, double s
             const auto [right, up] = at((cuts[i - 1] + cuts[i]) / 2);
             if (!in_sector(right, up)) continue;
             const auto from = at(cuts[i - 1]), to = at(cuts[i]);
-            const auto whole = [](double value) { return static_cast<int>(std::lround(value)); };
-            on.line(midden.x + whole(from[0]), midden.y - whole(from[1]), midden.x + whole(to[0]),
-                    midden.y - whole(to[1]), met);
+            on.line(midden.x + heel(from[0]), midden.y - heel(from[1]), midden.x + heel(to[0]), midden.y - heel(to[1]),
+                    met);
         }
     }
 }
@@ -226,8 +229,9 @@ int teken_legenda(drawing& on, int x, int y, const std::vector<legendaregel>& re
     const zelfde_stand bewaard(on);
     const int step = text_height(on.text_size) * 5 / 4, side = step * 3 / 5;
     for (const legendaregel& each : regels) {
-        const bool noemt = each.naam.find(woord(each.vulling)) != std::string::npos;
-        const verteld_als genoemd(on, noemt ? each.naam : regel(woord(each.vulling), ": ", each.naam, "."));
+        const std::string_view naam = each.naam;
+        const bool noemt = naam.find(woord(each.vulling)) != naam.npos;
+        const verteld_als genoemd(on, noemt ? each.naam : plak_even({woord(each.vulling), ": ", each.naam, "."}));
         on.filled_box(x, y + (step - side) / 2, side, side, each.vulling);
         on.box(x, y + (step - side) / 2, side, side, on.fore_colour);
         on.print_at(x + side * 3 / 2, y + step / 2 - halve_regel(on.text_size), each.naam);

@@ -37,7 +37,7 @@ public:
     void getallen_links(std::string_view achter = "", int om = 0);
     void getallen_onder(int om = 0);
     // A text in the middle of each step of x: a month, a family.
-    void namen_onder(const std::vector<std::string>& namen);
+    void namen_onder(const std::vector<plakregel>& namen);
     // What the numbers count: above the upright axis, and at the right end of the other.
     void naam_boven(std::string_view naam);
     void naam_rechts(std::string_view naam);
@@ -52,7 +52,7 @@ private:
     std::string hoogte(int waarde) const;
 
     struct beschrift { // how an axis is
-        std::string naam, getallen;
+        plakregel naam, getallen;
     };
     struct staaf {
         kleur in;
@@ -67,7 +67,7 @@ private:
     asschaal langs_x_, langs_y_;
     std::size_t zin_; // its place among what the drawing tells
     beschrift omhoog_, opzij_;
-    std::vector<std::string> namen_;
+    std::vector<plakregel> namen_;
     std::vector<staaf> kolommen_;
     std::vector<verloop> lijnen_;
 };
@@ -77,7 +77,7 @@ private:
 struct taartdeel {
     int deel = 0;
     kleur vulling = wit;
-    std::string tekst = {};
+    plakregel tekst = {};
     bool gestreept = false;
 };
 
@@ -89,7 +89,7 @@ void arceer_sector(drawing& on, point midden, int straal, double vanaf, double s
 
 struct legendaregel {
     kleur vulling = wit;
-    std::string naam;
+    plakregel naam;
 };
 
 // Boxes of colour under one another, each with its name to the right, from a top-left corner on. Returns the y below.

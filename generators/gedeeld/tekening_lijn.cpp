@@ -16,7 +16,7 @@ getallenlijn::getallenlijn(drawing& on, int links, int rechts, int y, int delen)
       rechts_(rechts),
       y_(y),
       delen_(delen) {
-    vertel(on, regel("Een getallenlijn in ", telwoord(delen), " gelijke stukjes."));
+    vertel(on, "Een getallenlijn in ", telwoord(delen), " gelijke stukjes.");
     const zelfde_stand bewaard(on, 2);
     on.line(links, y, rechts, y, on.fore_colour);
     for (int i = 0; i <= delen; ++i) {
@@ -27,14 +27,14 @@ getallenlijn::getallenlijn(drawing& on, int links, int rechts, int y, int delen)
 
 int getallenlijn::x(int streepje) const { return links_ + (rechts_ - links_) * streepje / delen_; }
 
-std::string getallenlijn::woord(int streepje) const {
+plakregel getallenlijn::woord(int streepje) const {
     return streepje == 0        ? "het begin"
            : streepje == delen_ ? "het eind"
-                                : regel("het ", rangtelwoord(streepje), " streepje");
+                                : plak_even({"het ", rangtelwoord(streepje), " streepje"});
 }
 
 void getallenlijn::getal(int streepje, std::string_view tekst) {
-    vertel(on_, regel("Bij ", woord(streepje), " staat ", tekst, "."));
+    vertel(on_, "Bij ", woord(streepje), " staat ", tekst, ".");
     const verteld_als stil(on_);
     const zelfde_stand bewaard(on_, 2);
     on_.line(x(streepje), y_ - half_long_mark, x(streepje), y_ + half_long_mark, on_.fore_colour);
@@ -42,7 +42,7 @@ void getallenlijn::getal(int streepje, std::string_view tekst) {
 }
 
 void getallenlijn::pijl(int streepje, kleur met, std::string_view naam, int lengte) {
-    vertel(on_, regel("De ", bijvoeglijk(met), " pijl wijst naar ", woord(streepje), "."));
+    vertel(on_, "De ", bijvoeglijk(met), " pijl wijst naar ", woord(streepje), ".");
     const verteld_als stil(on_);
     const int tip = y_ - half_long_mark - 20;
     teken_pijl(on_, {x(streepje), tip - lengte}, {x(streepje), tip}, met);

@@ -15,7 +15,7 @@ public:
 
     int x(int streepje) const;
     // "het begin", "het derde streepje"
-    std::string woord(int streepje) const;
+    plakregel woord(int streepje) const;
     // A number below a mark, which is made longer.
     void getal(int streepje, std::string_view tekst);
     // An arrow from above that points at a mark, with a name over it or none.

@@ -34,16 +34,16 @@ int teken_met_machten(drawing& on, int x, int y, std::string_view text) {
     const double points = on.text_size;
     // The exponent's digits begin a little above those of the base.
     const int raised = y + digit_top(points) - digit_top(points * exponent_size) - static_cast<int>(points * 2);
-    on.x = x;
+    on.move_to(x, y);
     lees_machten(
-        text, [&](std::string_view base) { on.print_at(on.x, y, base); },
+        text, [&](std::string_view base) { on.print_at(on.x(), y, base); },
         [&](std::string_view exponent) {
             on.text_size = points * exponent_size;
-            on.print_at(on.x, raised, exponent);
+            on.print_at(on.x(), raised, exponent);
             on.text_size = points;
         });
-    on.y = y;
-    return on.x;
+    on.move_to(on.x(), y);
+    return on.x();
 }
 
 int breedte_met_machten(std::string_view text, double points) {

@@ -8,7 +8,7 @@ namespace cijferwerf {
 
 namespace {
 
-int share(int straal, double part) { return static_cast<int>(std::lround(straal * part)); }
+int share(int straal, double part) { return heel(straal * part); }
 
 void line(drawing& on, point from, point to, kleur with) { on.line(from.x, from.y, to.x, to.y, with); }
 
@@ -20,19 +20,21 @@ void teken_naald(drawing& on, point midden, int lengte, int half_width, double g
 }
 
 // Where a needle stands among numbers that lie so many steps apart on a clock.
-std::string bij_uur(int stand, int per_uur) {
+plakregel bij_uur(int stand, int per_uur) {
     const int uur = (stand / per_uur + 11) % 12 + 1, verder = stand % per_uur;
-    return verder == 0 ? regel("op de", uur) : regel("tussen de", uur, " en de", uur % 12 + 1);
+    return verder == 0 ? plak_even({"op de", uur}) : plak_even({"tussen de", uur, " en de", uur % 12 + 1});
 }
 
-std::string verteld(const wijzerschaal& langs, int waarde) {
+plakregel verteld(const wijzerschaal& langs, int waarde) {
     if (langs.getal == 0)
-        return regel("Een wijzerplaat met ", telwoord(langs.tot / langs.lang), " lange streepjes. De wijzer staat ",
-                     in_stappen(waarde, langs.lang), " lange streepjes na het begin.");
+        return plak_even({"Een wijzerplaat met ", telwoord(langs.tot / langs.lang),
+                          " lange streepjes. De wijzer staat ", in_stappen(waarde, langs.lang),
+                          " lange streepjes na het begin."});
     const int onder = waarde / langs.getal * langs.getal, verder = waarde - onder;
-    return regel("Een wijzerplaat met de getallen 0,", langs.getal, " enzovoort tot", langs.tot, " en ",
-                 telwoord(langs.getal / langs.kort), " stukjes van getal tot getal. De wijzer staat ",
-                 verder == 0 ? "op" : regel(in_stappen(verder, langs.kort), " stukje verder dan"), onder, ".");
+    return plak_even({"Een wijzerplaat met de getallen 0,", langs.getal, " enzovoort tot", langs.tot, " en ",
+                      telwoord(langs.getal / langs.kort), " stukjes van getal tot getal. De wijzer staat ",
+                      verder == 0 ? "op" : plak_even({in_stappen(verder, langs.kort), " stukje verder dan"}), onder,
+                      "."});
 }
 
 } // namespace
@@ -54,7 +56,7 @@ int teller_breedte(std::string_view getal, double points) { return text_width(ci
 
 void teken_teller(drawing& on, int x, int y, std::string_view getal) {
     const zelfde_stand bewaard(on);
-    const verteld_als teller(on, std::string(kaal(getal)));
+    const verteld_als teller(on, kaal(getal));
     const std::string wijd = cijfers_wijd(getal);
     const int window = text_width("0  ", on.text_size), blank = text_width(" ", on.text_size);
     const int width = teller_breedte(getal, on.text_size), height = teller_hoogte(on.text_size);
@@ -90,7 +92,7 @@ void teken_wijzerplaat(drawing& on, point midden, int straal, const wijzerschaal
     }
     for (int at = 0; langs.getal > 0 && at <= langs.tot; at += langs.getal) {
         const verteld_als stil(on);
-        const std::string getal = regel(kaal(duizend(at)));
+        const number_text getal = kaal(duizend(at));
         // As far out as the text is deep in that direction.
         const point out = op_cirkel({0, 0}, 1000, graden(at));
         const int deep = (std::abs(out.x) * (text_width(getal, on.text_size) / 2 + 30) +
@@ -107,8 +109,8 @@ void teken_wijzerplaat(drawing& on, point midden, int straal, const wijzerschaal
 
 void teken_klok(drawing& on, point midden, int straal, int minuten) {
     const zelfde_stand bewaard(on);
-    vertel(on, regel("Een wekker. De kleine wijzer staat ", bij_uur(minuten % 720, 60), ", de grote ",
-                     bij_uur(minuten % 60, 5), "."));
+    vertel(on, "Een wekker. De kleine wijzer staat ", bij_uur(minuten % 720, 60), ", de grote ",
+           bij_uur(minuten % 60, 5), ".");
     const verteld_als stil(on);
     // Bells and feet first: the case lies over them.
     for (const double side : {50.0, 130.0}) {
@@ -126,7 +128,7 @@ void teken_klok(drawing& on, point midden, int straal, int minuten) {
         const double graden = 90 - 30.0 * hour;
         on.line_width = 2;
         line(on, op_cirkel(midden, straal * 0.92, graden), op_cirkel(midden, straal * 0.88, graden), zwart);
-        druk_om(on, op_cirkel(midden, straal * 0.72, graden), regel(kaal(hour)));
+        druk_om(on, op_cirkel(midden, straal * 0.72, graden), kaal(hour));
     }
     teken_naald(on, midden, share(straal, 0.4), share(straal, 0.055), 90 - minuten % 720 * 0.5, zwart);
     teken_naald(on, midden, share(straal, 0.57), share(straal, 0.04), 90 - minuten % 60 * 6.0, zwart);

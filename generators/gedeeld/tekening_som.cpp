@@ -3,21 +3,23 @@
 #include "generators/gedeeld/telwoord.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace cijferwerf {
 
 namespace {
 
-std::string verteld(const std::vector<somregel>& getallen, std::string_view teken) {
+plakregel verteld(const std::vector<somregel>& getallen, std::string_view teken) {
     std::string zin = "Onder elkaar:";
-    for (auto [getal, inspringing] : getallen) {
-        std::erase(getal, ' ');
-        zin += regel(" ", getal);
+    zin.reserve(100);
+    for (const auto& [getal, inspringing] : getallen) {
+        zin += ' ';
+        std::ranges::copy_if(std::string_view(getal), std::back_inserter(zin), [](char c) { return c != ' '; });
         if (inspringing != 0)
-            zin += regel(", ", telwoord(std::abs(inspringing)), inspringing > 0 ? " naar links" : " naar rechts");
+            zin += plak_even({", ", telwoord(std::abs(inspringing)), inspringing > 0 ? " naar links" : " naar rechts"});
         zin += ';';
     }
-    return regel(zin, " ", teken, ".");
+    return plak_even({zin, " ", teken, "."});
 }
 
 } // namespace

@@ -9,7 +9,7 @@ namespace cijferwerf {
 // A number as it is written, and how many digits its right end stands left of the sum's right end (below 0: right).
 // All digits are equally wide, so numbers with the same shift stand digit under digit; a comma is half as wide.
 struct somregel {
-    std::string getal;
+    plakregel getal;
     int inspringing = 0;
 };
 

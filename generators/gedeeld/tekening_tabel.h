@@ -25,7 +25,7 @@ public:
     template<line_part... Cellen>
     void rij(const Cellen&... cellen) {
         std::size_t column = 0;
-        (cel(column++, regel(cellen)), ...);
+        (cel(column++, plak_even({cellen})), ...);
         sluit_rij();
     }
     // The y below the last row.

@@ -100,7 +100,7 @@ void oefeningen::L_terugbetalen_05_07_click() {
     const int terug = trek_van(5, munten.cent - 5, 5);
     const int prijs = betaald - terug;
     const auto stuks = [](stapel s) {
-        const std::string stuk = geldstuk(s.cent, s.aantal);
+        const plakregel stuk = geldstuk(s.cent, s.aantal);
         return s.aantal == 1 ? regel("een ", stuk) : regel(kaal(s.aantal), " ", stuk);
     };
 

@@ -166,7 +166,7 @@ void oefeningen::L_na_de_komma_11_06_click() {
 
     bord(lichtgrijs, zwart, 14);
     druk(500, 90, komma(getal, tweede_plaats), " = ");
-    antwoord_over_stippen(plaatje.x, 90, donkerblauw, "...", juist);
+    antwoord_over_stippen(plaatje.x(), 90, donkerblauw, "...", juist);
     kleurkeuze({500, 480}, 400, kleuren,
                {{juist},
                 {som(plaats, fout_tweede), "De eerste helft van je antwoord is goed..."},

@@ -47,8 +47,7 @@ void oefeningen::B_inwoners_04_18_click() {
     const int inwoners = helften * (schaal / 2);
 
     bord(wit, donkerblauw, 12);
-    vertel(plaatje,
-           regel("Een beelddiagram met ", telwoord(hele), " hele figuurtjes en een half. Eronder één figuurtje:"));
+    vertel(plaatje, "Een beelddiagram met ", telwoord(hele), " hele figuurtjes en een half. Eronder één figuurtje:");
     plaatje.filled_box(0, 1720, drawing::inner_width, drawing::inner_height - 1720, lichtcyaan);
     const int per_rij = (hele + 2) / 2;
     const int links = (drawing::inner_width - per_rij * 600) / 2 + 300;

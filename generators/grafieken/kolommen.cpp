@@ -105,7 +105,7 @@ void oefeningen::L_regenval_04_18_click() {
     grafiek.lijnen_op();
     grafiek.getallen_links("", om);
     grafiek.naam_boven("mm");
-    std::vector<std::string> namen;
+    std::vector<plakregel> namen;
     for (int i = 1; i <= 12; ++i) {
         namen.emplace_back(rij(maanden, i).kort);
         const int tussenin = trek_van(minste + stap, meeste - stap, stap);
@@ -250,7 +250,7 @@ void oefeningen::Z_verkiezingen_04_18_click() {
     grafiek.lijnen_op();
     grafiek.getallen_links("", 10);
     std::vector<legendaregel> legenda;
-    std::vector<std::string> nummers;
+    std::vector<plakregel> nummers;
     for (int i = 1; i <= 5; ++i) {
         const vlak kolom = grafiek.kolom(3 * i - 2, 3 * i - 1, rij(zetels, i), rij(kleuren, i));
         nummers.emplace_back(kaal(i));

@@ -12,14 +12,14 @@ namespace cijferwerf {
 
 namespace {
 
-std::vector<std::string> maandletters() {
-    std::vector<std::string> letters;
+std::vector<plakregel> maandletters() {
+    std::vector<plakregel> letters;
     for (const maand& deze : maanden) letters.emplace_back(deze.naam.substr(0, 1));
     return letters;
 }
 
 // " 1ste", " 2de", ... " 8ste"; up to 19.
-std::string rang(int n) { return regel(n, n == 1 || n == 8 ? "ste" : "de"); }
+plakregel rang(int n) { return plak_even({n, n == 1 || n == 8 ? "ste" : "de"}); }
 
 } // namespace
 

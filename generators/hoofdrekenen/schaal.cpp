@@ -112,7 +112,7 @@ void oefeningen::L_schaal_10_16_click() {
 
     bord(wit, zwart, 12);
     const int breedte = getekend * centimeter, links = (drawing::inner_width - breedte) / 2, grond = 1200;
-    vertel(plaatje, regel("Een tekening die ", telwoord(getekend), " keer zo lang is als het staafje van 1 cm."));
+    vertel(plaatje, "Een tekening die ", telwoord(getekend), " keer zo lang is als het staafje van 1 cm.");
     o.teken(plaatje, links, grond, breedte);
     teken_maat(plaatje, {links, grond + 340}, {links + breedte, grond + 340}, meters);
     plaatje.filled_box(250, 1860, centimeter, 60, donkerrood);

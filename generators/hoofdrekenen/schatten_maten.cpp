@@ -43,8 +43,8 @@ void oefeningen::B_gestreept_10_03_click() {
     const double vanaf = (5 - variant) * 90 - boog;
 
     bord(wit, zwart, 12);
-    vertel(plaatje, regel("Een cirkel in vier gelijke stukken. Gestreept is iets ", meer ? "meer" : "minder", " dan ",
-                          telwoord(stukken), stukken == 1 ? " stuk." : " stukken."));
+    vertel(plaatje, "Een cirkel in vier gelijke stukken. Gestreept is iets ", meer ? "meer" : "minder", " dan ",
+           telwoord(stukken), stukken == 1 ? " stuk." : " stukken.");
     arceer_sector(plaatje, midden, straal, vanaf, boog, donkerblauw);
     plaatje.line_width = 2;
     plaatje.circle(midden.x, midden.y, straal, zwart);

@@ -25,15 +25,15 @@ std::string tafelregel(int rij, int tafel) {
 }
 
 // The clever route through a table, in pieces of lines.
-std::array<std::string, 5> handige_route(int a, int b) {
+std::array<plakregel, 5> handige_route(int a, int b) {
     if (b == 25)
         return {"    Bij de tafel van 25 is", "    het handig te weten dat", "    4 x 25 gelijk is aan 100.", "", ""};
     if (b > 10)
-        return {"    Je kunt de som splitsen:", regel("    doe eerst", a, " x 10 en"),
-                regel("    dan", a, " x", b - 10, "."), regel("    Opgeteld:", 10 * a, " +", a * (b - 10), " =", a * b),
-                ""};
+        return {"    Je kunt de som splitsen:", plak_even({"    doe eerst", a, " x 10 en"}),
+                plak_even({"    dan", a, " x", b - 10, "."}),
+                plak_even({"    Opgeteld:", 10 * a, " +", a * (b - 10), " =", a * b}), ""};
     return {"    Bij tafelsommen is het soms", "    handig eerst te kijken hoe",
-            regel("    veel 5 x", b, " of 10 x", b), "    is en dan op te tellen of", "    af te trekken."};
+            plak_even({"    veel 5 x", b, " of 10 x", b}), "    is en dan op te tellen of", "    af te trekken."};
 }
 
 } // namespace
@@ -59,7 +59,7 @@ void oefeningen::B_tafels_09_02_click() {
     for (const int keer : andere) fout(tekst(keer * b));
 
     const auto route = handige_route(a, b);
-    const auto naast_tafel = [&](int i) { return tafelregel(i, b) + rij(route, i); };
+    const auto naast_tafel = [&](int i) { return regel(tafelregel(i, b), rij(route, i)); };
     uitleg(naast_tafel(1), naast_tafel(2), naast_tafel(3), naast_tafel(4), naast_tafel(5),
            regel("Het goede antwoord is dus:", a, " x", b, " =", a * b, "."));
 }

@@ -18,7 +18,7 @@ struct macht {
     }
     constexpr macht verwisseld() const { return {exponent, grondtal}; }
     // "5^3", as pictures take it.
-    std::string op_plaatje() const { return regel(kaal(grondtal), "^", kaal(exponent)); }
+    plakregel op_plaatje() const { return plak_even({kaal(grondtal), "^", kaal(exponent)}); }
     // "5 x 5 x 5"
     std::string uitgeschreven() const {
         std::string product(kaal(grondtal));

@@ -21,12 +21,12 @@ struct machtsom {
     friend auto operator<=>(const machtsom& a, const machtsom& b) { return a.waarde <=> b.waarde; }
 };
 
-std::string in_het_kort(const machtsom& som) {
-    return som.dubbel() ? regel(som.een.op_plaatje(), " + ", som.ander.op_plaatje()) : som.een.op_plaatje();
+plakregel in_het_kort(const machtsom& som) {
+    return som.dubbel() ? plak_even({som.een.op_plaatje(), " + ", som.ander.op_plaatje()}) : som.een.op_plaatje();
 }
 
-std::string verkeerd_geteld(const macht& m) {
-    return regel("Je hebt niet goed geteld hoe vaak het getal", m.grondtal, " er staat.");
+plakregel verkeerd_geteld(const macht& m) {
+    return plak_even({"Je hebt niet goed geteld hoe vaak het getal", m.grondtal, " er staat."});
 }
 
 constexpr std::string_view verwisseld = "Je hebt het grondtal en de exponent verwisseld.";

@@ -49,7 +49,7 @@ void oefeningen::L_berekenen_00_11_click() {
     const number_text uitkomst = tekst(m.waarde());
 
     bord(variant == 1 ? groen : donkerblauw, geel, 20);
-    som_met_antwoord(2550, 700, wit, 20, m.op_plaatje() + " =", uitkomst);
+    som_met_antwoord(2550, 700, wit, 20, regel(m.op_plaatje(), " ="), uitkomst);
 
     vraag("Hiernaast zie je een", "som.", leeg, "Bereken de uitkomst.");
 
@@ -68,7 +68,7 @@ void oefeningen::L_in_woorden_00_11_click() {
     bord(variant == 1 ? donkerblauw : groen, geel, 16);
     druk(400, 750, telwoord(m.grondtal), " ", naam, " is ");
     // As wide as three digits and more, so that the dots do not tell how many there are.
-    antwoord_over_stippen(plaatje.x, 750, wit, "........", uitkomst);
+    antwoord_over_stippen(plaatje.x(), 750, wit, "........", uitkomst);
 
     vraag("Hiernaast zie je een som", "die helemaal in woorden", "is weergegeven.", leeg, "Bereken de uitkomst.");
 

@@ -70,8 +70,8 @@ void oefeningen::L_optellen_08_17_click() {
 
     bord(paars, geel, 18);
     druk(400, 850, s.opgave());
-    antwoord_over_stippen(plaatje.x, 850, wit, "...", komma_kort(s.totaal()));
-    druk(plaatje.x + 110, 850, s.gevraagd().teken);
+    antwoord_over_stippen(plaatje.x(), 850, wit, "...", komma_kort(s.totaal()));
+    druk(plaatje.x() + 110, 850, s.gevraagd().teken);
 
     vraag("Hiernaast zie twee gewichten die", "je moet optellen. De eenheden zijn", "echter verschillend.", leeg,
           "Welk getal moet op de stippen staan?");

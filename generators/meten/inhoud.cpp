@@ -185,7 +185,9 @@ void oefeningen::L_doos_08_17_click() {
         bool in_liter = false;
         bool operator==(const inhoud& other) const { return mL == other.mL; }
         auto operator<=>(const inhoud& other) const { return mL <=> other.mL; }
-        std::string tekst() const { return in_liter ? regel(duizend(mL / 1000), " liter") : regel(duizend(mL), " mL"); }
+        plakregel tekst() const {
+            return in_liter ? plak_even({duizend(mL / 1000), " liter"}) : plak_even({duizend(mL), " mL"});
+        }
     };
     kies_variant(2);
     const bool in_dm = variant == 1;

@@ -13,7 +13,9 @@ struct staartdeling {
     int rest() const { return teller % noemer; }
     int naar_boven() const { return (teller + noemer - 1) / noemer; }
     // "46 : 7 = 6, rest 4"
-    std::string tekst() const { return regel(kaal(duizend(teller)), " :", noemer, " =", uitkomst(), ", rest", rest()); }
+    plakregel tekst() const {
+        return plak_even({kaal(duizend(teller)), " :", noemer, " =", uitkomst(), ", rest", rest()});
+    }
 };
 
 } // namespace

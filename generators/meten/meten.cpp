@@ -33,18 +33,18 @@ std::vector<keuze<kommagetal>> maatsom::vergissingen() const {
     };
 }
 
-std::array<std::string, 4> maatsom::uitleg() const {
+std::array<plakregel, 4> maatsom::uitleg() const {
     const bool omlaag = macht_tussen(om().maat, gevraagd()) > 0;
     const eenheid &groot = omlaag ? om().maat : gevraagd(), &klein = omlaag ? gevraagd() : om().maat;
     const number_text links = komma_kort(eerste_om ? omgezet() : kommagetal{eerste.getal}),
                       rechts = komma_kort(eerste_om ? kommagetal{tweede.getal} : omgezet());
-    return {regel(eerste_om ? "Het eerste getal moet je eerst omrekenen naar "
-                            : "Het tweede getal moet je eerst omrekenen naar ",
-                  gevraagd().teken, "."),
-            regel("1 ", groot.teken, " = 10 ", klein.teken, ", dus", om().getal, " ", om().maat.teken, " =",
-                  komma_kort(omgezet()), " ", gevraagd().teken, "."),
-            regel("Nu kun je optellen:", links, " +", rechts, " =", komma_kort(totaal()), "."),
-            regel("Op de stippen moet dus", komma_kort(totaal()), " staan.")};
+    return {plak_even({eerste_om ? "Het eerste getal moet je eerst omrekenen naar "
+                                 : "Het tweede getal moet je eerst omrekenen naar ",
+                       gevraagd().teken, "."}),
+            plak_even({"1 ", groot.teken, " = 10 ", klein.teken, ", dus", om().getal, " ", om().maat.teken, " =",
+                       komma_kort(omgezet()), " ", gevraagd().teken, "."}),
+            plak_even({"Nu kun je optellen:", links, " +", rechts, " =", komma_kort(totaal()), "."}),
+            plak_even({"Op de stippen moet dus", komma_kort(totaal()), " staan."})};
 }
 
 maatsom trek_maatsom(random_draws& toeval, const eenheid& van, const eenheid& naar, bool eerste_om) {

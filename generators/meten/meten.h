@@ -35,7 +35,7 @@ struct maatsom {
     // "34 cm + 5 dm = "; the dots and the unit asked for come behind it.
     std::string opgave() const;
     std::vector<keuze<kommagetal>> vergissingen() const;
-    std::array<std::string, 4> uitleg() const;
+    std::array<plakregel, 4> uitleg() const;
 };
 
 // A sum with these neighbours of a ladder, of which the number in the one unit (from) is converted to the other (to).

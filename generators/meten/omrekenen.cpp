@@ -82,8 +82,8 @@ void oefeningen::L_optellen_1_07_09_click() {
 
     bord(donkerblauw, geel, 18);
     druk(400, 850, s.opgave());
-    antwoord_over_stippen(plaatje.x, 850, wit, "...", komma_kort(s.totaal()));
-    druk(plaatje.x + 110, 850, s.gevraagd().teken);
+    antwoord_over_stippen(plaatje.x(), 850, wit, "...", komma_kort(s.totaal()));
+    druk(plaatje.x() + 110, 850, s.gevraagd().teken);
 
     vraag("Hiernaast zie je twee afstanden die", "je moet optellen. De eenheden zijn", "echter verschillend.", leeg,
           "Welk getal moet op de stippen staan?");
@@ -103,8 +103,8 @@ void oefeningen::L_optellen_2_07_09_click() {
 
     bord(groen, wit, 18);
     druk(400, 850, s.opgave());
-    antwoord_over_stippen(plaatje.x, 850, geel, "...", komma_kort(s.totaal()));
-    druk(plaatje.x + 110, 850, s.gevraagd().teken);
+    antwoord_over_stippen(plaatje.x(), 850, geel, "...", komma_kort(s.totaal()));
+    druk(plaatje.x() + 110, 850, s.gevraagd().teken);
 
     vraag("Hiernaast zie je twee afstanden die", "je moet optellen. De eenheden zijn", "echter verschillend.", leeg,
           "Welk getal moet op de stippen staan?");

@@ -46,9 +46,9 @@ L_tekening teken_L(drawing& on, const L_vorm& l, kleur rechthoek, kleur vierkant
         on.box(groot.links, groot.boven, breed, hoog, zwart);
         on.box(klein.links, klein.boven, zijde, zijde, zwart);
     }
-    vertel(on, regel("Een rechthoek met ", l.rechts ? "rechts" : "links",
-                     " ernaast een vierkant, samen een L. Lengte van de L: ", maat(l.lengte()),
-                     ". Hoogte van de rechthoek: ", maat(l.hoog), ". Zijde van het vierkant: ", maat(l.zijde), "."));
+    vertel(on, "Een rechthoek met ", l.rechts ? "rechts" : "links",
+           " ernaast een vierkant, samen een L. Lengte van de L: ", maat(l.lengte()),
+           ". Hoogte van de rechthoek: ", maat(l.hoog), ". Zijde van het vierkant: ", maat(l.zijde), ".");
     const verteld_als stil(on);
     const int langs = l.onder ? boven + hoog + 150 : boven - 150;
     teken_maat(on, {links, langs}, {links + breed + zijde, langs}, maat(l.lengte()));

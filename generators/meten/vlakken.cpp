@@ -48,7 +48,9 @@ void oefeningen::B_rechthoek_07_12_click() {
         bool in_m = false;
         bool operator==(const lengte& other) const { return mm == other.mm; }
         auto operator<=>(const lengte& other) const { return mm <=> other.mm; }
-        std::string tekst() const { return in_m ? regel(komma_kort(mm, 3), " m") : regel(komma_kort(mm, 1), " cm"); }
+        plakregel tekst() const {
+            return in_m ? plak_even({komma_kort(mm, 3), " m"}) : plak_even({komma_kort(mm, 1), " cm"});
+        }
     };
     struct rechthoek {
         int lang, kort; // cm

@@ -8,7 +8,7 @@ namespace cijferwerf {
 namespace {
 
 // "1.250 euro"
-std::string in_euros(int euros) { return regel(kaal(duizend(euros)), " euro"); }
+plakregel in_euros(int euros) { return plak_even({kaal(duizend(euros)), " euro"}); }
 
 } // namespace
 

@@ -9,7 +9,7 @@ namespace cijferwerf {
 
 namespace {
 
-std::string procent(int whole) { return regel(whole, " %"); }
+plakregel procent(int whole) { return plak_even({whole, " %"}); }
 
 } // namespace
 
@@ -198,7 +198,7 @@ void oefeningen::B_grasveld_01_08_click() {
 
     const int breedte = 5000 / n;
     const int links = (drawing::inner_width - n * breedte) / 2;
-    vertel(plaatje, regel("Een grasveld in ", telwoord(n), " gelijke banen. Lichtgroen: ", telwoord(m), "."));
+    vertel(plaatje, "Een grasveld in ", telwoord(n), " gelijke banen. Lichtgroen: ", telwoord(m), ".");
     for (int i = 0; i < n; ++i) {
         plaatje.filled_box(links + i * breedte, 165, breedte, 1800, i < m ? lichtgroen : groen);
         plaatje.box(links + i * breedte, 165, breedte, 1800, zwart);

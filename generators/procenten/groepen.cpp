@@ -10,7 +10,7 @@ namespace cijferwerf {
 
 namespace {
 
-std::string procent(int whole) { return regel(whole, " %"); }
+plakregel procent(int whole) { return plak_even({whole, " %"}); }
 
 constexpr std::array<std::string_view, 29> clubs{
     "Ajax",         "PSV",       "Feyenoord",   "FC Utrecht",  "FC Den Haag",    "FC Groningen",

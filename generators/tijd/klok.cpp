@@ -13,7 +13,7 @@ namespace cijferwerf {
 namespace {
 
 // " 2 uur en 35 minuten", to go on a line with.
-std::string uren_en_minuten(int duur) { return regel(duur / 60, " uur en", duur % 60, " minuten"); }
+plakregel uren_en_minuten(int duur) { return plak_even({duur / 60, " uur en", duur % 60, " minuten"}); }
 
 } // namespace
 
@@ -101,7 +101,7 @@ void oefeningen::L_wachten_06_04_click() {
     bord(wit, zwart, 16);
     plaatje.picture("wachten.bmp");
     {
-        const verteld_als horloge(plaatje, regel("Op het horloge staat ", aankomst.cijfers(), "."));
+        const verteld_als horloge(plaatje, "Op het horloge staat ", aankomst.cijfers(), ".");
         druk_midden(1000, 885, aankomst.cijfers());
     }
     plaatje.text_size = 12;

@@ -11,7 +11,7 @@ namespace cijferwerf {
 
 namespace {
 
-std::string schaal(int een_op) { return regel("1 :", duizend(een_op)); }
+plakregel schaal(int een_op) { return plak_even({"1 :", duizend(een_op)}); }
 
 } // namespace
 

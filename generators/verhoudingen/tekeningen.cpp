@@ -77,8 +77,8 @@ void oefeningen::B_huis_02_16_click() {
     for (int midden = 920; const huis& h : geschud(huizen)) {
         teken_huis(plaatje, midden, h.breedte, h.verf);
         druk_midden(midden, 1770, h.woord());
-        vertel(plaatje, regel("De voorkant van het ", h.bijvoeglijk(), " huis is ", in_stappen(h.breedte, deur_breed),
-                              " deuren breed."));
+        vertel(plaatje, "De voorkant van het ", h.bijvoeglijk(), " huis is ", in_stappen(h.breedte, deur_breed),
+               " deuren breed.");
         midden += 1770;
     }
 
@@ -149,9 +149,8 @@ void oefeningen::B_maatbeker_02_16_click() {
     const auto hoogte_van = [n](int streepje) { return bodem - hoogte * streepje / n; };
 
     bord(lichtgrijs, zwart, 12);
-    vertel(plaatje,
-           regel("Een maatbeker met ", telwoord(n), " streepjes, het laatste aan de rand. De limonade komt tot het ",
-                 rangtelwoord(vol), " streepje."));
+    vertel(plaatje, "Een maatbeker met ", telwoord(n), " streepjes, het laatste aan de rand. De limonade komt tot het ",
+           rangtelwoord(vol), " streepje.");
     plaatje.ellipse(links + breedte, 1050, 480, 560, grijs, true);
     plaatje.ellipse(links + breedte, 1050, 360, 440, lichtgrijs, true);
     plaatje.filled_box(links, hoogte_van(n), breedte, hoogte, wit);
@@ -215,8 +214,8 @@ void oefeningen::L_cirkels_02_16_click() {
         plaatje.filled_circle(midden_x, midden_y, straal, donkerblauw);
         plaatje.sector(midden_x, midden_y, straal, 0, graden, rood, true);
         plaatje.circle(midden_x, midden_y, straal, zwart);
-        const verteld_als cirkel(plaatje, regel("In twaalfden van de cirkel is ", naam,
-                                                " rood: ", in_stappen(12.0 * rood_deel.teller, rood_deel.noemer), "."));
+        const verteld_als cirkel(plaatje, "In twaalfden van de cirkel is ", naam,
+                                 " rood: ", in_stappen(12.0 * rood_deel.teller, rood_deel.noemer), ".");
         druk_midden(midden_x, 1820, naam);
     }
 
@@ -270,9 +269,7 @@ void oefeningen::M_tandwielen_02_16_click() {
     const double straal_links = groot_links ? straal_groot : straal_klein;
     const double straal_rechts = groot_links ? straal_klein : straal_groot;
     const point midden{drawing::inner_width / 2, drawing::inner_height / 2};
-    const auto naast = [&](double afstand) {
-        return point{midden.x + static_cast<int>(std::lround(afstand)), midden.y};
-    };
+    const auto naast = [&](double afstand) { return point{midden.x + heel(afstand), midden.y}; };
     // A tooth of the left one reaches into a gap of the right one.
     teken_tandwiel(plaatje, naast(-straal_rechts), straal_links, links, 0, lichtcyaan);
     teken_tandwiel(plaatje, naast(straal_links), straal_rechts, rechts, 180 + 180.0 / rechts, geel);

@@ -131,7 +131,7 @@ void check_numbers(infoscherm& on) {
     for (const drawing_op& op : on.bij().getekend().operations())
         if (const auto* text = std::get_if<text_op>(&op)) {
             for (const std::string& wrong : check_sums(text->text).wrong) ADD_FAILURE() << wrong;
-            read += ' ' + text->text + ' ';
+            read.append(" ").append(text->text).append(" ");
         }
     for (const control* each : on.bij().controls()) read += ' ' + each->caption + ' ';
     const std::string& sentence = on.bij().zin();

@@ -27,7 +27,7 @@ TEST(picture_box,
     drawing board;
     board.text_size = 12;
     board.print_at(100, 200, "123");
-    EXPECT_EQ(board.x, 100 + 360); // three digits of 1139/2048 em at 12 points and 90 %
+    EXPECT_EQ(board.x(), 100 + 360); // three digits of 1139/2048 em at 12 points and 90 %
     board.fore_colour = rood;
     board.print("4");
     board.print_centred(1000, 300, "123");

@@ -52,7 +52,7 @@ bool crosses(point a, point b, const ink& word) {
 std::vector<point> path_of(const drawing_op& operation, kleur ground) {
     if (const auto* line = std::get_if<line_op>(&operation)) return {line->from, line->to};
     if (const auto* shape = std::get_if<polygon_op>(&operation)) {
-        std::vector<point> around = shape->corners;
+        std::vector<point> around(shape->corners.begin(), shape->corners.end());
         around.push_back(around.front());
         return around;
     }

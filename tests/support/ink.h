@@ -28,7 +28,7 @@ inline void add_words(std::vector<ink>& to, const text_op& text, std::size_t ope
     const double em = text.size * 20;
     for (std::size_t at = text.text.find_first_not_of(' '); at != std::string::npos;) {
         const std::size_t end = std::min(text.text.find(' ', at), text.text.size());
-        const std::string word = text.text.substr(at, end - at);
+        const std::string word(text.text.substr(at, end - at));
         const bool tailed = word.find_first_of("gjpqyQ,;()") != std::string::npos;
         const double left = text.x + text_width(text.text.substr(0, at), text.size);
         const bool dots = word.find_first_not_of('.') == std::string::npos;

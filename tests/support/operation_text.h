@@ -33,7 +33,7 @@ struct operation_texter {
     std::string operator()(const polygon_op& op) const {
         return joined("polygon of ", op.corners.size(), with(op.pen));
     }
-    std::string operator()(const picture_op& op) const { return "picture " + op.file; }
+    std::string operator()(const picture_op& op) const { return joined("picture ", op.file); }
 };
 
 inline std::vector<std::string> as_texts(const drawing& drawn) {

@@ -6,7 +6,8 @@
 
 namespace cijferwerf {
 
-double decimal(std::string text) {
+double decimal(std::string_view shown) {
+    std::string text(shown);
     std::erase_if(text, [](char c) { return c == '.' || c == ' '; });
     std::ranges::replace(text, ',', '.');
     return lees_getal(text);
@@ -68,7 +69,7 @@ void seen::look_at(const drawing& drawn) {
     for (const drawing_op& operation : drawn.operations()) {
         if (const auto* text = std::get_if<text_op>(&operation)) {
             texts.push_back(*text);
-            words.push_back(text->text);
+            words.emplace_back(text->text);
         }
         if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled) blocks.push_back(*box);
     }

@@ -12,8 +12,8 @@
 namespace cijferwerf {
 
 // " 1.250,5 euro" and "1. 2  5  0, 5" are 1250.5.
-double decimal(std::string text);
-inline int whole(const std::string& text) { return static_cast<int>(decimal(text)); }
+double decimal(std::string_view text);
+inline int whole(std::string_view text) { return static_cast<int>(decimal(text)); }
 
 drawing explained(const oefening& made);
 

@@ -16,7 +16,7 @@ namespace {
 
 std::string listed(const std::vector<int>& numbers, auto word_for) {
     std::string all;
-    for (const int n : numbers) all += (all.empty() ? "" : ", ") + word_for(n);
+    for (const int n : numbers) all += regel(all.empty() ? "" : ", ", word_for(n));
     return all;
 }
 std::string plain(int n) { return telwoord(n); }

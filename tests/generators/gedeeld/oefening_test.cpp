@@ -157,13 +157,13 @@ TEST(the_explanation, writes_the_answer_where_the_sum_ends_or_dots_stood) {
     const std::vector<text_op> texts = seen(made).when_explained().texts;
     const text_op &end = texts[texts.size() - 2], &written = texts.back();
     EXPECT_TRUE(end.text == " + 14 =" && written.text == "1.023" && written.colour == geel && written.x == 3680);
-    EXPECT_NEAR(end.x + text_width(end.text + " ", 15), 3680, 2);
+    EXPECT_NEAR(end.x + text_width(regel(end.text, " "), 15), 3680, 2);
 
     for (const std::string_view dots : {"..", "............"}) {
         made.begin();
         made.bord(groen, wit, 14);
         made.antwoord_over_stippen(500, 600, geel, dots, duizend(123'456));
-        const int room = made.plaatje.x - 500;
+        const int room = made.plaatje.x() - 500;
         const seen shown = seen(made).when_explained();
         const box_op& wiped = shown.blocks.back();
         EXPECT_EQ(shown.words.back(), "123.456");

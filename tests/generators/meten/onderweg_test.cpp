@@ -16,7 +16,7 @@ const formula ride = [](const reading& n) {
 double needle(const reading& n) {
     const auto drawn = all<polygon_op>(n);
     const auto hand = std::ranges::find(drawn, rood, [](const polygon_op& p) { return p.pen.colour; });
-    const point tip = hand->corners.at(1), end = hand->corners.at(3);
+    const point tip = hand->corners[1], end = hand->corners[3];
     const double angle = std::atan2(end.y - tip.y, tip.x - end.x) * 180 / std::numbers::pi;
     return rounded(std::fmod(225 - angle + 360, 360) / 270 * 20) * 10;
 }

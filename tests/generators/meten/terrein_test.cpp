@@ -8,9 +8,10 @@ namespace {
 using figure = std::vector<point>;
 std::vector<figure> figures(const reading& n) {
     std::vector<figure> found;
-    for (polygon_op& drawn : all<polygon_op>(n)) {
-        for (point& corner : drawn.corners) corner = {(corner.x - 125) / 270, corner.y / 270};
-        found.push_back(drawn.corners);
+    for (const polygon_op& drawn : all<polygon_op>(n)) {
+        figure corners(drawn.corners.begin(), drawn.corners.end());
+        for (point& corner : corners) corner = {(corner.x - 125) / 270, corner.y / 270};
+        found.push_back(corners);
     }
     return found;
 }

@@ -269,7 +269,7 @@ TEST_P(every_exercise, reads_its_picture_aloud_without_giving_away_the_answer) {
     each([&](const oefening& made) {
         const seen exercise(made);
         std::string said;
-        for (const spoken_part& part : made.plaatje.spoken) said += part.sentence + " ";
+        for (const spoken_part& part : made.plaatje.spoken) said.append(part.sentence).append(" ");
         const auto all = exercise.answers();
         const bool tells_all = std::ranges::all_of(all, [&](const std::string& each) { return names(said, each); });
         std::string apart = exercise.right; // as a fraction is printed
