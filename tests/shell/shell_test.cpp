@@ -16,7 +16,7 @@ namespace {
 class shell : public practising {
 protected:
     struct course {
-        std::string_view set, kind;
+        std::string_view set, hint;
         option_button& choice;
         colofon& credits;
         menu& from;
@@ -44,8 +44,8 @@ protected:
     codering& start = forms.get<codering>();
     menucl& cl = forms.get<menucl>();
     menusw& sw = forms.get<menusw>();
-    course courses[2]{{"TELMORA's CIJFERLOOP", "boekje", start.CLgekozen, forms.get<colofoncl>(), cl, {}},
-                      {"SOMMENWERF", "taak", start.SWgekozen, forms.get<colofonsw>(), sw, {}}};
+    course courses[2]{{"TELMORA's CIJFERLOOP", "boekje kiezen", start.CLgekozen, forms.get<colofoncl>(), cl, {}},
+                      {"SOMMENWERF", "taak kiezen", start.SWgekozen, forms.get<colofonsw>(), sw, {}}};
     form* all[7]{&start, &cl, &sw, &screen, &courses[0].credits, &courses[1].credits, &forms.get<infoscherm>(1, 1)};
 };
 
@@ -64,25 +64,27 @@ TEST_F(shell, goes_from_the_background_form_past_a_choice_and_credits_to_every_e
     EXPECT_EQ(on_screen() + forms.globalen.gekozen_onderdeel, "codering");
 
     for (const course& each : courses)
-        for (int i = 1; button * entry : each.entries) {
+        for (button* entry : each.entries) {
             SCOPED_TRACE(entry->caption);
-            const bool booklets = &each.from == &cl, review = !booklets && i % 5 == 0;
             open_menu(each);
             pupil.click(*entry);
             EXPECT_EQ(on_screen(), "mama");
-            EXPECT_EQ(forms.globalen.gekozen_pakket, each.set);
-            EXPECT_EQ(forms.globalen.gekozen_onderdeel, regel(each.kind, i < 10 ? "0" : "", kaal(i)));
-            EXPECT_EQ(entry->caption, zoek_lijst(each.set, forms.globalen.gekozen_onderdeel)->heading);
-            EXPECT_EQ(screen.opschriftbalk.caption, entry->caption);
             EXPECT_EQ(screen.caption, each.set);
-            EXPECT_EQ(screen.info.visible, booklets);
-            EXPECT_EQ(screen.info.enabled, !review);
+            EXPECT_EQ(screen.opschriftbalk.caption, entry->caption);
+            EXPECT_EQ(zoek_lijst(each.set, forms.globalen.gekozen_onderdeel)->heading, entry->caption);
             EXPECT_FALSE(screen.presentatielijst.items.empty());
+            EXPECT_EQ(screen.info.visible, &each.from == &cl);
+            EXPECT_NE(screen.info.enabled, entry->overline == "HERHALING");
+            pupil.hover(screen.terug);
+            pupil.wait(1950);
+            EXPECT_TRUE(screen.taakkiezen_label.visible);
+            EXPECT_EQ(screen.taakkiezen_label.caption, each.hint);
+            pupil.wait(50);
+            EXPECT_FALSE(screen.taakkiezen_label.visible);
             pupil.click(screen.terug);
             EXPECT_EQ(on_screen(), each.from.name());
             pupil.click(each.from.terug);
             EXPECT_EQ(on_screen(), "codering");
-            ++i;
         }
     EXPECT_EQ(sw.caption, "DEEL 1 EN 2, SOMMENWERF");
     start.unload();
@@ -119,36 +121,27 @@ TEST_F(shell, closing_a_window_or_stopping_asks_first) {
 // ---- what the menus look like ----
 
 TEST_F(shell, arrow_keys_follow_the_grid_and_stop_at_its_edge) {
-    constexpr int nowhere = 0;
-    const struct {
-        int on, from;
-        char key;
-        int to;
-    } rows[]{{0, 1, keys::right, 2}, {0, 3, keys::right, nowhere}, {0, 1, keys::down, 4},  {0, 10, keys::down, nowhere},
-             {0, 5, keys::up, 2},    {0, 4, keys::left, nowhere},  {0, 7, keys::home, 1},  {0, 7, keys::end, 12},
-             {1, 3, keys::down, 8},  {1, 8, keys::down, 13},       {1, 13, keys::left, 12}};
-    for (const auto& [on, from, key, to] : rows) {
-        const course& of = courses[on];
-        const auto entry = [&](int i) {
-            return i == nowhere ? nullptr : of.entries.at(static_cast<std::size_t>(i - 1));
-        };
-        of.from.focus = nullptr;
-        EXPECT_TRUE(of.from.key(key, entry(from)));
-        EXPECT_EQ(of.from.focus, entry(to)) << of.from.name() << " from " << from;
+    control* at = &cl.boekje[1];
+    const std::pair<char, int> steps[]{{keys::right, 2}, {keys::right, 3}, {keys::right, 3},
+                                       {keys::down, 6},  {keys::left, 5},  {keys::up, 2},
+                                       {keys::end, 12},  {keys::down, 12}, {keys::home, 1}};
+    for (const auto& [key, to] : steps) {
+        cl.focus = at;
+        EXPECT_TRUE(cl.key(key, at));
+        at = cl.focus;
+        EXPECT_EQ(at, &cl.boekje[to]);
     }
 }
 
-TEST_F(shell, booklets_and_tasks_have_names_and_marks_of_their_own_and_reviews_share_a_mark) {
+TEST_F(shell, entries_have_names_and_marks_of_their_own_and_reviews_share_a_mark) {
     const std::pair<button*, const char*> rows[]{{&cl.boekje[8], "BOEKJE 8|Meten en meetkunde (2)"},
-                                                 {&sw.plaatje[13], "TAAK 13|De cirkel"},
                                                  {&sw.plaatje[20], "HERHALING|Taak 16 t/m 19"}};
     for (const auto& [entry, words] : rows) EXPECT_EQ(entry->overline + '|' + entry->headline, words);
-    std::set<std::vector<std::string>> of_booklets, of_tasks, of_reviews;
-    for (button& entry : cl.boekje) of_booklets.insert(as_texts(*entry.mark));
-    for (int i = 1; i <= 20; ++i) (i % 5 == 0 ? of_reviews : of_tasks).insert(as_texts(*sw.plaatje[i].mark));
-    EXPECT_EQ(std::tuple(of_booklets.size(), of_tasks.size(), of_reviews.size()), std::tuple(12U, 16U, 1U));
-    EXPECT_FALSE(of_tasks.contains(*of_reviews.begin()));
-    EXPECT_FALSE(of_booklets.contains({}) || of_tasks.contains({}) || of_reviews.contains({}));
+    for (const course& each : courses) {
+        std::set<std::vector<std::string>> marks{{}}; // none at all is not one of theirs
+        for (const button* entry : each.entries) marks.insert(as_texts(*entry->mark));
+        EXPECT_EQ(marks.size(), each.entries.size() == 12 ? 1 + 12U : 1 + 16 + 1) << each.set;
+    }
 }
 
 } // namespace
