@@ -36,11 +36,9 @@ print(len(rows), len({r.get("generator") for r in rows}), {len(r.get("uitlegrege
     EXPECT_EQ(dump("--count 3" + read_back), "534 178 {7}\n");
     EXPECT_EQ(dump("--catalogue" + read_back), "32 1 {0}\n");
     EXPECT_EQ(dump("--list | sort -u | wc -l"), "178\n");
-    const std::string all = dump("--catalogue");
-    for (const char* part :
-         {R"({"key":"boekje01","heading":"BOEKJE 1 - PROCENTEN","entries":[["alcohol","B_alcohol_01_08_Click"],)",
-          R"({"key":"taak05","heading":"HERHALING TAAK 1 t/m 4","groups":[{"A":[["na elkaar",)", R"("search":[[)"})
-        EXPECT_NE(all.find(part), std::string::npos) << part;
+    EXPECT_NE(
+        dump("--catalogue").find(R"({"key":"taak05","heading":"HERHALING TAAK 1 t/m 4","groups":[{"A":[["na elkaar",)"),
+        std::string::npos);
 }
 
 TEST(exercise_dump, repeats_itself_exactly_whichever_others_are_named_and_changes_with_the_seed) {
@@ -48,15 +46,12 @@ TEST(exercise_dump, repeats_itself_exactly_whichever_others_are_named_and_change
     const std::string once = dump(hele + "--count 20");
     EXPECT_EQ(once, dump("--seed 1 --count 20 " + hele));
     EXPECT_NE(once, dump(hele + "--count 20 --seed 2"));
-    EXPECT_NE(once.find(R"("variant":2,)"), std::string::npos);
-    EXPECT_EQ(once.find(R"("variant":3,)"), std::string::npos);
     EXPECT_TRUE(dump(hele + rente).ends_with(dump(rente)));
 }
 
 TEST(exercise_dump, writes_the_pictures_of_the_questions) {
     const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "svg" / "new";
     EXPECT_EQ(dump("--count 2 --generator M_rente_01_08_click --svg '" + folder.string() + "'"), "");
-    EXPECT_FALSE(std::filesystem::exists(folder / "M_rente_01_08_click_3.svg"));
     const std::string svg = content(folder / "M_rente_01_08_click_2.svg");
     EXPECT_TRUE(svg.starts_with("<svg ") && svg.ends_with("</svg>\n")) << svg;
     std::filesystem::remove_all(folder);
