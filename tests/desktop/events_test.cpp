@@ -187,6 +187,8 @@ TEST_F(events, a_form_covers_another_or_stands_beside_it_and_scales_with_it) {
     }
     main.window()->resize(1664, 2000); // too tall: the form stands in the middle
     EXPECT_NEAR(widget("grond").y(), (2000 - 1040) / 2 + 100 / 15.0 * 2, 1);
+    outside.run([this] { screen.grond.role = theme_role::heading_bar, screen.grond.top = 0; });
+    EXPECT_EQ(widget("grond").y(), 0) << "a bar stays at the top";
 }
 
 TEST_F(events, an_exception_ends_the_program_with_a_message_and_status_1) {

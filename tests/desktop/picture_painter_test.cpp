@@ -4,11 +4,13 @@
 #include "desktop/report_printer.h"
 #include "desktop/shipped.h"
 
+#include <QBitmap>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -49,12 +51,9 @@ TEST(picture_text, is_painted_as_wide_at_every_scale_as_it_is_laid_out) {
     shown.text_size = 12;
     shown.print_at(300, 500, "HHHHHHHHHHHHHHHH");
     for (const double scale : {1.0, 1.3, 2.0, 3.0}) {
-        const QImage image = painted(shown, scale);
-        int first = image.width(), last = 0;
-        for (int x = 0; x < image.width(); ++x)
-            for (int y = 0; y < image.height(); ++y)
-                if (qGray(image.pixel(x, y)) < 160) first = std::min(first, x), last = x;
-        EXPECT_NEAR((last - first) / scale * 15, text_width("HHHHHHHHHHHHHHHH", 12), 70) << "at scale " << scale;
+        const QImage ink = painted(shown, scale).createMaskFromColor(0xFFFFFFFF, Qt::MaskInColor);
+        const int width = QRegion(QBitmap::fromImage(ink)).boundingRect().width();
+        EXPECT_NEAR(width / scale * 15, text_width("HHHHHHHHHHHHHHHH", 12), 70) << "at scale " << scale;
     }
 }
 
@@ -140,13 +139,12 @@ TEST(report, is_printed_on_one_page_with_its_columns_in_line) {
     ASSERT_TRUE(reader.waitForFinished()) << "pdftotext is not installed";
     const QString text = QString::fromUtf8(reader.readAllStandardOutput());
     EXPECT_EQ(text.count('\f'), 1) << "pages";
-    const QStringList lines = text.split('\n', Qt::SkipEmptyParts);
-    ASSERT_GE(lines.size(), 51);
-    EXPECT_EQ(lines[0].trimmed(), "Uitslag van de opgaven");
-    for (int i = 1; i <= 50; ++i) {
-        EXPECT_EQ(lines[i].simplified(), QString::fromUtf8("oefening %1 goed één keer").arg(i - 1));
-        EXPECT_NEAR(static_cast<double>(lines[i].indexOf("goed")), static_cast<double>(lines[1].indexOf("goed")), 1);
-    }
+    QStringList lines = text.split('\n', Qt::SkipEmptyParts);
+    EXPECT_EQ(lines.takeFirst().trimmed(), "Uitslag van de opgaven");
+    lines = lines.filter(QRegularExpression(QString::fromUtf8("^ *oefening \\d+ +goed +één keer$")));
+    EXPECT_EQ(lines.size(), 50);
+    for (const QString& line : lines)
+        EXPECT_NEAR(static_cast<double>(line.indexOf("goed")), static_cast<double>(lines[0].indexOf("goed")), 1);
 }
 
 TEST(desktop_settings, are_taken_from_what_the_desktop_says_in_one_way_or_another) {

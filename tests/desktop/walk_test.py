@@ -1,5 +1,5 @@
-"""The program as a screen reader meets it, from the start to the question whether to stop: on a display and a session
-bus of its own, walked by keys and by the reader's actions. Fails where there is no bus. usage: PROGRAM"""
+"""The program as pupils meet it, from the start to the question whether to stop: on a display and a session bus of its
+own, walked by keys, with the mouse and by a screen reader's actions. Fails where there is no bus. usage: PROGRAM"""
 import atexit
 import os
 import subprocess
@@ -7,16 +7,18 @@ import sys
 import time
 
 
-def start(*command, told=True):
-    """A process that ends with this one, and the first line that it writes."""
-    process = subprocess.Popen(command, stdout=subprocess.PIPE if told else None, text=True)
+def start(*command):
+    """A process that ends with this one."""
+    process = subprocess.Popen(command, stdout=subprocess.PIPE, text=True)
     atexit.register(process.kill)
-    return process, process.stdout.readline().strip() if told else ""
+    return process
 
 
 # The display first: whatever the bus starts is to find it.
-os.environ["DISPLAY"] = ":" + start("Xvfb", "-displayfd", "1", "-screen", "0", "1366x768x24", "-noreset")[1]
-os.environ["DBUS_SESSION_BUS_ADDRESS"] = start("dbus-daemon", "--session", "--nofork", "--print-address")[1]
+display = start("Xvfb", "-displayfd", "1", "-screen", "0", "1366x768x24", "-noreset")
+os.environ["DISPLAY"] = ":" + display.stdout.readline().strip()
+bus = start("dbus-daemon", "--session", "--nofork", "--print-address")
+os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
 os.environ |= {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "QT_QPA_PLATFORM": "xcb"}
 
 import gi  # noqa: E402
@@ -24,7 +26,6 @@ import gi  # noqa: E402
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-HEARD = (Atspi.Role.HEADING, Atspi.Role.LABEL, Atspi.Role.PUSH_BUTTON, Atspi.Role.LIST, Atspi.Role.LIST_ITEM)
 PATIENCE = 15  # seconds for whatever is waited for
 Relation, Role, State = Atspi.RelationType, Atspi.Role, Atspi.StateType
 announced = []  # the names of notifications that began to show
@@ -50,7 +51,13 @@ def wait_for(what, look):
         except GLib.Error:
             pass  # the tree changed while it was read
         time.sleep(0.02)
-    sys.exit(f"no {what}; announced: {announced}; the tree:\n" + "\n".join(tree()))
+    check(False, f"no {what}")
+
+
+def check(holds, what):
+    if not holds:
+        seen = [f"{o.get_role_name()} '{o.get_name()}' {o.get_description()}" for o in everything(application())]
+        sys.exit("\n".join([what, f"announced: {announced}", *seen]))
 
 
 def children(of):
@@ -69,10 +76,6 @@ def application():
     return next((each for each in children(Atspi.get_desktop(0)) if each.get_process_id() == program.pid), None)
 
 
-def tree():
-    return [f"{o.get_role_name()} '{o.get_name()}' {o.get_description()}" for o in everything(application())]
-
-
 def shown(role, name="", having=State.SHOWING):
     """Objects of this role whose names begin like this, that have this state."""
     return [o for o in everything(application())
@@ -87,13 +90,20 @@ def act(role, name=""):
     one(role, name, State.ENABLED).do_action(0)
 
 
-def key(name):
-    subprocess.run(["xdotool", "key", name], check=True)
+def keys(*names):
+    subprocess.run(["xdotool", "key", *names], check=True)
 
 
-def check(holds, what):
-    if not holds:
-        sys.exit(f"{what}; the tree:\n" + "\n".join(tree()))
+def click(role, name=""):
+    at = one(role, name).get_extents(Atspi.CoordType.SCREEN)
+    subprocess.run(f"xdotool mousemove {at.x + at.width // 2} {at.y + at.height // 2} click 1".split(), check=True)
+
+
+def hear(deed):
+    """What is announced when this is done."""
+    before = len(announced)
+    deed()
+    return wait_for("announcement", lambda: announced[before:])[-1]
 
 
 def related(to, relation):
@@ -104,62 +114,70 @@ if Atspi.init() not in (0, 1) or Atspi.get_desktop(0) is None:
     sys.exit("no accessibility bus")
 listener = Atspi.EventListener.new(on_event)
 listener.register("object:state-changed:showing")
-program, _ = start(sys.argv[1], told=False)
+program = start(sys.argv[1])
 wait_for("program on the bus", application)
 
-# The start: a window with two options, one of which is chosen.
-one(Role.FRAME, "", State.ACTIVE)
-act(Role.RADIO_BUTTON, "TELMORA")
-one(Role.RADIO_BUTTON, "TELMORA", State.CHECKED)
+# By keys: past the choice of a set and the credits to the first booklet.
+wait_for("choice by its digit", lambda: keys("1") or shown(Role.RADIO_BUTTON, "TELMORA", State.CHECKED))
 check(len(shown(Role.RADIO_BUTTON)) == 2 and len(shown(Role.RADIO_BUTTON, "", State.CHECKED)) == 1, "one chosen of two")
-act(Role.PUSH_BUTTON, "verder")
-act(Role.PUSH_BUTTON, "verder")  # of the credits
-act(Role.PUSH_BUTTON, "BOEKJE 5")
-
-# An exercise: whoever comes upon an answer hears the question and what the picture shows.
+keys("Return", "Return", "Return")
+one(Role.FRAME, "TELMORA's CIJFERLOOP")
 one(Role.LIST, "", State.FOCUSED)
+keys("End", "Up")
+check(not shown(Role.IMAGE), "arrow keys only move")
+
+# Exercises: whoever comes upon an answer hears the question and what the picture shows.
 verdicts = set()
 for attempt in range(12):
     if len(verdicts) == 2:
         break
-    key("Home")
-    key("Return")
+    keys("Home", "Return")
     answer = one(Role.PUSH_BUTTON, "A: ", State.FOCUSED)
     picture = one(Role.IMAGE).get_description()
-    labels = [o.get_name() for o in shown(Role.LABEL)]
+    labels = [o.get_name().strip() for o in shown(Role.LABEL)]
     check(picture and picture in answer.get_description(), "the picture is read with the answer")
-    check(sum(label.strip() in answer.get_description() for label in labels) >= 3, "the question is read with it")
-    check(all(o.get_name().strip() for o in everything(application()) if o.get_role() in HEARD), "a nameless control")
+    check(sum(label in answer.get_description() for label in labels) >= 3, "the question is read with it")
+    check(all(o.get_name().strip() for o in everything(application())), "a nameless control")
     texts = [o.get_name()[3:] for letter in "ABCD" for o in shown(Role.PUSH_BUTTON, letter + ": ")]
-    check(len(texts) == 4 and not set(texts) & {label.strip() for label in labels}, "an answer shows twice")
-    for letter in "ABCD":
-        before = len(announced)
-        act(Role.PUSH_BUTTON, letter + ": ")
-        wait_for("announcement of the verdict", lambda: len(announced) > before)
-        said = announced[-1]
+    check(len(texts) == 4 and not set(texts) & set(labels), "an answer shows twice")
+    right = False
+    while not right:
+        tried = one(Role.PUSH_BUTTON, "", State.FOCUSED)
+        said = hear(lambda: keys("space"))
         check(any(said.startswith(o.get_name()) for o in shown(Role.LABEL)), f"'{said}' is no verdict on the screen")
         right = bool(shown(Role.PUSH_BUTTON, "uitleg"))
         verdicts.add(right)
-        tried = one(Role.PUSH_BUTTON, letter + ": ").get_name()
-        check(tried.endswith(", goed" if right else ", fout"), f"'{tried}' does not say what became of it")
-        if right:
-            break
-    before = len(announced)
-    act(Role.PUSH_BUTTON, "uitleg")
-    wait_for("announcement of the explanation", lambda: len(announced) > before)
+        check(tried.get_name().endswith(", goed" if right else ", fout"), "the answer does not say what became of it")
+    hear(lambda: keys("Return"))  # on the explanation
     one(Role.LIST, "", State.FOCUSED)
 check(len(verdicts) == 2, "a right answer and a wrong one")
 check(", " in one(Role.LIST_ITEM).get_name(), "the title says what became of it")
 
-# The score sheet: each value belongs to its caption.
+# The score sheet, by the reader's actions: each value belongs to its caption.
 act(Role.PUSH_BUTTON, "score")
 sheet = one(Role.DIALOG)
 values = wait_for("values", lambda: [o for o in everything(sheet) if related(o, Relation.LABELLED_BY)])
 check(len(values) == 4 and all(o.get_name().strip().isdigit() for o in values), "four values with captions")
 check("eerste poging goed" in str([related(o, Relation.LABELLED_BY) for o in values]), "the first attempts")
 check(len([o for o in everything(sheet) if related(o, Relation.LABEL_FOR)]) == 4, "four captions of values")
-act(Role.PUSH_BUTTON, "sluiten")
+keys("Escape")
 wait_for("end of the score sheet", lambda: not shown(Role.DIALOG))
+
+# With the mouse: back to the start and to a task of the other set, past a click on the words of the credits.
+act(Role.PUSH_BUTTON, "terug")
+one(Role.PUSH_BUTTON, "BOEKJE 1")
+click(Role.PUSH_BUTTON, "terug")
+click(Role.RADIO_BUTTON, "SOMMENWERF")
+click(Role.PUSH_BUTTON, "verder")
+click(Role.LABEL, "Twintig taken in twee delen")
+click(Role.PUSH_BUTTON, "HERHALING TAAK 6")
+one(Role.HEADING, "HERHALING TAAK 6")
+click(Role.LIST_ITEM)
+for letter in "ABCD":
+    if not shown(Role.PUSH_BUTTON, "uitleg"):
+        hear(lambda: click(Role.PUSH_BUTTON, letter + ": "))
+hear(lambda: click(Role.PUSH_BUTTON, "uitleg"))
+one(Role.LIST, "", State.ENABLED)
 
 # The question whether to stop, where No is where the keyboard is.
 act(Role.PUSH_BUTTON, "stoppen")
