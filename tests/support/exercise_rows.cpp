@@ -6,14 +6,6 @@ namespace {
 
 constexpr int least = 840, most = 30'000;
 
-std::string as_text(const outcome& value) {
-    if (const auto* number = std::get_if<double>(&value)) return testing::PrintToString(*number);
-    if (const auto* text = std::get_if<std::string>(&value)) return *text;
-    if (const auto* told = std::get_if<told_numbers>(&value))
-        return told->pattern + " with " + testing::PrintToString(told->numbers);
-    return "elsewhere";
-}
-
 // The option is the answer, or what stands behind its word in the picture.
 bool fits(const outcome& wanted, const std::string& answer, const std::string& option, const std::string& right) {
     if (const auto* text = std::get_if<std::string>(&wanted)) return answer == *text || option == *text;
@@ -68,7 +60,7 @@ public:
         now.place = e.right_place();
         const outcome right = row_.right(now);
         if (!std::holds_alternative<lies>(right)) {
-            EXPECT_TRUE(fits(right, e.right, options[right_place], "")) << "right is " << as_text(right);
+            EXPECT_TRUE(fits(right, e.right, options[right_place], "")) << "right is " << testing::PrintToString(right);
         }
         for (int i = 1; i <= 4; ++i)
             if (i != e.right_place() && !row_.wrong.empty())
@@ -154,7 +146,7 @@ private:
             ASSERT_EQ(found->numbers.size(), numbers.size()) << pattern;
             for (std::size_t i = 0; i < numbers.size(); ++i)
                 EXPECT_TRUE(same(found->numbers[i], numbers[i].in(now)))
-                    << pattern << ": number " << i << " is " << as_text(numbers[i](now));
+                    << pattern << ": number " << i << " is " << numbers[i].in(now);
         }
     }
     void look_at_tips(const seen& e) {

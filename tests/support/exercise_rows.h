@@ -94,10 +94,14 @@ private:
     std::function<outcome(const reading&)> get_;
 };
 
-// A function of numbers, of what formulas make.
+// A function of numbers, of what formulas make, or without them as a function of formulas.
 template<class Function, class... Formulas>
 formula lifted(Function function, const Formulas&... values) {
     return [=](const reading& of) { return function(formula(values).in(of)...); };
+}
+template<class Function>
+auto lifted(Function function) {
+    return [=](const auto&... values) { return lifted(function, values...); };
 }
 inline bool same(double a, double b) { return std::abs(a - b) <= 1e-9 * std::max({1.0, std::abs(a), std::abs(b)}); }
 inline formula operator+(const formula& a, const formula& b) { return lifted(std::plus<>(), a, b); }
@@ -124,27 +128,13 @@ double rounded(double value, int decimals = 0);
 inline formula rounded(const formula& a, int decimals = 0) {
     return lifted([=](double x) { return rounded(x, decimals); }, a);
 }
-inline formula floor(const formula& a) {
-    return lifted([](double x) { return std::floor(x + 1e-9); }, a);
-}
-inline formula abs(const formula& a) {
-    return lifted([](double x) { return std::abs(x); }, a);
-}
+inline const auto floor = lifted([](double x) { return std::floor(x + 1e-9); });
+inline const auto abs = lifted([](double x) { return std::abs(x); });
+inline const auto power = lifted([](double base, double exponent) { return std::round(std::pow(base, exponent)); });
 // The largest whole number by which both can be divided.
-inline formula divisor(const formula& a, const formula& b) {
-    return lifted([](double x, double y) { return std::gcd(std::lround(x), std::lround(y)); }, a, b);
-}
-inline formula power(const formula& base, const formula& exponent) {
-    return lifted([](double b, double e) { return std::round(std::pow(b, e)); }, base, exponent);
-}
-template<class... Formulas>
-formula smallest(const Formulas&... values) {
-    return lifted([](auto... each) { return std::min({each...}); }, values...);
-}
-template<class... Formulas>
-formula largest(const Formulas&... values) {
-    return lifted([](auto... each) { return std::max({each...}); }, values...);
-}
+inline const auto divisor = lifted([](double a, double b) { return std::gcd(std::lround(a), std::lround(b)); });
+inline const auto smallest = lifted([](auto... each) { return std::min({each...}); });
+inline const auto largest = lifted([](auto... each) { return std::max({each...}); });
 // The one of which the number is that, counted from 0; the one of the sub-variant.
 inline formula chosen(const formula& which, std::vector<formula> from) {
     return [=](const reading& of) { return from.at(static_cast<std::size_t>(which.in(of)))(of); };
@@ -280,10 +270,7 @@ void row(oefening_id id, int variants, std::string reads, const Parts&... parts)
 
 // Adds its rows before the program starts.
 struct exercise_rows {
-    template<class Function>
-    explicit exercise_rows(Function add) {
-        add();
-    }
+    explicit exercise_rows(void (*add)()) { add(); }
 };
 
 } // namespace cijferwerf
