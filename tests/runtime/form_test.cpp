@@ -20,19 +20,6 @@ struct form_events : testing::Test {
     }
 };
 
-TEST_F(form_events, is_loaded_again_only_after_it_was_unloaded_and_activated_only_when_opened) {
-    screen.open();
-    screen.show();
-    EXPECT_EQ(screen.happened(), "laden openen ");
-    screen.unload();
-    screen.unload();
-    EXPECT_EQ(outside.unloaded.size(), 1U);
-    EXPECT_FALSE(screen.loaded());
-    screen.show();
-    EXPECT_EQ(screen.happened(), "laden ");
-    EXPECT_EQ(outside.shown.size(), 4U);
-}
-
 // What a key does depends on what has the focus.
 TEST_F(form_events, gives_a_key_to_the_list_the_button_that_keeps_it_or_the_control_that_lists_it) {
     screen.knop.keys = "A1";
@@ -81,29 +68,38 @@ TEST_F(form_events, takes_arrows_to_the_nearest_button_there_or_among_options_an
                                                      {nullptr, 1, &screen.knop},
                                                      {nullptr, -1, &screen.rechts}};
     for (const auto& [from, step, to] : tabs) EXPECT_EQ(screen.tab(from, step), to);
+
+    // What can no longer have the focus gives it to the next of its array.
+    for (control* each : std::initializer_list<control*>{&screen.klik, &screen.knop, &screen.uitgang})
+        each->name = "array";
+    screen.focus = nullptr;
+    EXPECT_EQ(screen.next_focus(&screen.knop), nullptr);
+    screen.knop.enabled = false;
+    EXPECT_EQ(screen.next_focus(&screen.knop), &screen.klik);
+    screen.uitgang.enabled = true;
+    EXPECT_EQ(screen.next_focus(&screen.knop), &screen.uitgang);
     control_array<label, 1, 4> labels;
     for (const int missing : {0, 5}) EXPECT_THROW(labels[missing], checked_error);
 }
 
 TEST_F(form_events, has_timers_that_tick_until_stopped_or_unloaded_and_start_over_when_started_again) {
     start_and_stop_by_click();
-    const struct {
-        std::function<void()> act;
-        int milliseconds;
-        const char* ticked;
-    } rows[]{{[] {}, 3000, ""},
-             {[&] { outside.click(screen.knop); }, 950, ""},
-             {[] {}, 50, "tik "},
-             {[] {}, 2900, "tik tik "},
-             {[&] { outside.click(screen.knop); }, 950, ""},
-             {[] {}, 50, "tik "},
-             {[&] { outside.click(screen.uitgang); }, 3000, ""},
-             {[&] { outside.click(screen.knop), screen.unload(); }, 3000, ""}};
-    for (const auto& [act, milliseconds, ticked] : rows) {
-        act();
-        outside.wait(milliseconds);
-        EXPECT_EQ(screen.happened(), ticked) << milliseconds;
+    const std::function<void()> ends[]{[this] { outside.click(screen.uitgang); }, [this] { screen.unload(); }};
+    for (const auto& end : ends) {
+        outside.wait(3000);
+        EXPECT_EQ(screen.happened(), "");
+        outside.click(screen.knop);
+        outside.wait(2900);
+        EXPECT_EQ(screen.happened(), "tik tik ");
+        outside.click(screen.knop);
+        outside.wait(950);
+        EXPECT_EQ(screen.happened(), "");
+        outside.wait(50);
+        EXPECT_EQ(screen.happened(), "tik ");
+        end();
     }
+    outside.wait(3000);
+    EXPECT_EQ(screen.happened(), "");
 }
 
 TEST_F(form_events, lets_one_tick_at_most_wait_for_message_boxes_and_nothing_else_through) {
