@@ -133,6 +133,7 @@ struct matcher {
                     return false;
                 --t;
                 break;
+            case '\\': ++p; [[fallthrough]];
             default:
                 if (t >= text.size() || text[t] != pattern[p]) return false;
             }

@@ -24,6 +24,7 @@ struct found_in_text {
 //     *          is some text or none, as short as possible
 //     $0         is the number that was found as number 0, once more (0 to 9)
 //     $a         is the text that was found as word 0, once more (a to z)
+//     \#         is "#" itself
 //
 // and everything else stands for itself; nothing where no place does. A bracket that is never closed ends the test.
 std::optional<found_in_text> find_pattern(std::string_view text, std::string_view pattern);
