@@ -15,7 +15,7 @@ std::vector<std::string> texts_in(const std::string& code) {
     for (std::size_t at = 0; at < code.size(); ++at) {
         const auto skip_to = [&](std::string_view end) { at = std::min(code.find(end, at + 1), code.size()); };
         const std::string_view rest = std::string_view(code).substr(at);
-        if (rest.starts_with("//") || rest.starts_with("#include")) skip_to("\n");
+        if (rest.starts_with("//") || rest.starts_with("#")) skip_to("\n");
         if (rest.starts_with("stop_run(")) skip_to(";");
         if (rest.starts_with("'\"'")) skip_to("'");
         if (rest[0] != '"') continue;
