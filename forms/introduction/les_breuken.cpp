@@ -8,20 +8,7 @@ namespace cijferwerf {
 
 namespace {
 
-// A bar in equal pieces of which the first ones are coloured.
-void teken_strook(drawing& on, const vlak& waar, breuk b) {
-    teken_vak(on, waar, wit, donker, 3);
-    on.filled_box(waar.links, waar.boven, waar.breedte * b.teller / b.noemer, waar.hoogte, half);
-    const zelfde_stand bewaard(on, 2);
-    for (int i = 1; i < b.noemer; ++i) {
-        const int x = waar.links + waar.breedte * i / b.noemer;
-        on.line(x, waar.boven, x, waar.onder(), donker);
-    }
-    on.line_width = 3;
-    on.box(waar.links, waar.boven, waar.breedte, waar.hoogte, donker);
-}
-
-// A pizza cut the same way, clockwise from twelve o'clock.
+// A pizza in equal pieces of which the first ones are coloured, clockwise from twelve o'clock.
 void teken_pizza(drawing& on, point midden, int straal, breuk b) {
     const zelfde_stand bewaard(on, 3);
     const double stuk = 360.0 / b.noemer;
@@ -51,7 +38,7 @@ protected:
         std::string komma;
         if (deel_.teller * 1'000 % deel_.noemer == 0) {
             komma = regel("= ", kaal(komma_kort(deel_.teller * 1'000 / deel_.noemer, 3)));
-            schrijf(blad, {26, inkt}, {end + 250, 1500 - halve_regel(26)}, komma);
+            schrijf_naast(blad, {26, inkt}, {end + 250, 1500}, komma);
         }
 
         // The simplest form, where it is another one, and larger ones.
@@ -60,7 +47,7 @@ protected:
         const breuk even[]{simpler ? kort : deel_.maal(2), simpler ? deel_.maal(2) : deel_.maal(3)};
         schrijf(blad, {14, inkt}, {60, 2300}, "Deze breuken zijn evenveel:");
         for (int y = 2830; const breuk b : even) {
-            schrijf(blad, {20, donker}, {60, y + 250 - halve_regel(20)}, streepbreuk(b));
+            schrijf_naast(blad, {20, donker}, {60, y + 250}, streepbreuk(b));
             teken_strook(blad, {1320, y, 4000, 500}, b);
             y += 720;
         }
@@ -127,7 +114,7 @@ protected:
             teken_delen(y, samen.noemer, {{gelijk(van).teller, vulling}}, van.noemer);
             const int midden = y + hoog / 2;
             int x = schrijf_breuk(blad, {16, donker}, {3660, midden}, van);
-            x = schrijf(blad, {16, inkt}, {x + 130, midden - halve_regel(16)}, "=");
+            x = schrijf_naast(blad, {16, inkt}, {x + 130, midden}, "=");
             schrijf_breuk(blad, {16, donker}, {x + 130, midden}, gelijk(van));
         }
         schrijf(blad, {14, inkt}, {60, 2240}, "samen");
@@ -136,7 +123,7 @@ protected:
         int x = 60;
         for (const auto& [deel, teken] : {std::pair{gelijk(a), "+"}, {gelijk(b), "="}, {samen, ""}}) {
             x = schrijf_breuk(blad, {22, donker}, {x, 3760}, deel) + 150;
-            x = schrijf(blad, {22, inkt}, {x, 3760 - halve_regel(22)}, teken) + 150;
+            x = schrijf_naast(blad, {22, inkt}, {x, 3760}, teken) + 150;
         }
         return regel(streepbreuk(a), " + ", streepbreuk(b), " = ", streepbreuk(gelijk(a)), " + ",
                      streepbreuk(gelijk(b)), " = ", streepbreuk(samen), ".");

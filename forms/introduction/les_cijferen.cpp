@@ -107,18 +107,18 @@ protected:
         const std::string som = regel(kaal(som_.boven), " ", teken_, " ", kaal(som_.onder));
         if (stap_ == 0) {
             const std::string begin = "Begin rechts, bij de eenheden.";
-            schrijf_midden(blad, {15, inkt}, {drawing::inner_width / 2, 3640}, begin);
+            schrijf_midden(blad, {15, inkt}, {blad_midden, 3640}, begin);
             return regel(som, ". ", begin);
         }
         std::string zin = regel("Stap ", kaal(stap_), ":");
         for (int y = 3050; const std::string& regeltje : alle[static_cast<std::size_t>(stap_ - 1)].uitleg) {
-            schrijf_midden(blad, {15, inkt}, {drawing::inner_width / 2, y}, regeltje);
+            schrijf_midden(blad, {15, inkt}, {blad_midden, y}, regeltje);
             zin += ' ' + regeltje + (regeltje.ends_with('.') ? "" : ".");
             y += 310;
         }
         if (stap_ == kolommen) {
             const std::string antwoord = regel(som, " = ", uitkomst);
-            schrijf_midden(blad, {18, donker}, {drawing::inner_width / 2, 4020}, antwoord);
+            schrijf_midden(blad, {18, donker}, {blad_midden, 4020}, antwoord);
             zin += ' ' + antwoord + '.';
         }
         return zin;

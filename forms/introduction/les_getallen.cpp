@@ -19,13 +19,16 @@ protected:
     // From left to right; the digits, of which there are as many, are those to begin with.
     // Behind the first there is room for a comma, where one is meant.
     cijfers_op_hun_plaats(const std::vector<plaats>& plaatsen, std::vector<int> begin, bool komma)
-        : voorbeeld(411),
+        : voorbeeld(zonder_iets_onder),
           plaatsen_(plaatsen),
           cijfers_(std::move(begin)),
           komma_(komma) {
         for (std::size_t i = 0; i < plaatsen_.size(); ++i) {
-            hoger_.push_back(&draai(i, 40, button::sign::plus, " hoger", 1));
-            lager_.push_back(&draai(i, 1610, button::sign::minus, " lager", -1));
+            const auto boven_of_onder = [&](int y) {
+                const place at = op_blad({kolom(i).midden().x, y, 0, 0});
+                return point{at.left - stap_zijde / 2, at.top};
+            };
+            stappen(boven_of_onder(40), boven_of_onder(1610), plaatsen_[i].naam, cijfers_[i], 0, 9);
         }
     }
 
@@ -44,9 +47,6 @@ protected:
             blad.box(at.links, at.boven, at.breedte, 300, donker);
             schrijf_midden(blad, {14, inkt}, {at.midden().x, at.boven + 150}, plaatsen_[i].letter);
             schrijf_midden(blad, {30, donker}, {at.midden().x, at.boven + 600}, kaal(cijfers_[i]));
-            hoger_[i]->enabled = cijfers_[i] < 9;
-            lager_[i]->enabled = cijfers_[i] > 0;
-            hoger_[i]->description = lager_[i]->description = kaal(cijfers_[i]);
         }
     }
     vlak kolom(std::size_t i) const {
@@ -68,21 +68,9 @@ protected:
     }
 
 private:
-    button& draai(std::size_t i, int boven, button::sign teken, const char* richting, int verschil) {
-        constexpr int zijde = 570;
-        const place at = op_blad({kolom(i).midden().x, boven, 0, 0});
-        button& made = knop("cijfer " + plaatsen_[i].naam, {at.left - zijde / 2, at.top, zijde, zijde},
-                            theme_role::stepper, plaatsen_[i].naam + richting,
-                            [this, i, verschil] { cijfers_[i] = std::clamp(cijfers_[i] + verschil, 0, 9); });
-        made.face = teken;
-        made.index = verschil > 0 ? 1 : 2;
-        return made;
-    }
-
     const std::vector<plaats> plaatsen_;
     std::vector<int> cijfers_;
     const bool komma_;
-    std::vector<button*> hoger_, lager_;
 };
 
 // A whole number: in digits, in words, and between 0 and 100.000.
@@ -100,9 +88,9 @@ protected:
     std::string toon() override {
         teken_kolommen();
         const int getal = samen();
-        schrijf_midden(blad, {26, donker}, {drawing::inner_width / 2, 2500}, kaal(duizend(getal)));
+        schrijf_midden(blad, {26, donker}, {blad_midden, 2500}, kaal(duizend(getal)));
         for (int y = 2940; const std::string& groep : telwoord_in_groepen(getal)) {
-            schrijf_midden(blad, {13, inkt}, {drawing::inner_width / 2, y}, groep);
+            schrijf_midden(blad, {13, inkt}, {blad_midden, y}, groep);
             y += 290;
         }
         teken_plek(getal, 100'000, "100.000");
@@ -124,13 +112,13 @@ protected:
         schrijf_midden(blad, {40, donker}, {een.rechts() + 150, een.boven + 600}, ",");
         const int getal = samen();
         const std::string kort(kaal(komma_kort(getal, 3)));
-        schrijf_midden(blad, {26, donker}, {drawing::inner_width / 2, 2500}, kort);
+        schrijf_midden(blad, {26, donker}, {blad_midden, 2500}, kort);
         std::string som;
         for (int per = 1'000; per > 0; per /= 10)
             if (const int waard = getal / per % 10 * per; waard > 0)
                 som += regel(som.empty() ? "" : " + ", kaal(komma_kort(waard, 3)));
         if (som != kort && !som.empty()) som = kort + " = " + som;
-        schrijf_midden(blad, {15, inkt}, {drawing::inner_width / 2, 3050}, som);
+        schrijf_midden(blad, {15, inkt}, {blad_midden, 3050}, som);
         teken_plek(getal, 10'000, "10");
         return som.empty() ? "Het getal is 0." : regel("Het getal is ", som, ".");
     }

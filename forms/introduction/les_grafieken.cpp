@@ -150,9 +150,9 @@ protected:
             const int aantal = leerlingen_ / noemer;
             delen.push_back({aantal, vulling, regel(kaal(aantal))});
             teken_vak(blad, {2940, y - 130, 260, 260}, vulling, donker);
-            schrijf(blad, {15, inkt}, {3290, y - halve_regel(15)}, naam);
+            schrijf_naast(blad, {15, inkt}, {3290, y}, naam);
             const std::string som = regel("1/", kaal(noemer), " van ", kaal(leerlingen_), " = ", kaal(aantal));
-            schrijf(blad, {15, donker}, {3290, y + 330 - halve_regel(15)}, som);
+            schrijf_naast(blad, {15, donker}, {3290, y + 330}, som);
             zin += regel(zin.empty() ? "" : ", ", naam, " ", som);
             y += 820;
         }

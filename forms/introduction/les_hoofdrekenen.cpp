@@ -152,8 +152,8 @@ protected:
                                     ? "Druk op : 10 of op x 10."
                                     : regel("De komma schuift", plaatsen, plaatsen == 1 ? " plaats" : " plaatsen",
                                             " naar ", stappen_ > 0 ? "rechts." : "links.");
-        schrijf_midden(blad, {28, donker}, {2690, 2700}, som);
-        schrijf_midden(blad, {15, inkt}, {2690, 3500}, weg);
+        schrijf_midden(blad, {28, donker}, {blad_midden, 2700}, som);
+        schrijf_midden(blad, {15, inkt}, {blad_midden, 3500}, weg);
         return som + ". " + weg;
     }
 

@@ -138,7 +138,7 @@ protected:
     std::string toon() override {
         constexpr int zijde = 420;
         const point schuin{210, -150}; // one cube further back
-        const point voor{(5380 - lengte_ * zijde - breedte_ * schuin.x) / 2,
+        const point voor{(drawing::inner_width - lengte_ * zijde - breedte_ * schuin.x) / 2,
                          (2950 - hoogte_ * zijde - breedte_ * schuin.y) / 2};
         const auto hoek = [&](int rechts, int achter, int omlaag) {
             return point{voor.x + rechts * zijde + achter * schuin.x, voor.y + omlaag * zijde + achter * schuin.y};
@@ -156,8 +156,8 @@ protected:
         const int inhoud = l * b * h;
         const std::string som = regel(kaal(l), " x", b, " x", h, " =", inhoud, " dm³");
         const std::string liter = regel(kaal(inhoud), " dm³ =", inhoud, " liter");
-        schrijf_midden(blad, {24, donker}, {2690, 3230}, som);
-        schrijf_midden(blad, {15, inkt}, {2690, 3690}, liter);
+        schrijf_midden(blad, {24, donker}, {blad_midden, 3230}, som);
+        schrijf_midden(blad, {15, inkt}, {blad_midden, 3690}, liter);
         for (int x = 860; const std::string_view naam : {"lengte", "breedte", "hoogte"}) {
             schrijf_midden(blad, {13, donker}, {x, 4080}, naam);
             x += 1830;

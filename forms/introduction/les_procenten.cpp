@@ -27,7 +27,7 @@ protected:
         schrijf(blad, {13, inkt}, {x, 790}, "dat is");
         const int end = schrijf_breuk(blad, {20, donker}, {x, 1590}, deel);
         if (deel.vereenvoudigbaar()) {
-            schrijf(blad, {18, inkt}, {end + 120, 1590 - halve_regel(18)}, "=");
+            schrijf_naast(blad, {18, inkt}, {end + 120, 1590}, "=");
             schrijf_breuk(blad, {18, inkt}, {end + 390, 1590}, deel.vereenvoudigd());
         }
         schrijf(blad, {13, inkt}, {x, 2290}, "en dat is");
@@ -88,27 +88,27 @@ private:
 };
 
 // Bars under one another: half, a quarter, a fifth, a tenth.
-std::string handige_procenten(drawing& on) {
-    std::string zin;
-    constexpr int delen[]{2, 4, 5, 10};
-    for (int i = 0; const int n : delen) {
-        const int y = 170 + i++ * 1070;
-        constexpr int links = 130, breed = 3100, hoog = 720;
-        on.filled_box(links, y, breed, hoog, wit);
-        on.filled_box(links, y, breed / n, hoog, half);
-        on.line_width = 2;
-        for (int k = 1; k < n; ++k) on.line(links + k * breed / n, y, links + k * breed / n, y + hoog, donker);
-        on.line_width = 3;
-        on.box(links, y, breed, hoog, donker);
-        const std::string procent = regel(kaal(100 / n), " %");
-        schrijf(on, {24, donker}, {3370, y + hoog / 2 - halve_regel(24)}, procent);
-        schrijf(on, {18, inkt}, {4480, y + hoog / 2 - halve_regel(18)}, "=");
-        schrijf_breuk(on, {20, inkt}, {4830, y + hoog / 2}, {1, n});
-        zin += regel(procent, " is 1/", kaal(n), ". ");
+class handige_procenten : public voorbeeld {
+public:
+    handige_procenten() : voorbeeld(zonder_iets_onder) {}
+
+protected:
+    std::string toon() override {
+        std::string zin;
+        for (int y = 170; const int n : {2, 4, 5, 10}) {
+            constexpr int hoog = 720;
+            const int midden = y + hoog / 2;
+            const std::string procent = regel(kaal(100 / n), " %");
+            teken_strook(blad, {130, y, 3100, hoog}, {1, n});
+            schrijf_naast(blad, {24, donker}, {3370, midden}, procent);
+            schrijf_naast(blad, {18, inkt}, {4480, midden}, "=");
+            schrijf_breuk(blad, {20, inkt}, {4830, midden}, {1, n});
+            zin += regel(zin.empty() ? "" : " ", procent, " is 1/", kaal(n), ".");
+            y += 1070;
+        }
+        return zin;
     }
-    zin.pop_back();
-    return zin;
-}
+};
 
 } // namespace
 
@@ -128,7 +128,7 @@ const lesreeks les_procenten{{
       "50 % is de helft, 25 % is een kwart, 20 % een vijfde en 10 % een tiende.",
       "Dan hoef je niet eerst 1 % te nemen."},
      {onthoud, "10 % nemen is delen door 10. 1 % nemen is delen door 100."},
-     nieuw<prent<handige_procenten>>},
+     nieuw<handige_procenten>},
 }};
 
 } // namespace cijferwerf

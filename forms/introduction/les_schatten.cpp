@@ -40,8 +40,8 @@ protected:
                                    : rest * 2 == op_ ? "Precies in het midden: rond naar boven af."
                                                      : regel("Het ligt het dichtst bij", duizend(rond), ".");
         const std::string uitkomst = regel(kaal(duizend(getal_)), is_rond ? " blijft" : " is ongeveer", duizend(rond));
-        schrijf_midden(blad, {15, inkt}, {2690, 2840}, waarom);
-        schrijf_midden(blad, {26, donker}, {2690, 3540}, uitkomst);
+        schrijf_midden(blad, {15, inkt}, {blad_midden, 2840}, waarom);
+        schrijf_midden(blad, {26, donker}, {blad_midden, 3540}, uitkomst);
         return regel("Tussen", duizend(onder), " en", duizend(boven), ". ", waarom, " ", uitkomst, ".");
     }
 
@@ -68,8 +68,9 @@ protected:
 
         const std::string nu =
             afgerond_ ? tekst(s.rond_links, s.teken, s.rond_rechts) : tekst(s.links, s.teken, s.rechts);
-        schrijf_midden(blad, {34, donker}, {2690, 500}, nu);
-        schrijf_midden(blad, {14, inkt}, {2690, 1020}, afgerond_ ? "afgerond: dit kan uit je hoofd" : "de som zelf");
+        schrijf_midden(blad, {34, donker}, {blad_midden, 500}, nu);
+        schrijf_midden(blad, {14, inkt}, {blad_midden, 1020},
+                       afgerond_ ? "afgerond: dit kan uit je hoofd" : "de som zelf");
         const int langst = std::max(precies, ongeveer);
         balk(1350, "precies", precies, langst, half);
         if (!afgerond_) {
@@ -81,7 +82,7 @@ protected:
         const std::string naast = verschil == 0 ? "De schatting is precies goed."
                                                 : regel("De schatting is ", kaal(duizend(verschil)),
                                                         ongeveer > precies ? " te veel." : " te weinig.");
-        schrijf_midden(blad, {20, donker}, {2690, 3650}, naast);
+        schrijf_midden(blad, {20, donker}, {blad_midden, 3650}, naast);
         return regel("Afgerond: ", nu, " =", duizend(ongeveer), ". Precies is het", duizend(precies), ". ", naast);
     }
 
@@ -145,8 +146,9 @@ protected:
         schrijf_rechts(blad, {18, donker}, {5260, 2620}, bedrag(samen * 100));
 
         const std::string oordeel = zeker(samen);
-        schrijf_midden(blad, {16, inkt}, {2690, 3380}, regel("Je hebt ", bedrag(euros_ * 100), ". Je schatting zegt:"));
-        schrijf_midden(blad, {18, donker}, {2690, 3820}, oordeel);
+        schrijf_midden(blad, {16, inkt}, {blad_midden, 3380},
+                       regel("Je hebt ", bedrag(euros_ * 100), ". Je schatting zegt:"));
+        schrijf_midden(blad, {18, donker}, {blad_midden, 3820}, oordeel);
         return regel("Kosten, ", zo.naam, " afgerond: ", bedrag(samen * 100), ". Precies: ", bedrag(precies),
                      ". Je hebt ", bedrag(euros_ * 100), ". ", oordeel);
     }

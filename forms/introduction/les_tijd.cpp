@@ -33,7 +33,7 @@ protected:
         teken_vak(blad, {3620, 560, 1620, 800}, inkt, donker, 3);
         schrijf_midden(blad, {30, wit}, {4430, 960}, cijfers);
         schrijf_midden(blad, {16, inkt}, {4430, 1700}, tijd.dagdeel());
-        schrijf_midden(blad, {26, donker}, {2690, 3830}, zin);
+        schrijf_midden(blad, {26, donker}, {blad_midden, 3830}, zin);
         return regel("De klok staat op ", zin, ", ", tijd.dagdeel(), ". Digitaal is dat ", cijfers, ".");
     }
 

@@ -21,7 +21,7 @@ void teken_verhoudingstabel(drawing& on, int boven, int naam_breedte, const std:
     constexpr int links = 60, rechts = 5320;
     for (int y = boven; const tabelrij& rij : rijen) {
         teken_vak(on, {links, y, naam_breedte, rijhoogte}, licht, donker);
-        schrijf(on, {14, donker}, {links + 90, y + rijhoogte / 2 - halve_regel(14)}, rij.naam);
+        schrijf_naast(on, {14, donker}, {links + 90, y + rijhoogte / 2}, rij.naam);
         const int breed = (rechts - links - naam_breedte) / static_cast<int>(rij.getallen.size());
         for (std::size_t i = 0; i < rij.getallen.size(); ++i) {
             const vlak vak{links + naam_breedte + static_cast<int>(i) * breed, y, breed, rijhoogte};
@@ -62,7 +62,7 @@ protected:
         teken_verhoudingstabel(blad, 2250, 1620, {eieren, melk}, static_cast<std::size_t>(keer_ - 1));
         const std::string sommen =
             regel(kaal(keer_), " x 2 = ", kaal(eieren_), "   en   ", kaal(keer_), " x 3 = ", kaal(bekers_));
-        schrijf_midden(blad, {20, donker}, {drawing::inner_width / 2, 3820}, sommen);
+        schrijf_midden(blad, {20, donker}, {blad_midden, 3820}, sommen);
         return regel(kaal(eieren_), " eieren en ", kaal(bekers_), " bekers melk: van allebei ", kaal(keer_),
                      " keer zoveel.");
     }

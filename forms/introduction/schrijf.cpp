@@ -1,5 +1,7 @@
 #include "forms/introduction/schrijf.h"
 
+#include "forms/introduction/voorbeeld.h"
+
 namespace cijferwerf {
 
 namespace {
@@ -18,6 +20,10 @@ int schrijf(drawing& on, schrift in, point linksboven, std::string_view tekst) {
     return linksboven.x + text_width(tekst, in.punten);
 }
 
+int schrijf_naast(drawing& on, schrift in, point links, std::string_view tekst) {
+    return schrijf(on, in, {links.x, links.y - halve_regel(in.punten)}, tekst);
+}
+
 void schrijf_midden(drawing& on, schrift in, point midden, std::string_view tekst) {
     const zelfde_stand bewaard(on);
     neem(on, in);
@@ -31,7 +37,7 @@ void schrijf_rechts(drawing& on, schrift in, point rechtsboven, std::string_view
 }
 
 int schrijf_breuk(drawing& on, schrift in, point links, breuk b) {
-    if (b.noemer == 1) return schrijf(on, in, {links.x, links.y - halve_regel(in.punten)}, kaal(b.teller));
+    if (b.noemer == 1) return schrijf_naast(on, in, links, kaal(b.teller));
     const zelfde_stand bewaard(on, 3);
     neem(on, in);
     return teken_breuk(on, links.x, links.y, 0, b.teller, b.noemer);
@@ -47,6 +53,18 @@ void teken_vak(drawing& on, const vlak& waar, kleur vulling, kleur rand, int dik
     const zelfde_stand bewaard(on, dikte);
     on.filled_box(waar.links, waar.boven, waar.breedte, waar.hoogte, vulling);
     on.box(waar.links, waar.boven, waar.breedte, waar.hoogte, rand);
+}
+
+void teken_strook(drawing& on, const vlak& waar, breuk b) {
+    teken_vak(on, waar, wit, donker, 3);
+    on.filled_box(waar.links, waar.boven, waar.breedte * b.teller / b.noemer, waar.hoogte, half);
+    const zelfde_stand bewaard(on, 2);
+    for (int i = 1; i < b.noemer; ++i) {
+        const int x = waar.links + waar.breedte * i / b.noemer;
+        on.line(x, waar.boven, x, waar.onder(), donker);
+    }
+    on.line_width = 3;
+    on.box(waar.links, waar.boven, waar.breedte, waar.hoogte, donker);
 }
 
 void teken_sprong(drawing& on, int van, int naar, int y, int hoogte, schrift in, std::string_view tekst) {

@@ -55,10 +55,11 @@ void voorbeeld::ververs() {
     zin_ = toon();
     blad.spoken = {{0, blad.operations().size(), blad.keep({zin_})}}; // in place of all that is to be read in it
     for (const stapper& each : stappers_) {
-        each.getal->caption = each.vorm != nullptr ? each.vorm(*each.waarde) : std::to_string(*each.waarde);
+        const std::string waarde = each.vorm != nullptr ? each.vorm(*each.waarde) : std::to_string(*each.waarde);
+        if (each.getal != nullptr) each.getal->caption = waarde;
         each.min->enabled = *each.waarde > each.van;
         each.plus->enabled = *each.waarde < each.tot;
-        each.min->description = each.plus->description = each.getal->caption;
+        each.min->description = each.plus->description = waarde;
     }
 }
 
@@ -126,28 +127,37 @@ option_button& voorbeeld::keuze(const std::string& naam, place waar, const std::
 }
 
 // Both buttons have one name, so that at the end of the range the keyboard's focus goes to the other.
+void voorbeeld::stapknop(stapper& van, point linksboven, button::sign teken) {
+    const bool omhoog = teken == button::sign::plus;
+    button& made = knop("stap " + van.naam, {linksboven.x, linksboven.y, stap_zijde, stap_zijde}, theme_role::stepper,
+                        van.naam + (omhoog ? " hoger" : " lager"), [&van, verschil = omhoog ? van.stap : -van.stap] {
+                            *van.waarde = std::clamp(*van.waarde + verschil, van.van, van.tot);
+                        });
+    made.face = teken;
+    made.index = omhoog ? 2 : 1;
+    (omhoog ? van.plus : van.min) = &made;
+}
+
 voorbeeld::stapper& voorbeeld::stappen(place waar, const std::string& naam, int& waarde, int van, int tot, int stap,
                                        std::string (*vorm)(int)) {
-    constexpr int zijde = 570, na_naam = 45, om_getal = 75; // of a button; what is left free
+    constexpr int na_naam = 45, om_getal = 75; // what is left free
     const double punten = vorm == nullptr ? 16 : 12;
-    const int getal_breedte = std::min(waar.width - 2 * zijde, vorm == nullptr ? 700 : 960);
-    const int plus = waar.left + waar.width - zijde, getal = plus - getal_breedte, min = getal - zijde;
-    stapper& made = stappers_.emplace_back(stapper{&waarde, van, tot, stap, vorm, nullptr, nullptr, nullptr});
-    const place links{waar.left, waar.top, min - waar.left - na_naam, zijde};
+    const int getal_breedte = std::min(waar.width - 2 * stap_zijde, vorm == nullptr ? 700 : 960);
+    const int plus = waar.left + waar.width - stap_zijde, getal = plus - getal_breedte, min = getal - stap_zijde;
+    const place links{waar.left, waar.top, min - waar.left - na_naam, stap_zijde};
     if (links.width >= bold_text_width(naam, 12)) woorden("naam", links, 12, theme_role::lesson_word, naam);
-    const auto maak = [&](int x, button::sign face, const char* richting, int verschil) {
-        button* pressed =
-            &knop("stap " + naam, {x, waar.top, zijde, zijde}, theme_role::stepper, naam + richting,
-                  [&made, verschil] { *made.waarde = std::clamp(*made.waarde + verschil, made.van, made.tot); });
-        pressed->face = face;
-        pressed->index = face == button::sign::minus ? 1 : 2;
-        return pressed;
-    };
-    made.min = maak(min, button::sign::minus, " lager", -stap);
-    made.getal = &woorden("getal", {getal + om_getal, waar.top, getal_breedte - 2 * om_getal, zijde}, punten,
+    stapper& made = stappers_.emplace_back(stapper{naam, &waarde, van, tot, stap, vorm});
+    stapknop(made, {min, waar.top}, button::sign::minus);
+    made.getal = &woorden("getal", {getal + om_getal, waar.top, getal_breedte - 2 * om_getal, stap_zijde}, punten,
                           theme_role::lesson_value);
-    made.plus = maak(plus, button::sign::plus, " hoger", stap);
+    stapknop(made, {plus, waar.top}, button::sign::plus);
     return made;
+}
+
+void voorbeeld::stappen(point omhoog, point omlaag, const std::string& naam, int& waarde, int van, int tot) {
+    stapper& made = stappers_.emplace_back(stapper{naam, &waarde, van, tot, 1});
+    stapknop(made, omhoog, button::sign::plus);
+    stapknop(made, omlaag, button::sign::minus);
 }
 
 } // namespace cijferwerf

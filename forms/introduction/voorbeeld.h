@@ -36,15 +36,18 @@ public:
 protected:
     // With a drawing twice as high as an exercise's, whose top is here on the panel; or with none.
     explicit voorbeeld(std::optional<int> blad_boven = 90);
+    static constexpr int zonder_iets_onder = 411; // the drawing is in the middle of the panel
 
-    // Two buttons that lower and raise a value, with its name at the left and the value between them.
+    // Two buttons that lower and raise a value.
     struct stapper {
+        std::string naam;
         int* waarde;
         int van, tot, stap;
-        std::string (*vorm)(int); // how the value is written, where not as a whole number
-        label* getal;
-        button *min, *plus;
+        std::string (*vorm)(int) = nullptr; // how the value is written, where not as a whole number
+        label* getal = nullptr;             // on which, where it is not drawn
+        button *min = nullptr, *plus = nullptr;
     };
+    static constexpr int stap_zijde = 570; // of a button
 
     // Puts the state into words, labels and the drawing, which is empty; returns the sentence. A stepper's `van` and
     // `tot` may be changed here.
@@ -57,9 +60,12 @@ protected:
 
     // A line of words, or of a number.
     label& woorden(const std::string& naam, place waar, double punten, theme_role rol, const std::string& tekst = {});
-    // The name is only spoken where there is no room for it beside the buttons and the value.
+    // With its name at the left and the value between the buttons. The name is only spoken where there is no room for
+    // it.
     stapper& stappen(place waar, const std::string& naam, int& waarde, int van, int tot, int stap = 1,
                      std::string (*vorm)(int) = nullptr);
+    // The buttons alone, where the value is drawn: the one that raises it here and the other there.
+    void stappen(point omhoog, point omlaag, const std::string& naam, int& waarde, int van, int tot);
     // A button; its caption is spoken too unless another text is.
     button& knop(const std::string& naam, place waar, theme_role rol, const std::string& opschrift,
                  std::function<void()> click);
@@ -75,6 +81,7 @@ protected:
     picture_box blad;
 
 private:
+    void stapknop(stapper& van, point linksboven, button::sign teken);
     template<class Control>
     Control& neem_op(std::deque<Control>& soort, const std::string& naam, place waar, theme_role rol,
                      const std::string& opschrift, std::function<void()> click = {});
@@ -86,16 +93,6 @@ private:
     std::deque<stapper> stappers_;
     std::vector<control*> controls_;
     std::string zin_;
-};
-
-// An example without controls: a drawing in the middle of the panel, and its sentence.
-template<std::string (*Teken)(drawing&)>
-class prent : public voorbeeld {
-public:
-    prent() : voorbeeld(411) {}
-
-protected:
-    std::string toon() override { return Teken(blad); }
 };
 
 // The last number of a table, for a stepper that goes through it.
