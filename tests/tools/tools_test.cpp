@@ -36,9 +36,7 @@ print(len(rows), len({r.get("generator") for r in rows}), {len(r.get("uitlegrege
     EXPECT_EQ(dump("--count 3" + read_back), "534 178 {7}\n");
     EXPECT_EQ(dump("--catalogue" + read_back), "32 1 {0}\n");
     EXPECT_EQ(dump("--list | sort -u | wc -l"), "178\n");
-    EXPECT_NE(
-        dump("--catalogue").find(R"({"key":"taak05","heading":"HERHALING TAAK 1 t/m 4","groups":[{"A":[["na elkaar",)"),
-        std::string::npos);
+    EXPECT_NE(dump("--catalogue").find(R"("groups":[{"A":[["na elkaar",)"), std::string::npos);
 }
 
 TEST(exercise_dump, repeats_itself_exactly_whichever_others_are_named_and_changes_with_the_seed) {
