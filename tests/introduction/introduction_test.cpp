@@ -32,35 +32,27 @@ bool apart(const place& a, const place& b) {
 }
 
 TEST_F(introduction, leads_through_three_screens_and_back_and_leaves_the_practice_screen_as_it_was) {
-    for (const bool keyboard : {false, true})
-        for (int booklet = 1; booklet <= 12; ++booklet) {
-            SCOPED_TRACE(booklet);
-            open_booklet(booklet);
-            pupil.pick(screen.presentatielijst, 0);
-            answer_right();
-            explain();
-            const auto before = shown_by(screen.controls(), screen.plaatje);
-            int at = 0; // the screen of the set, or the practice screen
-            for (const char step : std::string_view(">+-->++-++")) {
-                if (step == '>')
-                    pupil.click(screen.info);
-                else if (infoscherm& shown = page(booklet, at); keyboard)
-                    EXPECT_TRUE(shown.key(step == '+' ? '\r' : '\x1b', step == '+' ? &shown.verder : nullptr));
-                else
-                    EXPECT_TRUE(pupil.click(step == '+' ? shown.verder : shown.terug));
-                at = (at + (step == '-' ? -1 : 1)) % 4;
-                EXPECT_TRUE(screen.loaded());
-                for (int number = 1; number <= infoscherm::aantal; ++number) {
-                    infoscherm& each = page(booklet, number);
-                    EXPECT_EQ(each.loaded(), number == at);
-                    EXPECT_TRUE(number != at || each.opschriftbalk.caption == screen.opschriftbalk.caption);
-                    EXPECT_EQ(each.verder.caption, number == 3 ? "sommen maken" : "verder");
-                }
-            }
-            EXPECT_EQ(pupil.shown.back(), &screen);
-            EXPECT_EQ(screen.focus, &screen.presentatielijst);
-            EXPECT_EQ(shown_by(screen.controls(), screen.plaatje), before);
+    for (int booklet = 1; booklet <= 12; ++booklet) {
+        SCOPED_TRACE(booklet);
+        open_booklet(booklet);
+        solve(screen.presentatielijst.items[0], 0);
+        const auto before = shown_by(screen.controls(), screen.plaatje);
+        int at = 0; // the screen of the set, or the practice screen
+        for (const char step : std::string_view(">+-->++-++")) {
+            if (step == '>')
+                pupil.click(screen.info);
+            else if (infoscherm& shown = page(booklet, at); booklet % 2 == 0)
+                EXPECT_TRUE(shown.key(step == '+' ? '\r' : '\x1b', step == '+' ? &shown.verder : nullptr));
+            else
+                EXPECT_TRUE(pupil.click(step == '+' ? shown.verder : shown.terug));
+            at = (at + (step == '-' ? -1 : 1)) % 4;
+            for (int number = 1; number <= infoscherm::aantal; ++number)
+                EXPECT_EQ(page(booklet, number).loaded(), number == at);
         }
+        EXPECT_EQ(pupil.shown.back(), &screen);
+        EXPECT_EQ(screen.focus, &screen.presentatielijst);
+        EXPECT_EQ(shown_by(screen.controls(), screen.plaatje), before);
+    }
 }
 
 TEST_F(introduction, is_opened_by_the_heading_of_a_booklet_alone) {
@@ -149,6 +141,8 @@ TEST_F(introduction, says_something_new_on_each_screen_with_an_example_that_answ
             infoscherm& shown = page(booklet, number);
             SCOPED_TRACE(shown.name() + " " + shown.titel.caption);
             EXPECT_EQ(titles.insert(shown.titel.caption).second, booklet != 8) << "said before";
+            EXPECT_EQ(shown.opschriftbalk.caption, screen.opschriftbalk.caption);
+            EXPECT_EQ(shown.verder.caption, number == 3 ? "sommen maken" : "verder");
             check_lesson(shown);
             check_controls(shown);
             voorbeeld& example = shown.bij();

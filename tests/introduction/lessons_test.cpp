@@ -35,16 +35,13 @@ constexpr std::string_view said = R"(
 1.1 | 7 procent*2, per tien hoger*4, hokjes hoger*2 | 48 van de 100 hokjes: 48 %, de breuk 12/25, het kommagetal 0,48.
 1.1 | 100 procent | 100 van de 100 hokjes: 100 %, de breuk 1, het kommagetal 1.
 1.2 | bedrag hoger*5, procent hoger*8 | 1 % van € 800,- is € 8,-. 15 % is € 120,-.
-1.3 | | 50 % is 1/2. 25 % is 1/4. 20 % is 1/5. 10 % is 1/10.
 2.1 | eieren hoger*2 | 8 eieren en 12 bekers melk: van allebei 4 keer zoveel.
 2.2 | liter hoger*3 | Op 1 liter rijdt de auto 15 km, op 9 liter 135 km.
 2.3 | 1 : 40.000, cm hoger | Schaal 1 : 40.000: 5 cm op de kaart is in het echt 200.000 cm, dat is 2.000 m.
-3.1 | | 3/4 = 0,75: 3 van de 4 stukken. Evenveel zijn 6/8 en 9/12.
 3.1 | noemer lager | 3/3 = 1: 3 van de 3 stukken. Evenveel zijn 1/1 en 6/6.
 3.1 | noemer hoger*5, teller hoger*3 | 6/9: 6 van de 9 stukken. Evenveel zijn 2/3 en 12/18.
 3.2 | 2/3, keer hoger*2 | 2/3 is evenveel als 8/12: teller en noemer zijn allebei vermenigvuldigd met 4.
 3.3 | 1/4 + 2/3 | 1/4 + 2/3 = 3/12 + 8/12 = 11/12.
-4.2 | | In februari viel er 60 mm regen.
 4.2 | mei, maand hoger | In juni viel er 30 mm regen.
 4.3 | leerlingen hoger*4 | bus 1/8 van 72 = 9, lopen 1/4 van 72 = 18, fiets 1/2 van 72 = 36, auto 1/8 van 72 = 9.
 5.1 | munt lager*9, euro's hoger*9 | In € 1,- gaan 100 munten van 1 eurocent. In € 10,- gaan 10 x 100 = 1.000 munten.
@@ -53,7 +50,6 @@ constexpr std::string_view said = R"(
 5.2 | geld terugnemen, geldstuk#3, geldstuk#5, geldstuk#7 | Een pizza kost € 6,35. Jij geeft € 6,20. Er moet nog € 0,15 bij.
 5.2 | prijs hoger*9, geldstuk#1*9 | Een T-shirt kost € 14,50. Jij geeft € 50,-. Je krijgt € 35,50 terug.
 5.3 | aantal hoger*9, prijs lager*9 | 6 keer € 0,99. Rond: 6 x € 1,- = € 6,-. Te veel: 6 x € 0,01 = € 0,06. Precies: € 6,00 - € 0,06 = € 5,94.
-6.1 | | De klok staat op vijf voor half vier, 's middags. Digitaal is dat 15:25.
 6.1 | minuut hoger*7, uur hoger*8 | De klok staat op twaalf uur, 's nachts. Digitaal is dat 0:00.
 6.1 | grote wijzer op 9, uur lager*15 | De klok staat op kwart voor één, 's nachts. Digitaal is dat 0:45.
 6.2 | | Van 7:25 uur tot 10:20 uur: 7:25 tot 8:00 is 35 min, 8:00 tot 10:00 is 2 uur, 10:00 tot 10:20 is 20 min, samen 2 uur en 55 min.
@@ -62,13 +58,11 @@ constexpr std::string_view said = R"(
 6.3 | maat hoger*9, aantal lager*9 | Eén minuut heeft 60 seconden. 1 minuut: 1 x 60 = 60 seconden.
 6.3 | maat hoger*2, aantal hoger*2 | Eén uur heeft 60 minuten. 5 uur: 5 x 60 = 300 minuten.
 8.1 | hokje#13 | Een rechthoek van 1 cm bij 2 cm. Omtrek: 1 + 2 + 1 + 2 = 6 cm. Oppervlakte: 1 x 2 = 2 cm².
-7.2 | | lengte: 2,5 m = 250 cm. 2 treden omlaag, dus x 100.
 7.2 | trede#1 | lengte: 2,5 m = 0,0025 km. 3 treden omhoog, dus : 1.000.
 7.2 | soort#2, trede#3 | gewicht: 750 g = 75 dag. 1 trede omhoog, dus : 10.
 7.2 | soort#3, trede#4 | inhoud: 1,5 liter = 1,5 liter.
 7.2 | soort#4, trede#7 | oppervlakte: 4 m² = 4.000.000 mm². 3 treden omlaag, dus x 1.000.000.
 7.3 | lengte hoger*9, breedte hoger*9, hoogte hoger*9 | Een doos van 6 bij 4 bij 5 dm. Inhoud: 6 x 4 x 5 = 120 dm³. 120 dm³ = 120 liter.
-9.1 | | 7 x 24.
 9.1 | stap#0*4 | 7 x 24. Stap 1: 24 = 20 + 4. Stap 2: 7 x 20 = 140. Stap 3: 7 x 4 = 28. Stap 4: 140 + 28 = 168.
 9.1 | getal hoger*5, stap#0*9 | 7 x 29. Stap 1: 29 = 30 - 1. Stap 2: 7 x 30 = 210. Stap 3: 7 x 1 = 7. Stap 4: 210 - 7 = 203.
 9.1 | getal lager*4, keer hoger*9, volgende stap | 9 x 19. Stap 1: 19 = 20 - 1.
@@ -88,7 +82,6 @@ constexpr std::string_view said = R"(
 10.3 | manier#3 | Kosten, gewoon afgerond: € 15,-. Precies: € 15,40. Je hebt € 17,-. Waarschijnlijk genoeg.
 10.3 | manier#3, geld lager*2 | Kosten, gewoon afgerond: € 15,-. Precies: € 15,40. Je hebt € 15,-. Dat weet je niet zeker.
 10.3 | manier#3, geld lager*3 | Kosten, gewoon afgerond: € 15,-. Precies: € 15,40. Je hebt € 14,-. Waarschijnlijk te weinig.
-11.1 | | 63.261: drieënzestigduizend tweehonderdeenenzestig.
 11.1 | tienduizendtallen lager*6, honderdtallen hoger*7, eenheden lager | 3.960: drieduizend negenhonderdzestig.
 11.2 | tienden lager*3 | Het getal is 4,075 = 4 + 0,07 + 0,005.
 11.2 | tienden lager*3, honderdsten lager*7, duizendsten lager*5 | Het getal is 4.
