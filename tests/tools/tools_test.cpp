@@ -2,10 +2,11 @@
 #include <array>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <map>
+#include <sstream>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -23,10 +24,7 @@ outcome run(const std::string& tool, const std::string& arguments) {
 }
 std::string dump(const std::string& arguments) { return run("exercise_dump", arguments).output; }
 
-std::string content(const std::filesystem::path& file) {
-    std::ifstream in(file);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
+const std::string folder = testing::TempDir() + "tools " + std::to_string(getpid()), quoted = "'" + folder + "/new'";
 
 TEST(exercise_dump, writes_a_json_object_for_every_list_and_every_exercise) {
     const std::string read_back = R"( | python3 -c '
@@ -48,10 +46,9 @@ TEST(exercise_dump, repeats_itself_exactly_whichever_others_are_named_and_change
 }
 
 TEST(exercise_dump, writes_the_pictures_of_the_questions) {
-    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "svg" / "new";
-    EXPECT_EQ(dump("--count 2 --generator M_rente_01_08_click --svg '" + folder.string() + "'"), "");
-    const std::string svg = content(folder / "M_rente_01_08_click_2.svg");
-    EXPECT_TRUE(svg.starts_with("<svg ") && svg.ends_with("</svg>\n")) << svg;
+    EXPECT_EQ(dump("--count 2 --generator M_rente_01_08_click --svg " + quoted + "; grep -l '^<svg .*' " + quoted +
+                   "/* | wc -l"),
+              "2\n");
     std::filesystem::remove_all(folder);
 }
 
@@ -74,24 +71,19 @@ TEST(exercise_dump, says_what_it_does_not_know_and_when_it_cannot_write) {
 
 #ifdef CIJFERWERF_DESKTOP
 TEST(exercise_gallery, writes_the_introductions_or_the_question_and_the_explanation_of_every_variant) {
-    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "gallery" / "new";
-    const auto made = [&](const std::string& arguments) {
+    const auto checksums = [](const std::string& arguments) {
+        std::istringstream lines(
+            run("exercise_gallery", "--out " + quoted + " " + arguments + "; cksum " + quoted + "/*").output);
+        std::map<std::string, std::string> sums; // by checksum the file
+        for (std::string sum, line; lines >> sum && std::getline(lines, line);) sums[sum] = line;
         std::filesystem::remove_all(folder);
-        EXPECT_EQ(run("exercise_gallery", "--out '" + folder.string() + "' " + arguments).status, 0);
-        std::map<std::string, std::string> files;
-        for (const auto& each : std::filesystem::directory_iterator(folder))
-            files[each.path().stem().string()] = content(each.path());
-        return files;
+        return sums;
     };
-    EXPECT_EQ(made("--introductions").size(), 33U);
-    const std::string name = "M_hele_procenten_01_08_click";
-    auto files = made("--scale 1.5 --generator " + name);
-    EXPECT_EQ(files, made("--scale 1.5 --generator " + name)) << "the same seed, other pictures";
-    const std::string question = files[name + "_variant01_vraag"];
-    EXPECT_EQ(question.substr(16, 8), std::string("\0\0\x04\xE0\0\0\x03\x0C", 8)) << "1248 x 780 pixels";
-    for (const char* other : {"_variant01_uitleg", "_variant02_vraag", "_variant02_uitleg"})
-        EXPECT_NE(question, files.at(name + other));
-    EXPECT_EQ(files.size(), 4U);
+    EXPECT_EQ(checksums("--introductions").size(), 33U);
+    const std::string hele = "--generator M_hele_procenten_01_08_click ";
+    EXPECT_EQ(checksums(hele).size(), 4U);
+    EXPECT_EQ(checksums(hele), checksums(hele)) << "the same seed, other pictures";
+    EXPECT_NE(checksums(hele), checksums(hele + "--scale 1.5"));
 }
 
 TEST(exercise_gallery, says_what_is_wrong) {
