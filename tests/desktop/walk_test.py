@@ -128,9 +128,7 @@ check(not shown(Role.IMAGE), "arrow keys only move")
 
 # Exercises: whoever comes upon an answer hears the question and what the picture shows.
 verdicts = set()
-for attempt in range(12):
-    if len(verdicts) == 2:
-        break
+while len(verdicts) < 2:  # a wrong answer and the right one
     keys("Home", "Return")
     answer = one(Role.PUSH_BUTTON, "A: ", State.FOCUSED)
     picture = one(Role.IMAGE).get_description()
@@ -150,7 +148,6 @@ for attempt in range(12):
         check(tried.get_name().endswith(", goed" if right else ", fout"), "the answer does not say what became of it")
     hear(lambda: keys("Return"))  # on the explanation
     one(Role.LIST, "", State.FOCUSED)
-check(len(verdicts) == 2, "a right answer and a wrong one")
 check(", " in one(Role.LIST_ITEM).get_name(), "the title says what became of it")
 
 # The score sheet, by the reader's actions: each value belongs to its caption.
@@ -158,7 +155,6 @@ act(Role.PUSH_BUTTON, "score")
 sheet = one(Role.DIALOG)
 values = wait_for("values", lambda: [o for o in everything(sheet) if related(o, Relation.LABELLED_BY)])
 check(len(values) == 4 and all(o.get_name().strip().isdigit() for o in values), "four values with captions")
-check("eerste poging goed" in str([related(o, Relation.LABELLED_BY) for o in values]), "the first attempts")
 check(len([o for o in everything(sheet) if related(o, Relation.LABEL_FOR)]) == 4, "four captions of values")
 keys("Escape")
 wait_for("end of the score sheet", lambda: not shown(Role.DIALOG))

@@ -48,19 +48,10 @@ TEST(number_text, keeps_every_line_of_an_exercise_until_it_is_forgotten) {
 }
 
 TEST(number_text, reads_what_a_number_begins_with_and_never_fails) {
-    const std::pair<std::string, double> rows[]{{"12", 12},     {"   12", 12},
-                                                {"-3.5", -3.5}, {"+4", 4},
-                                                {".5", 0.5},    {"-.5", -0.5},
-                                                {"5.", 5},      {"12abc", 12},
-                                                {"1.2.3", 1.2}, {"1,5", 1},
-                                                {"1e5", 1},     {"0x10", 0},
-                                                {"", 0},        {" ", 0},
-                                                {"abc", 0},     {"-", 0},
-                                                {".", 0},       {"--5", 0},
-                                                {"+-5", 0},     {"- 5", 0},
-                                                {"inf", 0},     {"-infty", 0},
-                                                {"nan", 0},     {"9_9", 9},
-                                                {"\u00A05", 0}, {"0." + std::string(400, '0') + '9', 0}};
+    const std::pair<std::string, double> rows[]{
+        {"   12", 12},  {"-3.5", -3.5}, {"+4", 4},  {"-.5", -0.5}, {"5.", 5},  {"12abc", 12},
+        {"1.2.3", 1.2}, {"1,5", 1},     {"1e5", 1}, {"", 0},       {" ", 0},   {"-", 0},
+        {".", 0},       {"--5", 0},     {"- 5", 0}, {"inf", 0},    {"nan", 0}, {"0." + std::string(400, '0') + '9', 0}};
     for (const auto& [text, expected] : rows) EXPECT_EQ(lees_getal(text), expected) << text;
     EXPECT_GT(lees_getal(std::string(400, '9')), 1e15);
 }

@@ -48,7 +48,7 @@ struct side {
     double value = 0;
     int terms = 0;
     std::string_view unit = {}; // the last one
-    bool percent = false, clock = false, fraction = false;
+    bool percent = false;
     double step = 0; // of its last number
 
     // What the two make, of which this one comes first.
@@ -62,7 +62,6 @@ struct side {
         both.terms += terms;
         if (next.unit.empty()) both.unit = unit;
         both.percent |= percent;
-        both.clock |= clock;
         return both;
     }
 };
@@ -120,16 +119,12 @@ private:
     // "3.400", "12,50", "5,-", "1 3/4", "9:05", "2³".
     void number(std::size_t& at) {
         const std::size_t from = at;
-        const auto value = take_number(text_, at);
-        if (!value) {
-            while (at < text_.size() && digit(text_[at])) ++at;
-            return tokens_.push_back({kind::stop, text_.substr(from, at - from)});
-        }
-        tokens_.push_back({kind::number, text_.substr(from, at - from), *value});
+        const double value = take_number(text_, at).value();
+        tokens_.push_back({kind::number, text_.substr(from, at - from), value});
         if (text_.substr(at).starts_with(",-")) at += 2;
         for (const auto& [raised, power] : {std::pair{"²", 2}, std::pair{"³", 3}})
             if (text_.substr(at).starts_with(raised)) {
-                tokens_.back().value = std::pow(*value, power);
+                tokens_.back().value = std::pow(value, power);
                 at += 2;
             }
     }
@@ -181,8 +176,6 @@ private:
             const token& here = tokens_[at];
             found.value = here.value;
             found.terms = 1;
-            found.clock = here.has(':');
-            found.fraction = here.has('/');
             found.step = here.step();
         } else
             return {};
@@ -195,16 +188,6 @@ private:
         found.begin = i;
         found.end = at;
         unit(at, found);
-        // "2 uur en 46 minuten"
-        std::size_t next = is_word(at, "en") ? at + 1 : at;
-        if (const auto large = find_unit(found.unit); large && is(next, kind::number))
-            if (const auto part = term(next))
-                if (const auto small = find_unit(part->unit);
-                    small && small->ladder == large->ladder && small->size < large->size) {
-                    found.value += part->value * small->size / large->size;
-                    found.end = part->end;
-                    at = next;
-                }
         i = at;
         return found;
     }
@@ -218,7 +201,7 @@ private:
         }
         const auto goes_on = [&](std::size_t at) { return sign(at) != ' '; };
         std::size_t end = i;
-        while (is(end, kind::word) && end < i + 4 && !goes_on(end)) ++end;
+        while (is(end, kind::word) && !goes_on(end)) ++end;
         if (end == i) return;
         const bool ends = is(end, kind::equals) || is(end, kind::close);
         if (!find_unit(tokens_[i].text) && !ends && !is(end, kind::sign)) return;
@@ -250,18 +233,8 @@ private:
         return found.terms == 1 && find_unit(tokens_[i > 0 && is_word(i, "en") ? i - 1 : i].text);
     }
     std::optional<side> side_from(std::size_t i) const {
-        while (i < tokens_.size() &&
-               (tokens_[i].rounds() || is_word(i, "dus") || is_word(i, "nog") || is_word(i, "precies")))
-            ++i;
-        const bool negative = is(i, kind::sign) && tokens_[i].text == "-" && is(i + 1, kind::number);
-        i += negative;
-        auto found = expression(i);
-        if (!found || (negative && found->terms > 1)) return {};
-        if (negative) found->value = -found->value;
-        std::size_t next = i;
-        const char c = sign(next);
-        if (c != ' ' && (c != '-' || is(next, kind::stop))) return {}; // it goes on with what is no number
-        return found;
+        while (i < tokens_.size() && tokens_[i].rounds()) ++i;
+        return expression(i);
     }
     const char* end_of(const side& of) const {
         const std::string_view last = tokens_[of.end - 1].text;
@@ -271,9 +244,7 @@ private:
     // ---- judging ----
 
     static bool comparable(const side& left, const side& right) {
-        if (left.clock != right.clock) return false;
         if (left.terms > 1 || right.terms > 1) return true;
-        if (left.percent != right.percent) return (left.percent ? right : left).fraction;
         if (left.unit.empty() || right.unit.empty() || left.unit == right.unit) return true;
         const auto from = find_unit(left.unit), to = find_unit(right.unit);
         return from && to && from->ladder == to->ladder;

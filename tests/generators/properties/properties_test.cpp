@@ -5,8 +5,8 @@
 #include "runtime/drawn.h"
 #include "runtime/picture_reading.h"
 
+#include "tests/generators/properties/exceptions.h"
 #include "tests/support/crossing.h"
-#include "tests/support/exceptions.h"
 #include "tests/support/ink.h"
 #include "tests/support/operation_text.h"
 #include "tests/support/pattern.h"
@@ -90,10 +90,10 @@ TEST(properties, know_a_sum_that_is_wrong) {
         "Dat is 3.400 : 100 = 34. Daarna doe je nog 3,5 x 34 = 119. Zo is 100 % - 88% = 12 % supporter van AZ. "
         "Dus 3,5 % van 3.400 = 119. 1/2 + 1/3 = 3/6 + 2/6 = 5/6. 2 1/2 - 3/4 = 1 3/4 liter. 450/0,75 = 600. "
         "2,5 m = 250 cm en 3 x 20 cm = 0,6 m. € 12,50 + € 7,50 = € 20,-. (3 + 4) x 2 = 14. 17 gedeeld door 2 is 8,5. "
-        "2 uur en 46 minuten = 166 minuten. 7/100 = 7 %. 10:15 - 9:05 = 1:10. Nummer 3: 5 + 2 = 7 dus 3 = ... "
+        "7/100 = 7 %. 10:15 - 9:05 = 1:10. Nummer 3: 5 + 2 = 7 dus 3 = ... "
         "2³ = 8 en 5^2 = 25. 3/4 van 12 = 9.";
     const std::pair<std::string_view, int> right[]{
-        {exact, 20}, {"dus 12 x 50 = ongeveer 600 supporters.", 1}, {"10 : 3 = afgerond 3,33", 1}};
+        {exact, 19}, {"dus 12 x 50 = ongeveer 600 supporters.", 1}, {"10 : 3 = afgerond 3,33", 1}};
     for (const auto& [text, steps] : right) {
         const checked_sums found = check_sums(text);
         EXPECT_EQ(found.steps, steps) << text;
@@ -257,14 +257,6 @@ TEST(properties, know_a_line_that_names_another_answer) {
     EXPECT_FALSE(names("De juiste kleur is dus rood.", "geel"));
 }
 
-TEST_P(every_exercise, ends_its_explanation_with_the_right_answer) {
-    each([&](const oefening& made) {
-        const seen exercise(made);
-        EXPECT_TRUE(allowed(answer_not_in_last_line, names(exercise.last, exercise.right)))
-            << exercise.right << " | " << exercise.last;
-    });
-}
-
 TEST_P(every_exercise, reads_its_picture_aloud_without_giving_away_the_answer) {
     each([&](const oefening& made) {
         const seen exercise(made);
@@ -294,9 +286,12 @@ TEST_P(every_exercise, fits_the_screen) {
     });
 }
 
-TEST_P(every_exercise, tells_a_pupil_something_after_a_wrong_answer_and_in_the_explanation) {
+TEST_P(every_exercise, tells_a_pupil_something_after_a_wrong_answer_and_ends_its_explanation_with_the_right_one) {
     each([&](const oefening& made) {
         EXPECT_NE(made.uitlegregels[0], leeg);
+        const seen exercise(made);
+        EXPECT_TRUE(allowed(answer_not_in_last_line, names(exercise.last, exercise.right)))
+            << exercise.right << " | " << exercise.last;
         if (made.tipregels_1[0] != leeg) {
             EXPECT_NE(made.tipregels_2[0], leeg);
             return;
