@@ -157,7 +157,7 @@ public:
 
     plakregel plak(std::initializer_list<regeldeel> delen);
     plakregel plak_velden(std::initializer_list<regeldeel> delen);
-    // A copy of other things.
+    // A copy of what is no text.
     template<class Item>
     std::span<const Item> bewaar(std::span<const Item> items) {
         next_ = met_ruimte(next_, items.size_bytes() + alignof(Item));
@@ -181,6 +181,7 @@ private:
     char* limit_ = first_.data() + first_.size();
 };
 
+// What regel() does: for good, or for the exercise under way only, which costs less.
 std::string plak(std::initializer_list<regeldeel> delen);
 plakregel plak_even(std::initializer_list<regeldeel> delen);
 plakregel plak_velden(std::initializer_list<regeldeel> delen);

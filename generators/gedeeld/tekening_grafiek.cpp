@@ -54,7 +54,7 @@ std::string assen::hoogte(int waarde) const { return in_stappen(waarde - langs_y
 
 void assen::vertel() {
     std::string zin = "Een grafiek.";
-    zin.reserve(500);
+    zin.reserve(500); // more than most need
     const auto as = [&zin](std::string_view kant, const beschrift& van) {
         if (van.getallen.empty()) return;
         zin += plak_even(
