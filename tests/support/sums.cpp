@@ -81,7 +81,10 @@ public:
             // "is" is an equals sign behind a sum only.
             if (!left || !right || (tokens_[i].text == "is" && left->terms < 2) || !comparable(*left, *right)) continue;
             ++all.steps;
-            if (!agree(*left, *right)) all.wrong.emplace_back(tokens_[left->begin].text.data(), end_of(*right));
+            const std::string_view one(tokens_[left->begin].text.data(), end_of(*left));
+            const std::string_view other(tokens_[right->begin].text.data(), end_of(*right));
+            if (one == other || !agree(*left, *right))
+                all.wrong.emplace_back(tokens_[left->begin].text.data(), end_of(*right));
         }
         return all;
     }
