@@ -97,11 +97,12 @@ protected:
         const std::string weg =
             regel(kaal(stappen), stappen == 1 ? " trede " : " treden ",
                   macht > 0 ? "omlaag, dus x" : "omhoog, dus :", groepen(tien_tot_de(std::abs(macht))));
-        schrijf_rechts(blad, {22, inkt}, {5320, 20}, maat + " =");
         schrijf_rechts(blad, {26, donker}, {5320, 460}, nieuw);
-        if (stappen > 0) schrijf_rechts(blad, {13, inkt}, {5320, 1070}, weg);
         schrijf_rechts(blad, {13, inkt}, {5320, 1440}, regel("elke trede omlaag: x", tien_tot_de(per_trede)));
-        return regel(naam, ": ", maat, " = ", nieuw, ".", stappen > 0 ? " " + weg + "." : "");
+        if (stappen == 0) return regel(naam, ": ", maat, ".");
+        schrijf_rechts(blad, {22, inkt}, {5320, 20}, maat + " =");
+        schrijf_rechts(blad, {13, inkt}, {5320, 1070}, weg);
+        return regel(naam, ": ", maat, " = ", nieuw, ". ", weg, ".");
     }
 
 private:

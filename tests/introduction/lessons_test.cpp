@@ -60,7 +60,7 @@ constexpr std::string_view said = R"(
 8.1 | hokje#13 | Een rechthoek van 1 cm bij 2 cm. Omtrek: 1 + 2 + 1 + 2 = 6 cm. Oppervlakte: 1 x 2 = 2 cm².
 7.2 | trede#1 | lengte: 2,5 m = 0,0025 km. 3 treden omhoog, dus : 1.000.
 7.2 | soort#2, trede#3 | gewicht: 750 g = 75 dag. 1 trede omhoog, dus : 10.
-7.2 | soort#3, trede#4 | inhoud: 1,5 liter = 1,5 liter.
+7.2 | soort#3, trede#4 | inhoud: 1,5 liter.
 7.2 | soort#4, trede#7 | oppervlakte: 4 m² = 4.000.000 mm². 3 treden omlaag, dus x 1.000.000.
 7.3 | lengte hoger*9, breedte hoger*9, hoogte hoger*9 | Een doos van 6 bij 4 bij 5 dm. Inhoud: 6 x 4 x 5 = 120 dm³. 120 dm³ = 120 liter.
 9.1 | stap#0*4 | 7 x 24. Stap 1: 24 = 20 + 4. Stap 2: 7 x 20 = 140. Stap 3: 7 x 4 = 28. Stap 4: 140 + 28 = 168.
