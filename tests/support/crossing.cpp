@@ -136,7 +136,7 @@ double distance(const ink& a, const ink& b) {
 
 } // namespace
 
-std::optional<std::string> out_of_place(const drawing& drawn) {
+std::optional<std::string> out_of_place(const drawing& drawn, bool explained) {
     constexpr int width = drawing::inner_width, height = drawing::inner_height;
     std::vector<ink> all, boxes;
     bool file = false;
@@ -152,7 +152,8 @@ std::optional<std::string> out_of_place(const drawing& drawn) {
             return std::ranges::all_of(path, [&](point p) { return covers(later, p.x, p.y); });
         };
         if (std::holds_alternative<polygon_op>(*at) && knotted(path)) return "a knotted shape";
-        if (!path.empty() && std::any_of(at + 1, drawn.operations().end(), hides)) return "a shape that nobody sees";
+        if (!explained && !path.empty() && std::any_of(at + 1, drawn.operations().end(), hides))
+            return "a shape that nobody sees";
     }
     for (const ink& one : all) {
         const bool text = !one.word.empty();
@@ -165,7 +166,7 @@ std::optional<std::string> out_of_place(const drawing& drawn) {
         };
         const auto level = [&](const ink& other) {
             const auto as = [](double a, double b, double c, double d) {
-                return std::min({std::abs(a - c), std::abs(b - d), std::abs(a + b - c - d) / 2}) <= 30;
+                return std::min({std::abs(a - c), std::abs(b - d), std::abs(a + b - c - d) / 2}) <= 20;
             };
             return text && &other != &one &&
                    (as(one.left, one.right, other.left, other.right) ||
@@ -184,10 +185,12 @@ std::optional<std::string> out_of_place(const drawing& drawn) {
         const double near = std::min(before, after), far = std::max(before, after);
         if (sign && !central && (near == width || (far < width && far > 2.5 * near + 120)))
             return "\"" + one.word + "\" is not midway";
-        if (!file && !central && all.size() > 1 && std::ranges::none_of(all, beside) &&
+        const bool written_in = explained && one.word.size() < 3; // a digit, a sign
+        if (!file && !central && !written_in && all.size() > 1 && std::ranges::none_of(all, beside) &&
             std::ranges::none_of(all, level))
             return "\"" + one.word + "\", or a shape, stands alone";
     }
+    if (explained) return {}; // which wipes out and frames
     for (const ink& one : boxes) {
         const auto half_over = [&](const ink& other) {
             const bool shadow = std::abs(other.left - one.left) == 45 && std::abs(other.right - one.right) == 45;

@@ -19,7 +19,8 @@ std::vector<point> path_of(const drawing_op& operation, kleur ground);
 std::optional<std::string> line_through_word(const drawing& drawn);
 
 // The first thing that leaves the picture, text that touches its edge or stands alone, sign of a sum that stands by
-// itself or near one neighbour only, or box that lies half over another which is not its shadow; or nothing.
-std::optional<std::string> out_of_place(const drawing& drawn);
+// itself or near one neighbour only, or box that lies half over another which is not its shadow; or nothing. An
+// explanation may wipe out, frame and write digits in.
+std::optional<std::string> out_of_place(const drawing& drawn, bool explained = false);
 
 } // namespace cijferwerf
