@@ -43,22 +43,18 @@ taak19 TAAK 19 - MATEN EN METEN: energie, gas (1), elektriciteit (1), elektricit
 taak20 HERHALING TAAK 16 t/m 19: fietspad (1), museum, schaal, fietspad (2) | tandwielen, brandstofverbruik, tuinman, uitgaven | huis, maatbeker, vakantie, cirkels / optellen, watertank, cilinder | worst, dichtheid, volumeprocent | inhoud, schatten, doos, gewichten / voeding (1), voeding (2), water (1), water (2) | elektriciteit (1), elektriciteit (2), elektriciteit (3) | energie, gas (1), gas (2)
 )";
 
-// The generator that a title runs in a list, by names alone: level, title, home booklet, home task. Where several have
-// the title, the one that is at home in this list.
-std::string generator_of(std::string_view title, const std::string& key) {
+// Whether a generator is named after a title: level, title, home booklet, home task. Where several are, it is the one
+// that is at home in this list.
+bool is_named_after(std::string_view title, const std::string& key, std::string_view generator) {
     const std::string named =
         std::regex_replace(std::regex_replace(std::string(title), std::regex("[()!']"), ""), std::regex("[ /-]"), "_");
     const std::string number = key.substr(key.size() - 2);
     const std::regex anywhere("._" + named + R"(_\d\d_.*)");
     const std::regex here("._" + named + '_' + (key.starts_with("boekje") ? number + "_.*" : ".._" + number + ".*"));
-    std::vector<std::string> with_title, at_home;
-    for (const oefening_soort& generator : alle_oefeningen()) {
-        const std::string name(generator.name);
-        if (std::regex_match(name, anywhere)) with_title.push_back(name);
-        if (std::regex_match(name, here)) at_home.push_back(name);
-    }
-    const auto& only = with_title.size() == 1 ? with_title : at_home;
-    return only.size() == 1 ? only[0] : "none";
+    const auto of_title = std::ranges::count_if(alle_oefeningen(), [&](const oefening_soort& each) {
+        return std::regex_match(std::string(each.name), anywhere);
+    });
+    return std::regex_match(std::string(generator), of_title == 1 ? anywhere : here);
 }
 
 template<class Titles>
@@ -76,7 +72,7 @@ TEST(catalogue, a_list_has_its_titles_in_order_and_each_runs_the_generator_that_
         text.append(list.key).append(" ").append(list.heading).append(":");
         if (!list.drawn()) text += " " + joined(titels(list, toeval));
         for (int i = 0; const catalogue_entry& entry : list.entries) {
-            EXPECT_EQ(naam(entry.generator), generator_of(entry.title, std::string(list.key))) << list.key;
+            EXPECT_TRUE(is_named_after(entry.title, std::string(list.key), naam(entry.generator))) << entry.title;
             EXPECT_EQ(zoek_generator(list, i++, "another title"), entry.generator);
             EXPECT_LE(text_width(entry.title, 9.75, 1.0), 1590) << entry.title << " has no room beside its mark";
             offered.insert(entry.generator);

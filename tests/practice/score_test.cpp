@@ -38,22 +38,20 @@ TEST(score_report, has_totals_and_a_row_for_every_title_that_ended_at_some_attem
     EXPECT_THROW(ended("for which there is no room", 1), checked_error);
     for (const int impossible : {0, 5}) EXPECT_THROW(ended("rente", impossible), checked_error);
 
-    const lines printed = as_lines(score_report(score, "HERHALING TAAK 1 t/m 4", {2005, 1, 2, 3, 4}));
-    const lines expected{"20| 0:SOMMENWERF",
-                         "9| 0:Datum: 02/01/05 03:04 u",
-                         "15| 0:HERHALING TAAK 1 T/M 4",
-                         "9| 0:Aantal opgaven gedaan 30: 100",
-                         "9| 0:bij eerste poging goed 30: 2",
-                         "9| 4:tweede poging goed 30: 96",
-                         "9| 4:derde poging goed 30: 1",
-                         "9| 4:vierde poging goed 30: 2",
-                         "15| 0:Analyse",
-                         "9| 0:titel opgave    goed bij... 30:1e 35:2e 40:3e 45:4e",
-                         "9| 0:rente 30:2 35:0 40:1 45:0",
-                         "9| 0:snel! 30:0 35:0 40:0 45:1"};
-    ASSERT_EQ(printed.size(), expected.size() + 96);
-    EXPECT_TRUE(std::ranges::equal(expected, std::span(printed).first(expected.size())));
-    EXPECT_EQ(printed.back(), "9| 0:t98 30:0 35:1 40:0 45:0");
+    lines expected{"20| 0:SOMMENWERF",
+                   "9| 0:Datum: 02/01/05 03:04 u",
+                   "15| 0:HERHALING TAAK 1 T/M 4",
+                   "9| 0:Aantal opgaven gedaan 30: 100",
+                   "9| 0:bij eerste poging goed 30: 2",
+                   "9| 4:tweede poging goed 30: 96",
+                   "9| 4:derde poging goed 30: 1",
+                   "9| 4:vierde poging goed 30: 2",
+                   "15| 0:Analyse",
+                   "9| 0:titel opgave    goed bij... 30:1e 35:2e 40:3e 45:4e",
+                   "9| 0:rente 30:2 35:0 40:1 45:0",
+                   "9| 0:snel! 30:0 35:0 40:0 45:1"};
+    for (int i = 3; i < 99; ++i) expected.push_back(regel("9| 0:t", kaal(i), " 30:0 35:1 40:0 45:0"));
+    EXPECT_EQ(as_lines(score_report(score, "HERHALING TAAK 1 t/m 4", {2005, 1, 2, 3, 4})), expected);
 }
 
 class score : public practising {
