@@ -77,9 +77,15 @@ void check_lesson(const infoscherm& on) {
     }
 }
 
-// Every control of its example lies on the panel, and none that is pressed or read on another.
+// Every control of its example lies on the panel, and none that is pressed or read on another; one option is chosen.
 void check_controls(infoscherm& on) {
     const auto& all = on.bij().controls();
+    EXPECT_LE(std::ranges::count_if(all,
+                                    [](const control* each) {
+                                        return each->kind == control_kind::option_button &&
+                                               static_cast<const option_button*>(each)->selected;
+                                    }),
+              1);
     for (const control* a : all) {
         EXPECT_TRUE(place_of(on.voorbeeldvlak).contains(place_of(*a))) << a->name << ' ' << a->caption;
         EXPECT_FALSE(a->takes_clicks() && a->caption.empty() && a->accessible_name.empty()) << a->name;

@@ -30,14 +30,11 @@ protected:
         pupil.answers = {draw(20) == 0 ? box_answer::yes : box_answer::no};
         form& on = front();
         const int what = draw(100);
-        if (what < 20 && &on == &screen) {
-            const int item = draw(screen.presentatielijst.items.size());
-            what < 10 ? pupil.pick(screen.presentatielijst, item) : pupil.pick_by_enter(screen.presentatielijst, item);
-        } else if (what < 35)
+        if (what < 20)
             pupil.press(on, one_of(std::string_view("ABCD1234567890,+-*/=\r\x1b\x7f ?")));
-        else if (what < 55)
+        else if (what < 40)
             pupil.wait(draw(10) == 0 ? 25'000 : draw(2500));
-        else if (what < 57)
+        else if (what < 42)
             pupil.close(on);
         else {
             std::vector<control*> choices;
@@ -48,6 +45,7 @@ protected:
             // Most of the time it stays on the practice screen, where most can go wrong.
             if (chosen.name == "terug" && draw(4) != 0) return;
             if (draw(10) == 0) pupil.hover(chosen);
+            screen.presentatielijst.selected = draw(screen.presentatielijst.items.size() + 1) - 1;
             pupil.click(chosen);
         }
     }
