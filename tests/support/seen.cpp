@@ -63,16 +63,11 @@ std::string seen::sheet() const {
 }
 
 void seen::look_at(const drawing& drawn) {
-    texts.clear();
+    texts = all<text_op>(drawn);
     words.clear();
-    blocks.clear();
-    for (const drawing_op& operation : drawn.operations()) {
-        if (const auto* text = std::get_if<text_op>(&operation)) {
-            texts.push_back(*text);
-            words.emplace_back(text->text);
-        }
-        if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled) blocks.push_back(*box);
-    }
+    for (const text_op& text : texts) words.emplace_back(text.text);
+    blocks = all<box_op>(drawn);
+    std::erase_if(blocks, [](const box_op& box) { return !box.filled; });
 }
 
 // ---- rows ----
@@ -87,21 +82,15 @@ struct bar {
     double left, right, y;
 };
 
-// The short horizontal lines that no later filled box has covered.
+// The short horizontal lines.
 std::vector<bar> bars_of(const drawing& drawn) {
     std::vector<bar> bars;
-    for (const drawing_op& operation : drawn.operations()) {
-        if (const auto* line = std::get_if<line_op>(&operation); line != nullptr && line->from.y == line->to.y)
-            bars.push_back({double(std::min(line->from.x, line->to.x)), double(std::max(line->from.x, line->to.x)),
-                            double(line->from.y)});
-        if (const auto* box = std::get_if<box_op>(&operation); box != nullptr && box->filled) {
-            const double right = box->x + box->width;
-            std::erase_if(bars, [&](const bar& b) {
-                return b.left >= box->x && b.right <= right && b.y >= box->y && b.y <= box->y + box->height;
-            });
-            if (box->height <= 30) bars.push_back({double(box->x), right, box->y + box->height / 2.0});
-        }
-    }
+    for (const auto& [from, to, pen] : all<line_op>(drawn))
+        if (from.y == to.y)
+            bars.push_back({double(std::min(from.x, to.x)), double(std::max(from.x, to.x)), double(from.y)});
+    for (const box_op& box : all<box_op>(drawn))
+        if (box.filled && box.height <= 30)
+            bars.push_back({double(box.x), double(box.x + box.width), box.y + box.height / 2.0});
     std::erase_if(bars, [](const bar& b) { return b.right - b.left > far_apart; });
     return bars;
 }
@@ -115,12 +104,6 @@ std::vector<std::string> rows_of(const drawing& drawn) {
     };
     std::vector<item> items;
     std::vector<ink> words = visible_words(drawn);
-    // What is written in red over a number that is struck out.
-    const bool struck = std::ranges::any_of(drawn.operations(), [](const drawing_op& operation) {
-        const auto* line = std::get_if<line_op>(&operation);
-        return line != nullptr && line->pen.colour == rood && line->from.x != line->to.x && line->from.y != line->to.y;
-    });
-    std::erase_if(words, [&](const ink& w) { return struck && w.colour == rood && is_number(w); });
     std::vector<bar> bars = bars_of(drawn);
     for (const ink& w : words)
         if (w.word == "---") bars.push_back({w.left, w.right, w.bottom - w.size * 20 * 0.275});

@@ -124,28 +124,17 @@ TEST_P(every_exercise, has_four_answers_of_different_value) {
     EXPECT_GE(different, rounds / 2);
 }
 
-TEST_P(every_exercise, uses_each_sub_variant_each_place_and_many_different_numbers) {
-    std::vector<int> variants;
+TEST_P(every_exercise, uses_each_place_and_many_different_numbers) {
     std::map<int, int> places;
     std::set<std::string> different;
     each([&](const oefening& made) {
-        variants.push_back(made.variant);
         ++places[made.juiste_positie];
         std::string all;
         for (const std::string& text : as_texts(made.plaatje)) all += text;
         for (const std::string_view text : made.vraagregels) all += text;
         for (const std::string& text : answers(made)) all += text;
         different.insert(all);
-        EXPECT_GE(made.juiste_positie, 0);
-        EXPECT_LE(made.juiste_positie, 4);
-        const std::set limits{0, 5, 7, 8, 9, 10, 11, 12, 15, 20};
-        EXPECT_TRUE(limits.contains(made.tijdlimiet)) << made.tijdlimiet;
     });
-    // 1, 2, ..., N, 1, 2, ...
-    const int number = std::ranges::max(variants);
-    EXPECT_LE(number, 14);
-    for (std::size_t i = 0; i < variants.size(); ++i) EXPECT_EQ(variants[i], static_cast<int>(i) % number + 1);
-
     EXPECT_TRUE(allowed(few_different, different.size() >= 12)) << "a pupil would soon know them by heart";
     if (places.contains(0)) return;
     for (int place = 1; place <= 4; ++place)
@@ -214,7 +203,6 @@ TEST_P(every_exercise, writes_numbers_as_pupils_do_and_single_blanks) {
             for (const std::string_view line : *lines) {
                 EXPECT_EQ(fault(line), "") << line;
                 EXPECT_NE(line, "") << "an empty line is a single blank";
-                EXPECT_LE(std::ranges::count_if(line, [](char c) { return (c & 0xC0) != 0x80; }), 72) << line;
                 EXPECT_TRUE(allowed(double_blanks_meant, kaal(line).find("  ") == line.npos)) << line;
             }
         for (const std::string& answer : answers(made)) {
@@ -226,7 +214,6 @@ TEST_P(every_exercise, writes_numbers_as_pupils_do_and_single_blanks) {
         const auto& [ground, text, size] =
             std::tie(made.plaatje.ground, made.plaatje.fore_colour, made.plaatje.text_size);
         EXPECT_TRUE(seen(made).words.empty() || ground != wit || text != zwart || size != 8) << "no board";
-        EXPECT_TRUE(made.hulpmiddel == "REKENMACHINE" || made.hulpmiddel == leeg);
     });
 }
 
