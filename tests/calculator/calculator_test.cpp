@@ -90,7 +90,6 @@ protected:
         open();
         present("hele procenten");
     }
-    void shows(std::string_view keys, std::string_view display) { shows(screen, keys, display); }
     void shows(form& on, std::string_view keys, std::string_view number) {
         for (const char key : keys) EXPECT_TRUE(pupil.press(on, key)) << key;
         const auto display = std::ranges::find(on.controls(), "display", &control::name);
@@ -107,7 +106,7 @@ TEST_F(keypad, every_key_of_the_keyboard_presses_the_key_of_that_face_and_what_g
                                                      {"12345678901", "1234567890,"},    {"C7/0=", "7,"}};
     for (form* on : std::initializer_list<form*>{&screen, &lesson})
         for (const auto& [keys, number] : rows) shows(*on, keys, number);
-    shows("\033", "0,");
+    shows(screen, "\033", "0,");
     EXPECT_EQ(lesson.bij().zin(), "Op het display staat 7,");
     ASSERT_EQ(pupil.boxes.size(), 2U);
     EXPECT_EQ(pupil.boxes[0].text, "te veel cijfers");
@@ -115,22 +114,23 @@ TEST_F(keypad, every_key_of_the_keyboard_presses_the_key_of_that_face_and_what_g
 }
 
 TEST_F(keypad, keys_answer_an_exercise_only_without_a_calculator_or_with_alt) {
-    shows("1234", "1234,");
+    shows(screen, "1234", "1234,");
     EXPECT_EQ(screen.pogingen, 0);
     EXPECT_FALSE(pupil.press(screen, 'A'));
     EXPECT_EQ(screen.knop[1].mnemonic, 'A');
-    shows("C5M", "5,");
+    shows(screen, "C5M", "5,");
 
     present_with_calculator(false);
     EXPECT_EQ(screen.knop[1].mnemonic, 0);
     EXPECT_FALSE(screen.k[5].visible);
-    shows("2", "5,");
+    shows(screen, "2", "5,");
     EXPECT_EQ(screen.pogingen, 1);
 
     present_with_calculator(true);
-    shows("\033R", "5,"); // what was worked out outlives the exercise
+    shows(screen, "\033R", "5,"); // what was worked out outlives the exercise
     EXPECT_EQ(screen.display.font_size, 14);
-    shows("\x7f"
+    shows(screen,
+          "\x7f"
           "9999999999/,7=M\033R",
           "14285714284,285714285714285714285");
     EXPECT_LT(screen.display.font_size, 14);

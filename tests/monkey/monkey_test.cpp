@@ -42,8 +42,7 @@ protected:
                 if (each->usable() && (each->takes_clicks() || each->hover)) choices.push_back(each);
             if (choices.empty()) return;
             control& chosen = *one_of(choices);
-            // Most of the time it stays on the practice screen, where most can go wrong.
-            if (chosen.name == "terug" && draw(4) != 0) return;
+            if (chosen.name == "terug" && draw(4) != 0) return; // on the practice screen most can go wrong
             if (draw(10) == 0) pupil.hover(chosen);
             screen.presentatielijst.selected = draw(screen.presentatielijst.items.size() + 1) - 1;
             pupil.click(chosen);

@@ -20,7 +20,6 @@ TEST(explanation, draws_each_command_as_it_says) {
         {"LINE_1420_1670_300_-500_1_B_1", {"box 1420,1170 300x500 colour 1 width 1 style 1"}},
         {"LINE_3000_0_2380_2130_1_BF_1", {"filled box 3000,0 2380x2130 colour 1 width 1 style 1"}},
         {"LINE_a_7b_30_40_99_B_9", {"box 0,7 30x40 colour 3 width 1 style 6"}},
-        {"LINE_0_0_10_10_1_F_0", {}},
         {"PARTJES_1500_1000_4_",
          {"line 1500,1000 to 1500,1770 colour 14 width 3 style 0",
           "line 1500,1000 to 730,1000 colour 14 width 3 style 0",

@@ -42,9 +42,8 @@ TEST(layout, lays_answers_two_by_two_where_they_fit_and_in_a_column_where_they_m
 TEST(layout, shows_the_first_digits_of_a_number_however_long) {
     const std::pair<std::size_t, double> rows[]{{31, 14}, {32, 12}, {54, 8.25}};
     for (const auto& [digits, points] : rows) {
-        const displaytekst shown = leg_display(std::string(digits, '8'), display_breedte);
-        EXPECT_EQ(shown.punten, points) << digits;
-        EXPECT_EQ(shown.tekst, std::string(digits, '8'));
+        const auto [text, shown_at] = leg_display(std::string(digits, '8'), display_breedte);
+        EXPECT_EQ(std::pair(text, shown_at), std::pair(std::string(digits, '8'), points));
     }
     EXPECT_EQ(leg_display(std::string(300, '8'), display_breedte).tekst, std::string(52, '8') + "…");
 }

@@ -47,7 +47,6 @@ TEST_F(practice, what_can_be_done_and_what_is_told_follows_the_exercise_from_pic
     const std::pair<std::function<void()>, const char*> steps[]{
         {[] {}, "list score info nothing yet  quiet > presentatielijst"},
         {[&] { pupil.pick_by_enter(screen.presentatielijst, -1); }, "list score info nothing yet  quiet > off"},
-        {[&] { screen.presentatielijst_keypress(' '); }, "list score info nothing yet  quiet > off"},
         {[&] { pupil.pick_by_enter(screen.presentatielijst, 0); }, "OOOO UITLEG/BERICHT quiet > knop"},
         {[&] { present("rente"); }, "OOOO UITLEG/BERICHT quiet > off"}, // not before this one is answered
         {[&] { screen.juiste_letter = "B", answer(3); }, "OOtO BERICHT- > off"},
