@@ -95,14 +95,12 @@ TEST(catalogue, a_list_has_its_titles_in_order_and_each_runs_the_generator_that_
 TEST(catalogue, a_title_of_a_review_task_runs_the_first_that_has_it_in_the_tasks_reviewed) {
     const std::tuple<std::string_view, std::string_view, std::string_view> rows[]{
         {"taak05", "grootste/kleinste", "M_grootste_kleinste_11_01_click"},
-        {"taak10", "computer", "L_computer_01_08_click"},
-        {"taak20", "hardlopen (1)", "L_hardlopen_1_04_18_click"}};
+        {"taak10", "computer", "L_computer_01_08_click"}};
     for (const auto& [key, title, generator] : rows)
         EXPECT_EQ(naam(zoek_generator(*zoek_lijst(task_set, key), 0, title).value()), generator);
     for (const int nowhere : {-1, 15}) EXPECT_FALSE(zoek_generator(*zoek_lijst(task_set, "taak06"), nowhere, "snel"));
     EXPECT_FALSE(zoek_generator(*zoek_lijst(task_set, "taak05"), 0, "rente"));
-    for (const auto& [set, key] : {std::pair{booklet_set, "taak01"}, {"", "taak01"}, {task_set, "taak21"}})
-        EXPECT_EQ(zoek_lijst(set, key), nullptr) << key;
+    EXPECT_EQ(zoek_lijst(booklet_set, "taak01"), nullptr);
 }
 
 TEST(catalogue, the_narrow_band_from_033_to_034_falls_to_choice_b) {
