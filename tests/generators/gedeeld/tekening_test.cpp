@@ -105,10 +105,10 @@ TEST(drawings, fill_their_place_and_are_read_aloud_with_what_their_texts_do_not_
         axes.namen_onder({"j", "f"});
         return "Een grafiek. De rode lijn, in strepen hoog: j twee, f drie.";
     });
-    expect_drawn({350, 115, 3'658, 1'900}, 33, 10, [](drawing& on) {
-        teken_taart(on, {1300, 1065}, 950, {{3, rood, "1"}, {1, geel, "rest", true}});
+    expect_drawn({350, 115, 3'658, 1'900}, 37, 10, [](drawing& on) {
+        teken_taart(on, {1300, 1065}, 950, {{1, rood, "1"}, {1, geel, "rest", true}});
         teken_legenda(on, 2800, 500, {{blauw, "1  Spanje"}, {rood, "2  Duitsland"}, {geel, "4  Italië"}});
-        return "Een cirkel in delen. In twaalfden van de cirkel: 1 negen, rest gestreept drie. blauw: 1 Spanje. "
+        return "Een cirkel in delen. In twaalfden van de cirkel: 1 zes, rest gestreept zes. blauw: 1 Spanje. "
                "rood: 2 Duitsland. geel: 4 Italië.";
     });
     expect_drawn({40, 60, 1'740, 2'025}, 27, 8.25, [](drawing& on) {
