@@ -1,6 +1,7 @@
 #include "runtime/svg.h"
 
 #include "runtime/drawn.h"
+#include "runtime/look.h"
 
 #include <algorithm>
 #include <charconv>
@@ -11,10 +12,17 @@ namespace cijferwerf {
 
 namespace {
 
-// Gathers elements. An attribute is a name and a value: add(" x=", 5) writes x="5".
+// Gathers elements. An attribute is a name and a value: with(" x", 5) writes x="5".
 class writer {
 public:
-    explicit writer(std::string& out) : out_(out) {}
+    explicit writer(const drawing& shown) : drawn_(shown) {}
+
+    std::string all() {
+        open();
+        for (const drawing_op& op : drawn_.operations()) std::visit(*this, op);
+        out_ += "</svg>\n";
+        return std::move(out_);
+    }
 
     void operator()(const text_op& op) {
         out_ += "<g transform=\"translate(";
@@ -24,7 +32,7 @@ public:
         out_ += ") scale(";
         number(narrowing);
         out_ += " 1)\">";
-        (*this)(line_of(*drawn_, op));
+        text(line_of(drawn_, op));
         out_ += "</g>\n";
     }
     void operator()(const line_op& op) {
@@ -80,94 +88,33 @@ public:
         out_ += " preserveAspectRatio=\"none\"/>\n";
     }
 
-    void operator()(const scene_box& box) {
-        const int inset = box.edge ? box.thick : 0; // of both sides together
-        const double half = inset / 2.0;
-        const double left = box.at.left + half, top = box.at.top + half, right = box.at.right() - half,
-                     bottom = box.at.bottom() - half, round = std::max(0.0, box.radius - half);
-        out_ += "<path d=\"";
-        // From the top-left corner on, clockwise.
-        const bool far = box.rounded == round_corners::all;
-        const double corners[]{round, far || box.rounded == round_corners::top ? round : 0, far ? round : 0,
-                               far || box.rounded == round_corners::left ? round : 0};
-        const auto go = [this](char how, double x, double y) {
-            out_ += how;
-            number(x);
-            out_ += ' ';
-            number(y);
-        };
-        const auto turn = [&](double radius, double x, double y) {
-            if (radius == 0) return;
-            go('A', radius, radius);
-            out_ += " 0 0 1";
-            go(' ', x, y);
-        };
-        go('M', left, top + corners[0]);
-        turn(corners[0], left + corners[0], top);
-        go('L', right - corners[1], top);
-        turn(corners[1], right, top + corners[1]);
-        go('L', right, bottom - corners[2]);
-        turn(corners[2], right - corners[2], bottom);
-        go('L', left + corners[3], bottom);
-        turn(corners[3], left, bottom - corners[3]);
-        out_ += "Z\"";
-        colour(" fill", box.fill);
-        if (box.edge) {
-            colour(" stroke", box.edge);
-            with(" stroke-width", box.thick);
-        }
-        out_ += "/>\n";
-    }
-    void operator()(const scene_text& text) {
-        out_ += "<text";
-        with(" x", text.x)(" y", text.baseline);
-        if (text.bold) out_ += " font-weight=\"bold\"";
-        if (text.spacing != 0) with(" letter-spacing", text.spacing);
-        words(text.text, text.points, text.colour);
-    }
-    void operator()(const scene_stroke& stroke) {
-        out_ += "<polyline fill=\"none\" stroke-linecap=\"round\" stroke-linejoin=\"round\"";
-        through(stroke.points);
-        colour(" stroke", stroke.colour);
-        with(" stroke-width", stroke.thick);
-        out_ += "/>\n";
-    }
-    void operator()(const scene_drawing& drawn) {
-        place seen{0, 0, drawing::inner_width, drawn.shown->full_height};
-        if (!drawn.whole) seen = drawn_bounds(*drawn.shown);
-        out_ += "<svg";
-        with(" x", drawn.at.left)(" y", drawn.at.top);
-        view(seen, drawn.at.width, drawn.at.height);
-        if (drawn.whole) out_ += " preserveAspectRatio=\"none\"";
-        out_ += ">\n";
-        operations(*drawn.shown, drawn.whole);
-        out_ += "</svg>\n";
-    }
-
-    void operations(const drawing& shown, bool with_ground) {
-        drawn_ = &shown;
-        if (with_ground) {
-            out_ += "<rect";
-            with(" width", drawing::inner_width)(" height", shown.full_height);
-            colour(" fill", colour_on(shown, shown.ground));
-            out_ += "/>\n";
-        }
-        for (const drawing_op& op : shown.operations()) std::visit(*this, op);
-    }
-
-    void open(int width, int height) {
+private:
+    void open() {
+        const int width = drawing::inner_width, height = drawn_.full_height;
         out_ += "<svg xmlns=\"http://www.w3.org/2000/svg\" xml:space=\"preserve\" font-family=\"";
         for (std::string_view between; const std::string_view family : look::font_families) {
             out_.append(between).append(family);
             between = ", ";
         }
         out_ += ", sans-serif\" font-kerning=\"none\"";
-        view({0, 0, width, height}, width / twips_per_pixel, height / twips_per_pixel);
-        out_ += ">\n";
+        with(" width", width / twips_per_pixel)(" height", height / twips_per_pixel);
+        out_ += " viewBox=\"0 0 ";
+        number(width);
+        out_ += ' ';
+        number(height);
+        out_ += "\">\n<rect";
+        with(" width", width)(" height", height);
+        colour(" fill", colour_on(drawn_, drawn_.ground));
+        out_ += "/>\n";
     }
-    void close() { out_ += "</svg>\n"; }
-
-private:
+    void text(const scene_text& line) {
+        out_ += "<text";
+        with(" x", line.x)(" y", line.baseline)(" font-size", line.points * 20);
+        colour(" fill", line.colour);
+        out_ += '>';
+        escaped(line.text);
+        out_ += "</text>\n";
+    }
     template<class Number>
     void number(Number value) {
         char digits[32];
@@ -183,16 +130,6 @@ private:
     template<class Number>
     writer& operator()(std::string_view name, Number value) {
         return with(name, value);
-    }
-    void view(const place& seen, int width, int height) {
-        with(" width", width)(" height", height);
-        out_ += " viewBox=\"";
-        for (std::string_view between; const int value : {seen.left, seen.top, seen.width, seen.height}) {
-            out_ += between;
-            number(value);
-            between = " ";
-        }
-        out_ += '"';
     }
     void colour(std::string_view name, std::optional<rgb24> value) {
         constexpr std::string_view hex = "0123456789ABCDEF";
@@ -216,13 +153,6 @@ private:
             else
                 out_ += c;
     }
-    void words(std::string_view text, double points, rgb24 in) {
-        with(" font-size", points * 20);
-        colour(" fill", in);
-        out_ += '>';
-        escaped(text);
-        out_ += "</text>\n";
-    }
     void through(std::span<const point> points) {
         out_ += " points=\"";
         for (std::string_view between; const point& each : points) {
@@ -236,7 +166,7 @@ private:
     }
     // A filled shape is all of the pen's colour.
     void paint(const pen& pen, bool filled) {
-        const rgb24 drawn_in = colour_on(*drawn_, pen.colour);
+        const rgb24 drawn_in = colour_on(drawn_, pen.colour);
         colour(" fill", filled ? std::optional(drawn_in) : std::nullopt);
         if (!filled && pen.style != line_style::transparent) {
             colour(" stroke", drawn_in);
@@ -248,28 +178,12 @@ private:
         out_ += "/>\n";
     }
 
-    std::string& out_;
-    const drawing* drawn_ = nullptr; // whose colours are meant
+    const drawing& drawn_;
+    std::string out_;
 };
 
 } // namespace
 
-std::string svg_of(const drawing& shown) {
-    std::string text;
-    writer out(text);
-    out.open(drawing::inner_width, shown.full_height);
-    out.operations(shown, true);
-    out.close();
-    return text;
-}
-
-std::string svg_of(const form& shown, look_settings with) {
-    std::string text;
-    writer out(text);
-    out.open(shown.width, shown.height);
-    for (const scene_op& op : scene_of(shown, with)) std::visit(out, op);
-    out.close();
-    return text;
-}
+std::string svg_of(const drawing& shown) { return writer(shown).all(); }
 
 } // namespace cijferwerf

@@ -1,8 +1,6 @@
 // A family's test as a table: a row tells what an exercise draws and how its answers follow from that, and at least 840
 // exercises (up to 30,000, until all that the row names has occurred) are held against it. What no row can say -
-// clocks, graphs - is a function in the row's check. Rows stand in tests/generators/<family>/<family>_test.cpp, as many
-// files as the family has, and what the properties of every exercise are not to ask of an exercise in exceptions.def
-// beside them (exceptions.h).
+// clocks, graphs - is a function in the row's check.
 //
 //     const exercise_rows percentages([] {
 //         row(L_voetbal_01_08_click, 5, "zitten # mensen. Hiervan is # % supporter", range({3000, 12000}, {55, 94}),
@@ -11,13 +9,13 @@
 //             tips("Reken eerst het percentage", "Neem dan 1 %"));
 //     });
 //
-// that is: the exercise, its number of sub-variants, what is read, and parts in any order, which exercise_row explains.
-// Patterns are those of pattern.h: "#" reads a number, "(een|twee)" a choice as 0 or 1, "@" a word, "$0" stands for a
-// number that was read before. A, B, C, ... are the numbers that `reads` finds, in order, then those of `counts`. A
-// formula is an expression in them, or a lambda [](const reading& n) { return n[0] ...; } that returns a number or a
-// text; where the answers are words, such as colours, it may tell what stands behind them in the picture. says("# : #",
-// B, A) is an answer that looks like that. Sub-variants that differ have rows of their own with `of`. Write the
-// numbers of a table by hand and compute another way than the generator does.
+// that is: the exercise, its number of sub-variants, what is read, and parts (exercise_row explains them). Patterns are
+// those of pattern.h: "#" reads a number, "(een|twee)" a choice as 0 or 1, "@" a word, "$0" stands for a number that
+// was read before. A, B, C, ... are the numbers that `reads` finds, in order, then those of `counts`. A formula is an
+// expression in them, or a lambda [](const reading& n) { return n[0] ...; } that returns a number or a text; where the
+// answers are words, such as colours, it may tell what stands behind them in the picture. says("# : #", B, A) is an
+// answer that looks like that. Sub-variants that differ have rows of their own with `of`. Write the numbers of a table
+// by hand and compute another way than the generator does.
 #pragma once
 
 #include "tests/support/pattern.h"

@@ -14,6 +14,9 @@
 #include "tests/support/sums.h"
 
 #include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -475,6 +478,71 @@ TEST_P(every_exercise, gives_drawing_commands_that_draw_what_they_say) {
 
 INSTANTIATE_TEST_SUITE_P(generators, every_exercise, testing::ValuesIn(all_exercises()),
                          [](const auto& of) { return std::string(naam(of.param)); });
+
+// ---- texts that are written and never shown ----
+
+// The texts in source code, without blanks around them; what is said when the program stops is not for pupils.
+std::vector<std::string> texts_in(const std::string& code) {
+    std::vector<std::string> texts;
+    for (std::size_t at = 0; at < code.size(); ++at) {
+        const auto skip_to = [&](std::string_view end) { at = std::min(code.find(end, at + 1), code.size()); };
+        const std::string_view rest = std::string_view(code).substr(at);
+        if (rest.starts_with("//") || rest.starts_with("#")) skip_to("\n");
+        if (rest.starts_with("stop_run(")) skip_to(";");
+        if (rest[0] != '"') continue;
+        std::string text;
+        for (++at; code[at] != '"'; ++at) text += code[at] == '\\' ? code[++at] : code[at];
+        texts.emplace_back(kaal(std::string_view(text)));
+    }
+    // Only measured, and powers as they are written for a drawing.
+    std::erase_if(texts, [](const std::string& text) { return text == "1000,0" || text.starts_with('^'); });
+    return texts;
+}
+
+// All that an exercise can show or say.
+std::string shown_by(const oefening& made) {
+    std::string all = joined(made.uitlegopdrachten);
+    for (const tekstregels* lines : told(made)) all += joined(*lines);
+    for (const std::string& answer : answers(made)) all.append(answer).append("|");
+    for (const std::string& word : seen(made).words) all.append(word).append("|");
+    for (const picture_op& picture : cijferwerf::all<picture_op>(made.plaatje)) all.append(picture.file).append("|");
+    for (const spoken_part& part : made.plaatje.spoken) all.append(part.sentence).append("|");
+    return all;
+}
+
+// A wording, a name of a list or a mistake that never comes is a draw that has gone wrong. What families share in
+// gedeeld/ is a kit that knows more than its users need.
+class every_family : public testing::TestWithParam<std::string> {};
+
+TEST_P(every_family, shows_each_of_its_texts_some_time) {
+    std::string code;
+    for (const auto& file : std::filesystem::directory_iterator(CIJFERWERF_GENERATORS "/" + GetParam())) {
+        std::ifstream in(file.path());
+        code.append(std::istreambuf_iterator<char>(in), {});
+    }
+    std::vector<std::string> unseen = texts_in(code);
+    std::vector<oefening_id> own = all_exercises();
+    std::erase_if(own, [&](oefening_id id) { return code.find("::" + std::string(naam(id)) + "(") == code.npos; });
+    oefeningen maker([] { return 36'000.0F; });
+    for (int i = 0; i < 400 && !unseen.empty(); ++i)
+        for (const oefening_id each : own)
+            for (int variant = 0; variant < 10 && !unseen.empty(); ++variant) {
+                maker.maak(each);
+                const std::string all = shown_by(maker);
+                std::erase_if(unseen, [&](const std::string& text) { return all.find(text) != all.npos; });
+            }
+    EXPECT_TRUE(unseen.empty()) << testing::PrintToString(unseen);
+}
+
+std::vector<std::string> families() {
+    std::vector<std::string> all;
+    for (const auto& each : std::filesystem::directory_iterator(CIJFERWERF_GENERATORS))
+        if (each.is_directory() && each.path().filename() != "gedeeld") all.push_back(each.path().filename());
+    return all;
+}
+
+INSTANTIATE_TEST_SUITE_P(generators, every_family, testing::ValuesIn(families()),
+                         [](const auto& of) { return of.param; });
 
 } // namespace
 } // namespace cijferwerf
