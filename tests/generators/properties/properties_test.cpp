@@ -516,10 +516,8 @@ class every_family : public testing::TestWithParam<std::string> {};
 
 TEST_P(every_family, shows_each_of_its_texts_some_time) {
     std::string code;
-    for (const auto& file : std::filesystem::directory_iterator(CIJFERWERF_GENERATORS "/" + GetParam())) {
-        std::ifstream in(file.path());
-        code.append(std::istreambuf_iterator<char>(in), {});
-    }
+    for (const auto& file : std::filesystem::directory_iterator(CIJFERWERF_GENERATORS "/" + GetParam()))
+        code.append(std::istreambuf_iterator<char>(std::ifstream(file.path()).rdbuf()), {});
     std::vector<std::string> unseen = texts_in(code);
     std::vector<oefening_id> own = all_exercises();
     std::erase_if(own, [&](oefening_id id) { return code.find("::" + std::string(naam(id)) + "(") == code.npos; });
