@@ -5,6 +5,7 @@ namespace cijferwerf {
 breuk trek_breuk(random_draws& toeval, int least, int most) {
     const int noemer = least + toeval.below(most - least + 1);
     std::vector<int> tellers;
+    tellers.reserve(static_cast<std::size_t>(noemer));
     for (int teller = 1; teller < noemer; ++teller)
         if (std::gcd(teller, noemer) == 1) tellers.push_back(teller);
     return {tellers[static_cast<std::size_t>(toeval.below(static_cast<int>(tellers.size())))], noemer};

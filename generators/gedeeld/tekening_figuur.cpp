@@ -41,6 +41,7 @@ roosterfiguur roosterfiguur::verschoven(int rechts, int omlaag) const {
 void roosterfiguur::teken(drawing& on, const rooster& op, kleur vulling) const {
     const zelfde_stand bewaard(on);
     std::vector<point> hoeken;
+    hoeken.reserve(hoeken_.size());
     for (const point& hoek : hoeken_) hoeken.push_back(op.hoek(hoek));
     on.polygon(hoeken, vulling, true);
     teken_rand(on, op);
@@ -56,6 +57,7 @@ void roosterfiguur::teken_rand(drawing& on, const rooster& op) const {
 
 std::string roosterfiguur::rand() const {
     std::string zin;
+    zin.reserve(30 * hoeken_.size());
     for (std::size_t i = 0; i < hoeken_.size(); ++i) {
         const point &van = hoeken_[i], &naar = hoeken_[(i + 1) % hoeken_.size()];
         const int opzij = naar.x - van.x, omlaag = naar.y - van.y;

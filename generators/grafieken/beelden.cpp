@@ -24,6 +24,7 @@ void teken_mens(drawing& on, int midden, int boven, int hoogte, bool half, kleur
                                                    {20, 650},
                                                    {0, 650}}};
     std::vector<point> romp;
+    romp.reserve(2 * omtrek.size());
     for (const point& p : omtrek) romp.push_back({midden - p.x * hoogte / 1000, boven + p.y * hoogte / 1000});
     if (!half)
         for (auto p = omtrek.rbegin(); p != omtrek.rend(); ++p)
