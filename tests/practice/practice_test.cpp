@@ -97,6 +97,7 @@ TEST_F(practice, each_button_says_whether_its_answer_is_right_and_comments_on_it
         orders.insert(order);
         EXPECT_EQ(screen.juiste_positie, fixed ? right() : 0);
         EXPECT_EQ(order.find('1') + 1, fixed ? 1 : static_cast<std::size_t>(right()));
+        EXPECT_EQ(screen.alternatief[4].font_size, 13) << "as large as short answers can be";
         for (int attempt = 1; attempt <= 3; ++attempt) {
             const int i = wrong(n % 4 < 2 ? attempt : 4 - attempt);
             ASSERT_TRUE(answer(i));

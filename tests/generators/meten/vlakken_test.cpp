@@ -43,13 +43,13 @@ const formula volume = B * C * D;
 const exercise_rows surfaces([] {
     row(B_oppervlakte_07_12_click, 5, "van een @. *| De oppervlakte van een $a is ongeveer | rood | # ",
         range({{50, 5600}}), range({{4, 450}}), range({{2, 9600}}), range({{1, 7000}}), range({{2, 20000}}),
-        right(kind(1)), wrong("een lengtemaat gekozen", kind(0)), wrong("bevat een inhoudsmaat", kind(2)),
-        wrong("bevat een maat voor gewicht", kind(3)),
+        right(kind(1)), wrong("een lengtemaat gekozen in plaats van een oppervlaktemaat.", kind(0)),
+        wrong("bevat een inhoudsmaat", kind(2)), wrong("bevat een maat voor gewicht", kind(3)),
         explains("' is een (lengtemaat|oppervlaktemaat|inhoudsmaat), alle", 1));
     row(B_inhoud_08_17_click, 5, "van een @. *| De inhoud van een $a is ongeveer... | rood | # ", range({{25, 30}}),
         range({{2, 250}}), range({{1, 12}}), range({{350, 500}}), range({{1, 500}}), right(kind(2)),
-        wrong("een lengtemaat gekozen", kind(0)), wrong("bevat een oppervlaktemaat", kind(1)),
-        wrong("bevat een maat voor gewicht", kind(3)),
+        wrong("een lengtemaat gekozen in plaats van een inhoudsmaat.", kind(0)),
+        wrong("bevat een oppervlaktemaat", kind(1)), wrong("bevat een maat voor gewicht", kind(3)),
         explains("' is een (lengtemaat|oppervlaktemaat|inhoudsmaat), alle", 2));
     rectangle(1, "rechthoek. | # m | # cm ", {{0.4, 4.9, 0.3}, {25, 375, 30}, {1.3, 4, 0.1}}, A, B);
     rectangle(2, "rechthoek. | # cm | # m ", {{55, 495, 30}, {0.4, 3.8, 0.3}, {1.3, 4, 0.1}}, B, A);
