@@ -102,7 +102,7 @@ void drawing::clear() {
 }
 
 kladblok& drawing::kept() {
-    if (kept_ == nullptr) kept_ = std::make_shared<kladblok>();
+    if (kept_ == nullptr) kept_.reset(new kladblok); // which make_shared would fill with zeros first
     return *kept_;
 }
 
